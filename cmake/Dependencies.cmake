@@ -1,0 +1,15 @@
+# Everything here is a Debian package of packages.txt.
+find_package(Boost REQUIRED)
+find_package(spdlog REQUIRED)
+find_package(fmt REQUIRED)
+find_package(nlohmann_json REQUIRED)
+find_package(CLI11 REQUIRED)
+find_package(glm REQUIRED)
+find_package(pugixml REQUIRED)
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(BULLET REQUIRED IMPORTED_TARGET bullet)
+pkg_check_modules(OGRE REQUIRED IMPORTED_TARGET OGRE)
+find_library(CAMP_LIBRARY camp REQUIRED)
+
+add_library(tidemark_camp INTERFACE)
+target_link_libraries(tidemark_camp INTERFACE ${CAMP_LIBRARY})

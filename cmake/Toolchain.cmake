@@ -1,0 +1,18 @@
+# Flags that every target of ours shares. Third-party headers come in as SYSTEM, so they warn about nothing.
+find_program(CCACHE ccache)
+if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  # The two settings let ccache work together with precompiled headers.
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime ${CCACHE})
+endif()
+add_link_options(-fuse-ld=mold)
+
+add_library(tidemark_flags INTERFACE)
+target_compile_options(tidemark_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Werror)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  # -fpch-preprocess lets ccache see through a precompiled header.
+  target_compile_options(tidemark_flags INTERFACE -fpch-preprocess)
+endif()
+if(TIDEMARK_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()

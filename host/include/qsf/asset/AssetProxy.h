@@ -1,0 +1,41 @@
+#pragma once
+#include "qsf/base/StringHash.h"
+
+#include <string>
+
+namespace qsf {
+
+/// A file of a project, known by its local name `<project>/<type>/<category>/<name>`. Owned by its project.
+class QSF_API BaseAsset {
+public:
+  BaseAsset(std::string localName, std::string file) : mLocalName(std::move(localName)), mFile(std::move(file)) {}
+  /// The whole local asset name.
+  const std::string& getName() const { return mLocalName; }
+  const std::string& getFile() const { return mFile; }
+  StringHash getId() const { return StringHash(mLocalName); }
+
+private:
+  std::string mLocalName;
+  std::string mFile;
+};
+
+/// Refers to an asset by name or id, whether it exists or not.
+class QSF_API AssetProxy {
+public:
+  AssetProxy() = default;
+  explicit AssetProxy(StringHash localAssetId) : mId(localAssetId) {}
+  explicit AssetProxy(const std::string& localAssetName) : mId(localAssetName) {}
+
+  /// Null if no mounted project has it.
+  const BaseAsset* getAsset() const;
+  /// Uninitialised if the asset doesn't exist.
+  std::uint32_t getGlobalAssetId() const;
+  StringHash getLocalAssetId() const { return mId; }
+  /// Empty if the asset doesn't exist.
+  std::string getLocalAssetName() const;
+
+private:
+  StringHash mId;
+};
+
+}

@@ -1,0 +1,50 @@
+#pragma once
+#include "qsf/base/StringHash.h"
+#include "qsf/base/Time.h"
+#include "qsf/reflection/Object.h"
+
+namespace qsf {
+
+class Entity;
+class Prototype;
+
+/// A part of an entity. Made and destroyed by its prototype. Property "Active". Components that live over time derive and
+/// override the on... operations; a component that needs the frame registers a job proxy in onStartup.
+class QSF_API Component : public Object {
+  CAMP_RTTI()
+public:
+  explicit Component(Prototype* prototype) : mPrototype(prototype) {}
+  ~Component() override = default;
+  Component(const Component&) = delete;
+  Component& operator=(const Component&) = delete;
+  static void declareCamp();
+
+  Prototype& getPrototype() const { return *mPrototype; }
+  /// The owning entity. Never called on a component of a prefab.
+  Entity& getEntity() const;
+  std::uint64_t getEntityId() const;
+  /// Hash of the class name.
+  StringHash getId() const;
+
+  bool isActive() const { return mActive; }
+  void setActive(bool active);
+
+  /// Starts the component if it isn't running. Returns whether it runs.
+  bool startup(bool withParents = true);
+  void shutdown();
+  bool isRunning() const { return mRunning; }
+
+protected:
+  /// Called when the entity stands on a map of a started game. False: the component doesn't run.
+  virtual bool onStartup() { return true; }
+  virtual void onShutdown() {}
+  virtual void onSetActive(bool /*active*/) {}
+
+private:
+  Prototype* mPrototype;
+  bool mActive = true;
+  bool mRunning = false;
+};
+
+}
+CAMP_TYPE_NONCOPYABLE(qsf::Component)

@@ -1,0 +1,40 @@
+#pragma once
+#include "qsf/base/StringHash.h"
+#include "qsf/base/Time.h"
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace qsf {
+
+namespace detail {
+struct Job;
+}
+
+/// The job managers of a frame, in their fixed order. Jobs of a manager run in the order of their registration. Owned by Qsf.
+class QSF_API JobManagers {
+public:
+  JobManagers();
+  ~JobManagers();
+  JobManagers(const JobManagers&) = delete;
+  JobManagers& operator=(const JobManagers&) = delete;
+
+  /// Appends a manager. A simulation manager rests while the simulation is paused.
+  void addJobManager(StringHash id, bool isSimulation);
+  /// One frame: every manager, in order. A job registered inside runs from the next frame on; one unregistered inside
+  /// doesn't run any more. A pause holds from the next call on.
+  void runFrame(Time timePassed);
+
+  void setPaused(bool paused) { mPaused = paused; }
+  bool isPaused() const { return mPaused; }
+  std::size_t getNumberOfJobs(StringHash id) const;
+
+private:
+  friend class JobProxy;
+  struct Manager;
+  std::vector<std::unique_ptr<Manager>> mManagers;
+  bool mPaused = false;
+};
+
+}

@@ -1,0 +1,40 @@
+#pragma once
+#include "qsf/message/MessageParameters.h"
+
+#include <boost/function.hpp>
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+namespace qsf {
+
+namespace detail {
+struct MessageListener;
+}
+
+/// Delivers messages at once, inside emitMessage, to the listeners in the order they registered. A fault that escapes a
+/// listener is logged and costs that listener that message. Owned by Qsf.
+class QSF_API MessageSystem {
+public:
+  MessageSystem();
+  ~MessageSystem();
+  MessageSystem(const MessageSystem&) = delete;
+  MessageSystem& operator=(const MessageSystem&) = delete;
+
+  void emitMessage(const MessageConfiguration& message);
+  void emitMessage(const MessageParameters& parameters);
+  /// Number of emitted messages of that id since the host's start; tests and tools read it.
+  std::uint64_t getEmittedCount(StringHash id) const;
+
+private:
+  friend class MessageProxy;
+  std::unordered_map<StringHash, std::vector<std::shared_ptr<detail::MessageListener>>> mListeners;
+  std::unordered_map<StringHash, std::uint64_t> mEmitted;
+  int mDepth = 0;
+};
+
+}
