@@ -1,0 +1,36 @@
+#pragma once
+#include "qsf/Export.h"
+
+#include <glm/glm.hpp>
+
+#include <string>
+#include <vector>
+
+namespace qsf {
+
+class GuiDocument;
+
+/// The surface that documents stand on, and the cursor above it. Owned by the GUI; outlives its documents.
+class QSF_API GuiContext {
+public:
+  GuiContext() = default;
+  GuiContext(const GuiContext&) = delete;
+  GuiContext& operator=(const GuiContext&) = delete;
+
+  /// Cursor in 0 to 1, from the upper left corner of the window. The middle of the window until it is moved.
+  const glm::vec2& getNormalizedMouseCursorPosition() const { return mCursor; }
+  /// Clamped to the window; a coordinate that isn't a number leaves the cursor where it is.
+  void setNormalizedMouseCursorPosition(const glm::vec2& position);
+
+  /// Living documents in the order of their making.
+  const std::vector<GuiDocument*>& getDocuments() const { return mDocuments; }
+  /// The first document of that name, or null.
+  GuiDocument* findDocument(const std::string& name) const;
+
+private:
+  friend class GuiDocument;
+  std::vector<GuiDocument*> mDocuments;
+  glm::vec2 mCursor{0.5f, 0.5f};
+};
+
+}
