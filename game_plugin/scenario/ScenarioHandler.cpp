@@ -1,0 +1,212 @@
+#include "game_plugin/scenario/ScenarioHandler.h"
+
+#include "game_plugin/scenario/JsonStore.h"
+#include "game_plugin/scenario/LocalPlayer.h"
+#include "game_plugin/scenario/Log.h"
+#include "game_plugin/scenario/MapScriptManager.h"
+
+#include "em5/base/Jobs.h"
+
+#include <boost/bind/bind.hpp>
+
+namespace script {
+
+namespace {
+
+/// Number of Update calls on the stack, of any handler, and the handlers that wait for it to become zero.
+int runningUpdates = 0;
+std::vector<ScenarioHandler*> retiredHandlers;
+
+void freeRetiredHandlers() {
+  std::vector<ScenarioHandler*> handlers;
+  handlers.swap(retiredHandlers);
+  for (ScenarioHandler* handler : handlers)
+    delete handler;
+}
+
+qsf::StringHash jobManagerOf(StartKind kind) {
+  switch (kind) {
+  case StartKind::Simulation:
+    return em5::Jobs::SIMULATION_LOGIC;
+  case StartKind::Animation:
+    return em5::Jobs::ANIMATION_VEHICLE;
+  case StartKind::Realtime:
+    break;
+  }
+  return em5::Jobs::REALTIME_GUI_DEBUG;
+}
+
+}
+
+/// Keeps retired handlers alive while a tick runs: an effect may stop the script that it belongs to.
+class ScenarioHandler::RunningScope {
+public:
+  RunningScope() { ++runningUpdates; }
+  ~RunningScope() {
+    if (--runningUpdates == 0 && !retiredHandlers.empty())
+      freeRetiredHandlers();
+  }
+  RunningScope(const RunningScope&) = delete;
+  RunningScope& operator=(const RunningScope&) = delete;
+};
+
+ScenarioHandler::ScenarioHandler(std::shared_ptr<GlobalStores> globalStores)
+    : mGlobal(std::move(globalStores)), mJsonVariables(std::make_unique<JsonStore>()), mConditions(this),
+      mEffects(this) {}
+
+ScenarioHandler::~ScenarioHandler() = default;
+
+void ScenarioHandler::Retire(ScenarioHandler* handler) {
+  if (!handler)
+    return;
+  handler->mStopped = true;
+  handler->mUpdateJobProxy.unregister();
+  retiredHandlers.push_back(handler);
+  if (runningUpdates == 0)
+    freeRetiredHandlers();
+}
+
+void ScenarioHandler::Start(StartKind kind) {
+  if (!mDocument) {
+    logInfo("ScenarioHandler: Scriptpointer is not valid");
+    return;
+  }
+  mDocument->time = qsf::Time::ZERO;
+  for (ScenarioTrigger& trigger : mDocument->triggers) {
+    trigger.active = trigger.initialActive;
+    trigger.looped = trigger.initialLooped;
+    trigger.lastTimeActive = qsf::Time::ZERO;
+  }
+  mUpdateJobProxy.registerAt(jobManagerOf(kind), boost::bind(&ScenarioHandler::Update, this, boost::placeholders::_1),
+                             qsf::jobs::JobConfiguration(2));
+}
+
+void ScenarioHandler::Update(const qsf::JobArguments& arguments) {
+  if (!mDocument) {
+    mUpdateJobProxy.unregister();
+    logInfo("There is no loaded script");
+    return;
+  }
+  const RunningScope scope;
+  mDocument->time += arguments.getTimePassed();
+  for (std::size_t i = 0; i < mDocument->triggers.size() && !mStopped; ++i)
+    TickTrigger(mDocument->triggers[i]);
+}
+
+void ScenarioHandler::TickTrigger(ScenarioTrigger& trigger) {
+  if (!trigger.active)
+    return;
+  const bool isClient = trigger.multiplayerMode != 2 && isLocalPlayerClient();
+  if (isClient && trigger.multiplayerMode == 0)
+    return; // the host runs it
+
+  // What follows reads the trigger as it stood when its turn came. Conditions can't change its fixed part, so only what a
+  // client sends along needs a copy.
+  std::vector<std::uint64_t> callers;
+  if (isClient)
+    callers = trigger.callers;
+  const std::uint64_t target = trigger.target;
+
+  std::uint32_t fulfilled = 0;
+  if (mConditions.evaluate(mDocument->time - trigger.lastTimeActive, trigger.conditions,
+                           static_cast<std::uint32_t>(trigger.requiredConditions), fulfilled, &trigger)) {
+    if (isClient)
+      FireOnClient(trigger, callers, target);
+    else
+      Fire(trigger);
+  }
+  trigger.fulfilledConditions = fulfilled;
+}
+
+void ScenarioHandler::Fire(ScenarioTrigger& trigger) {
+  if (trigger.multiplayerMode == 1 && hasLocalPlayer())
+    trigger.player = 0;
+  trigger.lastTimeActive = mDocument->time;
+  if (!trigger.looped)
+    trigger.active = false; // before the effects, so that one of them can switch it on again
+  ++trigger.timesFired;
+  mEffects.run(trigger.effects, trigger.globalNameHash);
+}
+
+void ScenarioHandler::FireOnClient(ScenarioTrigger& trigger, const std::vector<std::uint64_t>& callers,
+                                   std::uint64_t target) {
+  trigger.lastTimeActive = mDocument->time;
+  if (!trigger.looped)
+    trigger.active = false;
+  ++trigger.timesFired;
+  if (!sendTriggerToHost(trigger.globalNameHash, callers, target))
+    logInfo("Cant send Instructions (GUISYNC)");
+}
+
+void ScenarioHandler::SetTriggerActive(const std::string& localName, bool value) {
+  if (localName.empty())
+    return;
+  ScenarioTrigger* trigger = mDocument ? mDocument->findTrigger(localName) : nullptr;
+  if (!trigger) {
+    logInfo("Activate Trigger Effect was not able to find the trigger" + localName);
+    return;
+  }
+  if (!trigger->active)
+    trigger->lastTimeActive = mDocument->time;
+  trigger->active = value;
+}
+
+void ScenarioHandler::SetTriggerActive(std::uint32_t hash, bool value) {
+  ScenarioTrigger* trigger = mDocument ? mDocument->findTrigger(hash) : nullptr;
+  if (!trigger) {
+    logInfo("Activate Trigger Effect was not able to find the trigger" + std::to_string(hash));
+    return;
+  }
+  if (!trigger->active)
+    trigger->lastTimeActive = mDocument->time;
+  trigger->active = value;
+}
+
+std::uint32_t ScenarioHandler::GetTriggerHash(const std::string& localName) const {
+  logInfo("Triggername we search for: " + localName);
+  if (const ScenarioTrigger* trigger = mDocument ? mDocument->findTrigger(localName) : nullptr)
+    return trigger->globalNameHash;
+  logInfo("Cant find trigger");
+  return qsf::UNINITIALIZED_STRING_HASH;
+}
+
+std::string ScenarioHandler::GetTriggerName(std::uint32_t hash) const {
+  const ScenarioTrigger* trigger = mDocument ? mDocument->findTrigger(hash) : nullptr;
+  return trigger ? trigger->name : std::string();
+}
+
+std::pair<ScenarioHandler*, ScenarioTrigger> ScenarioHandler::FindTriggerGlobally(std::uint32_t hash) {
+  if (const MapScriptManager* manager = MapScriptManager::Get())
+    for (const MapScriptEntry* entry : manager->GetScriptEntries())
+      if (entry->document)
+        if (const ScenarioTrigger* trigger = entry->document->findTrigger(hash))
+          return {entry->handler, *trigger};
+  return {nullptr, ScenarioTrigger()};
+}
+
+bool ScenarioHandler::SetGlobalTriggerActiv(std::uint32_t hash, bool /*value*/) {
+  ScenarioHandler* handler = FindTriggerGlobally(hash).first;
+  if (!handler)
+    return false;
+  handler->SetTriggerActive(hash, true); // kept: a global activation only switches on
+  return true;
+}
+
+bool ScenarioHandler::SetGlobalTriggerActiv(const std::string& globalName, bool value) {
+  const std::uint32_t hash = qsf::StringHash(globalName).getHash();
+  if (SetGlobalTriggerActiv(hash, value))
+    return true;
+  logInfo("SetGlobalTriggerActiv cant find the trigger with the Name " + globalName + " Hash " + std::to_string(hash));
+  return false;
+}
+
+void ScenarioHandler::PrintTriggerInfo(std::uint32_t hash) const {
+  const auto [handler, trigger] = FindTriggerGlobally(hash);
+  if (handler)
+    logInfo("Local Name: \"" + trigger.name + "\" Global Name: \"" + trigger.globalName + "\" Stringhash: \"" +
+            std::to_string(hash) + "\"");
+}
+
+std::string ScenarioHandler::GlobalMark() const { return std::string(mDocument ? mDocument->globalMark() : "\xA7"); }
+
+}

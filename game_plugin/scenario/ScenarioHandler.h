@@ -1,0 +1,149 @@
+#pragma once
+#include "game_plugin/scenario/Argument.h"
+#include "game_plugin/scenario/EntityList.h"
+#include "game_plugin/scenario/Records.h"
+#include "game_plugin/scenario/ScenarioConditions.h"
+#include "game_plugin/scenario/ScenarioEffects.h"
+#include "game_plugin/scenario/Store.h"
+
+#include "qsf/job/JobProxy.h"
+
+#include <boost/property_tree/ptree_fwd.hpp>
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace script {
+
+/// The stores that all scripts share. Owned by MapScriptManager; handlers hold on to them, so that a script which is being
+/// stopped with its manager can end its effect.
+struct GlobalStores {
+  Store<float> variables;
+  Store<std::string> stringVariables;
+  Store<EntityList> entityLists;
+};
+
+struct JsonStore;
+
+/// Kinds of job that a handler can be started on.
+enum class StartKind : std::uint32_t { Realtime = 0, Simulation = 1, Animation = 2 };
+
+/// Runs one script: a host job that advances the script's clock and walks its triggers, and the home of its local stores.
+/// Made and stopped by MapScriptManager. The document isn't owned and outlives the handler.
+class ScenarioHandler {
+public:
+  explicit ScenarioHandler(std::shared_ptr<GlobalStores> globalStores);
+  virtual ~ScenarioHandler();
+  ScenarioHandler(const ScenarioHandler&) = delete;
+  ScenarioHandler& operator=(const ScenarioHandler&) = delete;
+
+  /// Stops the handler and frees it as soon as none of its effects is running. Null is allowed.
+  static void Retire(ScenarioHandler* handler);
+
+  void SetDocument(ScriptDocument* document) { mDocument = document; }
+  ScriptDocument* GetDocument() const { return mDocument; }
+  const ScenarioConditions& GetConditions() const { return mConditions; }
+  const ScenarioEffects& GetEffects() const { return mEffects; }
+
+  /// Resets the running fields of the triggers and registers the job. The stores stay.
+  void Start(StartKind kind);
+  /// One tick.
+  void Update(const qsf::JobArguments& arguments);
+  /// Stopped by Retire: no further effect runs.
+  bool IsStopped() const { return mStopped; }
+
+  /// Switches a trigger of this script. An empty name does nothing; a name that isn't found is logged. Switching on an
+  /// inactive trigger restarts its timers.
+  void SetTriggerActive(const std::string& localName, bool value);
+  void SetTriggerActive(std::uint32_t hash, bool value);
+  /// Hash of the first trigger of that name, the uninitialised hash if there is none.
+  std::uint32_t GetTriggerHash(const std::string& localName) const;
+  /// Local name of that hash, or empty.
+  std::string GetTriggerName(std::uint32_t hash) const;
+
+  /// First trigger of that hash over all scripts: its handler, null if the script doesn't run or there is no such trigger,
+  /// and a copy of it.
+  static std::pair<ScenarioHandler*, ScenarioTrigger> FindTriggerGlobally(std::uint32_t hash);
+  /// Switches a trigger of any script on. The value is dropped on the way: scripts rely on a global activation that can
+  /// only switch on. Returns whether it was found in a running script.
+  static bool SetGlobalTriggerActiv(std::uint32_t hash, bool value);
+  static bool SetGlobalTriggerActiv(const std::string& globalName, bool value);
+  void PrintTriggerInfo(std::uint32_t hash) const;
+
+  // Resolution: what a parameter means now. Reading a missing name appends it to its store, empty.
+
+  /// A number literal, or a variable.
+  float ResolveFloat(const Argument& argument);
+  float ResolveFloat(const std::string& text);
+  /// The text itself, or the string variable of `svar(name`. The reference holds until that variable is erased or assigned.
+  const std::string& ResolveString(const Argument& argument);
+  std::string ResolveString(const std::string& text);
+  /// Ids separated by blanks, or a list; a private copy.
+  EntityIds ResolveEntityList(const Argument& argument);
+  EntityIds ResolveEntityList(const std::string& text);
+  /// Three numbers or variables, separated by blanks. On another count: a message, false, and the outputs stay.
+  bool SplitVecInXYZ(const Argument& argument, float& x, float& y, float& z);
+  bool SplitVecInXYZ(const std::string& text, float& x, float& y, float& z);
+
+  void SetFloatVariable(const Argument& name, float value);
+  void SetFloatVariable(const std::string& name, float value);
+  void SetStringVariable(const std::string& name, const std::string& value);
+
+  void AddToEntityList(const Argument& name, std::uint64_t id);
+  void AddToEntityList(const std::string& name, std::uint64_t id);
+  void RemoveFromEntityList(const std::string& name, std::uint64_t id);
+  void ClearEntityList(const Argument& name, bool removeList = false);
+  void ClearEntityList(const std::string& name, bool removeList = false);
+  /// Adds `count` random entities of a unit type (see CheckUnitType) within range of the centre, or of the whole map if
+  /// there is no such centre. Ends when the candidates run out.
+  void AddToEntityListByTypeInArea(const std::string& name, const std::string& unitType, std::uint32_t count,
+                                   std::uint64_t centerId, float range);
+
+  void SetBoolVariable(const std::string& name, bool value);
+  bool GetBoolVariable(const std::string& name);
+  void SetJsonVariable(const std::string& name, const boost::property_tree::ptree& value);
+  boost::property_tree::ptree GetJsonVariable(const std::string& name);
+  void AddToStringList(const std::string& name, const std::string& value);
+  std::vector<std::string> GetStringList(const std::string& name);
+
+  // The stores themselves, for entries that move or print them, and for tools.
+
+  Store<float> variables;
+  Store<std::string> stringVariables;
+  Store<EntityList> entityLists;
+  Store<bool> boolVariables;
+  Store<std::vector<std::string>> stringLists;
+  JsonStore& GetJsonStore() const { return *mJsonVariables; }
+  GlobalStores& GetGlobalStores() const { return *mGlobal; }
+  /// Removes every local entry of that name.
+  void RemoveLocalVariable(const std::string& name);
+  void RemoveLocalStringVariable(const std::string& name);
+  void RemoveLocalEntityList(const std::string& name);
+
+  /// The global mark `§` as this script's file writes it.
+  std::string GlobalMark() const;
+
+private:
+  class RunningScope;
+
+  void TickTrigger(ScenarioTrigger& trigger);
+  void Fire(ScenarioTrigger& trigger);
+  void FireOnClient(ScenarioTrigger& trigger, const std::vector<std::uint64_t>& callers, std::uint64_t target);
+  template <class Value> static std::size_t Locate(const Argument& argument, std::string_view name, Store<Value>& store);
+
+  Store<float>& VariablesOf(bool global) { return global ? mGlobal->variables : variables; }
+  Store<std::string>& StringVariablesOf(bool global) { return global ? mGlobal->stringVariables : stringVariables; }
+  Store<EntityList>& EntityListsOf(bool global) { return global ? mGlobal->entityLists : entityLists; }
+
+  std::shared_ptr<GlobalStores> mGlobal;
+  std::unique_ptr<JsonStore> mJsonVariables;
+  ScriptDocument* mDocument = nullptr;
+  ScenarioConditions mConditions;
+  ScenarioEffects mEffects;
+  bool mStopped = false;
+  qsf::JobProxy mUpdateJobProxy;
+};
+
+}
