@@ -107,7 +107,7 @@ bool ScenarioHandler::SplitVecInXYZ(const std::string& text, float& x, float& y,
 void ScenarioHandler::SetFloatVariable(const Argument& name, float value) {
   // A name that reads as a number is stored all the same; no use of it will ever see the entry.
   Store<float>& store = VariablesOf(name.info().isGlobal);
-  if (name.mEpoch == Argument::LITERAL_EPOCH)
+  if (name.info().isNumber)
     store.value(store.findOrAppend(name.text())) = value;
   else
     store.value(Locate(name, name.text(), store)) = value;

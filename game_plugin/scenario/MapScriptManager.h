@@ -1,0 +1,98 @@
+#pragma once
+#include "game_plugin/scenario/ScenarioHandler.h"
+
+#include "qsf/job/JobProxy.h"
+#include "qsf/message/MessageProxy.h"
+
+#include <boost/property_tree/ptree_fwd.hpp>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace script {
+
+class ScriptParser;
+class MapScriptManager;
+
+/// When a script's handler is made.
+enum class ScriptMode : std::uint32_t {
+  GameStartup = 0,
+  MapStartup = 1,
+  Temporary = 2,
+  EditorStartup = 3,
+  MapStartupSimulation = 4,
+  Unknown = 5 ///< any other text; the entry is refused
+};
+
+/// "GAME_STARTUP" and so on, compared exactly.
+ScriptMode toScriptMode(std::string_view text);
+std::string_view toText(ScriptMode mode);
+
+/// A script that the manager knows. On the heap; entries of a manager live until it ends or, temporary ones, until they stop.
+struct MapScriptEntry {
+  ScriptMode mode = ScriptMode::Unknown;
+  std::vector<std::string> maps;       ///< local asset names, or "All"
+  std::string path;                    ///< absolute file; for a temporary script the path as given
+  std::string globalNamePrefix;        ///< project, `/`, configured path; empty for a temporary script
+  ScriptDocument* document = nullptr;  ///< made at parse time, kept for good
+  ScenarioHandler* handler = nullptr;  ///< null while the script doesn't run
+  std::string key;                     ///< child name in MapScript.json; tools show it
+  std::string project;                 ///< name of the mod's project; tools show it
+};
+
+/// Decides which scripts exist and when they run: reads the MapScript.json of each enabled mod, parses every script that it
+/// lists, and makes handlers as their modes demand. Owns the global stores. One lives at a time, made by the plug-in.
+class MapScriptManager {
+public:
+  /// Reads all configurations; also writes the reference documentation.
+  MapScriptManager();
+  explicit MapScriptManager(bool writeDocumentation);
+  /// Runs DoShutdown and frees the stores; documents stay.
+  virtual ~MapScriptManager();
+  MapScriptManager(const MapScriptManager&) = delete;
+  MapScriptManager& operator=(const MapScriptManager&) = delete;
+
+  /// The living manager, or null.
+  static MapScriptManager* Get();
+
+  void LoadConfiguration(bool writeDocumentation);
+  /// Starts the scripts of the main map. Called at GAME_STARTUP_FINISHED, and directly after a reload.
+  void StartMapScripts();
+  /// Starts one instance of the script for each known script with another path: the multiplication is what scripts know.
+  void StartTemporaryScript(const std::string& path);
+  /// Stops the script instances with that path. The entry behind a removed one is skipped in this walk.
+  void StopScript(const std::string& path);
+  /// Stops all scripts and destroys what they showed; temporary scripts are forgotten.
+  void DoShutdown();
+
+  const std::vector<MapScriptEntry*>& GetScriptEntries() const { return mScriptEntries; }
+  const std::shared_ptr<GlobalStores>& GetGlobalStores() const { return mGlobalStores; }
+  /// Entities that may not be extinguished; emptied at each start.
+  std::vector<std::uint64_t>& GetBlockedEntityIds() { return mBlockedEntityIds; }
+
+private:
+  struct ModFolder;
+
+  void ReadMod(const ModFolder& mod);
+  bool ReadScript(const ModFolder& mod, const boost::property_tree::ptree& root, const std::string& key);
+  void ReadMaps(const boost::property_tree::ptree& maps, MapScriptEntry& entry) const;
+  void StartGameScript();
+  void StartScriptsOfMap(bool (*isStarted)(ScriptMode));
+  void StartScript(MapScriptEntry& entry, StartKind kind);
+  void EditorJob(const qsf::JobArguments& arguments);
+  void OnPreCommand(const qsf::MessageParameters& parameters);
+
+  std::shared_ptr<GlobalStores> mGlobalStores = std::make_shared<GlobalStores>();
+  std::vector<MapScriptEntry*> mScriptEntries;
+  std::unique_ptr<ScriptParser> mParser;
+  qsf::MessageProxy mGameStartupMessageProxy;
+  qsf::MessageProxy mGameShutdownMessageProxy;
+  qsf::JobProxy mSelectionJobProxy;
+  std::vector<std::uint64_t> mBlockedEntityIds;
+  qsf::MessageProxy mPreCommandMessageProxy;
+  qsf::Time mEditorDelay;
+  qsf::JobProxy mEditorJobProxy;
+};
+
+}
