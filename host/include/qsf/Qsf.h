@@ -17,6 +17,7 @@ class InputSystem;
 class LocalizationSystem;
 class LayerManager;
 class CallRecorder;
+class FaultCounter;
 
 /// The root of the runtime: owns the systems and hands them out. One lives at a time; the program that hosts the game makes
 /// and destroys it. Systems are made in the constructor and live as long as it does.
@@ -44,6 +45,8 @@ public:
   LayerManager& getLayerManager() const;
   /// Operations that leave no trace in a component are noted here, for tests and tools.
   CallRecorder& getCallRecorder() const;
+  /// Faults that were caught in callbacks since the host's start.
+  FaultCounter& getFaultCounter() const;
 
 private:
   struct Systems;

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <compare>
 #include <cstdint>
+#include <limits>
 
 namespace qsf {
 
@@ -23,20 +24,27 @@ public:
   constexpr double getSecondsAsDouble() const { return static_cast<double>(mMicroseconds) / 1000000.0; }
   constexpr std::int64_t getMicroseconds() const { return mMicroseconds; }
 
-  constexpr Time operator+(Time other) const { return Time(mMicroseconds + other.mMicroseconds); }
-  constexpr Time operator-(Time other) const { return Time(mMicroseconds - other.mMicroseconds); }
-  constexpr Time& operator+=(Time other) {
-    mMicroseconds += other.mMicroseconds;
-    return *this;
+  /// Sums and differences stop at the largest and smallest span, so an infinite time stays one.
+  constexpr Time operator+(Time other) const {
+    if (other.mMicroseconds > 0 ? mMicroseconds > LARGEST - other.mMicroseconds
+                                : mMicroseconds < SMALLEST - other.mMicroseconds)
+      return Time(other.mMicroseconds > 0 ? LARGEST : SMALLEST);
+    return Time(mMicroseconds + other.mMicroseconds);
   }
-  constexpr Time& operator-=(Time other) {
-    mMicroseconds -= other.mMicroseconds;
-    return *this;
+  constexpr Time operator-(Time other) const {
+    if (other.mMicroseconds > 0 ? mMicroseconds < SMALLEST + other.mMicroseconds
+                                : mMicroseconds > LARGEST + other.mMicroseconds)
+      return Time(other.mMicroseconds > 0 ? SMALLEST : LARGEST);
+    return Time(mMicroseconds - other.mMicroseconds);
   }
+  constexpr Time& operator+=(Time other) { return *this = *this + other; }
+  constexpr Time& operator-=(Time other) { return *this = *this - other; }
   friend constexpr bool operator==(Time, Time) = default;
   friend constexpr auto operator<=>(Time, Time) = default;
 
 private:
+  static constexpr std::int64_t LARGEST = std::numeric_limits<std::int64_t>::max();
+  static constexpr std::int64_t SMALLEST = std::numeric_limits<std::int64_t>::min();
   constexpr explicit Time(std::int64_t microseconds) : mMicroseconds(microseconds) {}
   std::int64_t mMicroseconds = 0;
 };

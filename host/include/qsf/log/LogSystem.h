@@ -50,6 +50,7 @@ private:
   std::vector<Entry> mListeners;
   std::size_t mNextKey = 1;
   int mThreshold = INFO;
+  int mDepth = 0;
 };
 
 /// Logs through the running host if there is one and the severity passes; the host's own code logs with it, too.

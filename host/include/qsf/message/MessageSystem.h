@@ -29,12 +29,24 @@ public:
   void emitMessage(const MessageParameters& parameters);
   /// Number of emitted messages of that id since the host's start; tests and tools read it.
   std::uint64_t getEmittedCount(StringHash id) const;
+  /// All counts, by the text of the id where the string hash manager knows it and else by its number.
+  std::map<std::string, std::uint64_t> getEmittedCounts() const;
+
+  /// Messages that listeners emit while they hear one may nest this deep. Beyond it the message is dropped with an error in
+  /// the log, and so are all further ones until the outermost has been delivered.
+  static constexpr int MAXIMUM_DEPTH = 64;
 
 private:
   friend class MessageProxy;
+  void addListener(const std::shared_ptr<detail::MessageListener>& listener);
+  void removeListener(detail::MessageListener& listener);
+  void removeEndedListeners();
+
   std::unordered_map<StringHash, std::vector<std::shared_ptr<detail::MessageListener>>> mListeners;
   std::unordered_map<StringHash, std::uint64_t> mEmitted;
+  std::vector<StringHash> mIdsWithEndedListeners;
   int mDepth = 0;
+  bool mTooDeep = false;
 };
 
 }

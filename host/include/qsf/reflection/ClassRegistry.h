@@ -1,0 +1,36 @@
+#pragma once
+#include "qsf/base/StringHash.h"
+
+#include <camp/class.hpp>
+
+#include <vector>
+
+namespace qsf {
+
+/// The declared classes that the host can make and find by the hash of their name: components, actions, commands. One per
+/// process, since CAMP's own table is: a class stays known from one host to the next. Plug-ins add theirs through
+/// Plugin::addCampClass; they go when the plug-in goes.
+class QSF_API ClassRegistry {
+public:
+  /// Adds a class under the hash of its name. A class that is there already is not added again.
+  static void addClass(const camp::Class& campClass);
+  /// A class that isn't there does nothing.
+  static void removeClass(const camp::Class& campClass);
+  /// Null if there is none. Declared classes that were never added are not found.
+  static const camp::Class* findClass(StringHash id);
+  /// All classes, in the order in which they were added.
+  static const std::vector<const camp::Class*>& getClasses();
+
+  /// Declares a class with its static declareCamp() unless that was done before in this process, and adds it. Every host calls
+  /// it for every class; declaring a class twice is an error in CAMP.
+  template <class T> static void declareOnce() {
+    static const bool declared = (T::declareCamp(), true);
+    static_cast<void>(declared);
+    addClass(camp::classByType<T>());
+  }
+};
+
+/// Shorthand for ClassRegistry::findClass, for those that make components.
+QSF_API const camp::Class* findComponentClass(StringHash componentId);
+
+}

@@ -1,0 +1,10 @@
+#pragma once
+#include <string>
+#include <vector>
+
+namespace qsf {
+
+/// A hint for a mistyped name: ` (did you mean "A" or "B"?)` of the closest candidates, empty if none comes close.
+std::string nearNamesHint(const std::string& name, const std::vector<std::string>& candidates);
+
+}

@@ -1,0 +1,16 @@
+#include "qsf/log/ErrorHandling.h"
+#include "qsf/log/LogSystem.h"
+
+namespace qsf {
+
+void ErrorHandling::printToLog(const std::string& text, int level) {
+  logMessage(LogSystem::ERROR, text + " (error level " + std::to_string(level) + ")");
+}
+
+bool ErrorHandling::handleBreakOnAssert(const char* file, int line, const char* function) {
+  logMessage(LogSystem::ERROR, std::string("Assertion failed in ") + (function ? function : "an unknown function") +
+                                   " at " + (file ? file : "an unknown file") + ":" + std::to_string(line));
+  return false;
+}
+
+}
