@@ -19,14 +19,15 @@ public:
   FreeplaySystem(const FreeplaySystem&) = delete;
   FreeplaySystem& operator=(const FreeplaySystem&) = delete;
 
-  /// Adds the pool asset of that local name (type `em5_eventpool`). False, and nothing is added, without a running
-  /// game, if there is no such asset, or if its file is malformed (which is logged with its place). A pool that is
-  /// there already stays once: true.
+  /// Adds the pool asset of that local name (type `em5_eventpool`). False, and nothing is added, if there is no such
+  /// asset or if its file is malformed (which is logged with its place). A pool that is there already stays once: true.
+  /// Pools work while a game runs.
   bool addEventPoolsByName(const std::string& localAssetName);
   std::vector<std::string> getEventPoolNames() const;
 
-  /// Starts the event of a definition asset. Null without a running game, if there is no such definition or if its file
-  /// is malformed (logged with its place).
+  /// Starts the event of a definition asset (type `em5_event`), named by its local asset name or by `<category>/<name>`
+  /// alone, which takes the project mounted last that has it. Null without a running game, if there is no such
+  /// definition or if its file is malformed (logged with its place).
   FreeplayEvent* triggerEventByPath(const FreeplayEventTriggerInfo& triggerInfo, const std::string& definition);
 
   FreeplayEventManager& getEventManager() { return mEventManager; }

@@ -9,11 +9,14 @@ namespace em5 {
 /// of entities that are gone leave the selection between frames.
 class QSF_API SelectionManager : public qsf::SelectionManagerTemplate<std::uint64_t> {
 public:
-  /// Drops ids without an entity; called by the host between frames.
-  void dropMissingEntities();
+  /// Called by the host between frames.
+  void dropDestroyedEntities();
 
 protected:
   void onSelectionChanged() override;
+
+private:
+  IdSet mSeenAlive;
 };
 
 }

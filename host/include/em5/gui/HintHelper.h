@@ -14,10 +14,10 @@ public:
   struct Hint {
     std::string text;
     std::uint32_t supervisor; ///< uninitialised: no supervisor shows
-    qsf::Time displayTime;    ///< zero: the default of 10 seconds
+    qsf::Time displayTime;    ///< left until it goes
   };
 
-  /// The hint stays up until its time is over or 50 newer ones have pushed it out.
+  /// Zero displays for 10 seconds. The hint stays up until its time is over or 50 newer ones have pushed it out.
   static void showHint(const std::string& text, std::uint32_t supervisor, qsf::Time displayTime);
   /// Hints on the screen, oldest first.
   static const std::deque<Hint>& getCurrentHints();

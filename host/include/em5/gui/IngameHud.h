@@ -7,8 +7,8 @@
 
 namespace em5 {
 
-/// The windows that the player sees in a game. Owned by the emergency GUI and lives as long. All windows are visible at
-/// first but the debugging ones.
+/// The windows that the player sees in a game. Owned by the emergency GUI and lives as long. Mini map, bars,
+/// objectives, commands, unit overview and the feed are visible at first; the others come up on demand.
 class QSF_API IngameHud {
 public:
   explicit IngameHud(qsf::GuiContext& context);

@@ -1,0 +1,246 @@
+#include "em5/game/HostSession.h"
+
+#include "em5/application/Application.h"
+#include "em5/base/Messages.h"
+#include "em5/component/ComponentClasses.h"
+#include "em5/freeplay/FreeplaySystem.h"
+#include "em5/game/Game.h"
+#include "em5/gui/EmergencyGui.h"
+#include "em5/gui/HintHelper.h"
+#include "em5/plugin/Plugin.h"
+#include "em5/settings/GameDebugGroup.h"
+#include "em5/settings/GameSettingsGroup.h"
+#include "qsf/Qsf.h"
+#include "qsf/asset/Project.h"
+#include "qsf/base/Random.h"
+#include "qsf/base/StringHashManager.h"
+#include "qsf/editor/EditorApplication.h"
+#include "qsf/input/InputSystem.h"
+#include "qsf/job/JobManagers.h"
+#include "qsf/localization/LocalizationSystem.h"
+#include "qsf/log/LogSystem.h"
+#include "qsf/map/Map.h"
+#include "qsf/message/MessageSystem.h"
+#include "qsf/plugin/PluginSystem.h"
+
+#include <optional>
+#include <stdexcept>
+
+namespace em5 {
+
+struct HostSession::Internals {
+  explicit Internals(const Options& given) : options(given) {}
+
+  Options options;
+  // In the order of their making; they go in reverse.
+  qsf::Qsf qsf;
+  Application application;
+  GameDebugGroup debugGroup;
+  GameSettingsGroup settingsGroup;
+  Plugin plugin;
+  std::unique_ptr<EmergencyGui> emergencyGui;
+  std::unique_ptr<qsf::editor::EditorApplication> editor;
+  std::unique_ptr<Game> game;
+
+  std::function<void(qsf::Map&)> mapPreparation;
+  std::optional<std::string> requestedMap;
+  std::string currentMap;
+  qsf::Time time;
+  std::uint64_t frameCount = 0;
+  bool gameRunning = false;
+  bool busy = false; ///< inside a frame, a start or an end: a wish has to wait
+
+  bool isGame() const { return options.kind == Kind::GAME; }
+  void emit(qsf::StringHash message) { qsf.getMessageSystem().emitMessage(qsf::MessageConfiguration(message)); }
+
+  void start(const std::string& map);
+  void end();
+  void dropGame();
+  void switchMap(const std::string& map);
+  void fulfilWishes();
+  void frame(qsf::Time tick);
+};
+
+namespace {
+
+/// Marks the session as busy for the length of a scope.
+class BusyScope {
+public:
+  explicit BusyScope(bool& flag) : mFlag(flag), mBefore(flag) { flag = true; }
+  ~BusyScope() { mFlag = mBefore; }
+  BusyScope(const BusyScope&) = delete;
+  BusyScope& operator=(const BusyScope&) = delete;
+
+private:
+  bool& mFlag;
+  bool mBefore;
+};
+
+bool isMapAsset(const std::string& localAssetName) {
+  const std::size_t slash = localAssetName.find('/');
+  return slash != std::string::npos && localAssetName.compare(slash + 1, 4, "map/") == 0 &&
+         qsf::AssetProxy(localAssetName).getAsset() != nullptr;
+}
+
+}
+
+void HostSession::Internals::start(const std::string& map) {
+  BusyScope scope(busy);
+  try {
+    qsf.getJobManagers().setPaused(false);
+    if (isGame()) game = std::make_unique<Game>();
+    qsf.getMainMap().load(map);
+    if (mapPreparation) mapPreparation(qsf.getMainMap());
+    qsf.getMainMap().startup();
+  } catch (...) {
+    dropGame();
+    throw;
+  }
+  currentMap = map;
+  gameRunning = true;
+  application.getGameSessionConfiguration().setMapIdentifier(MapIdentifier::fromLocalAssetName(map));
+  if (!isGame()) return;
+  plugin.getFreeplaySystem().startGame();
+  emit(Messages::GAME_STARTUP_FINISHED);
+}
+
+void HostSession::Internals::end() {
+  if (!gameRunning) return;
+  BusyScope scope(busy);
+  if (isGame()) {
+    emit(Messages::GAME_SHUTDOWN_STARTING);
+    plugin.getFreeplaySystem().stopGame();
+    HintHelper::clear();
+  } else {
+    editor->getSelectionSystem().getEntitySelectionManager().clearSelection();
+  }
+  gameRunning = false;
+  dropGame();
+}
+
+void HostSession::Internals::dropGame() {
+  // The map goes first: its components may ask for the game until they are gone.
+  qsf.getMainMap().clear();
+  game.reset();
+}
+
+void HostSession::Internals::switchMap(const std::string& map) {
+  if (!isMapAsset(map)) {
+    qsf::logMessage(qsf::LogSystem::ERROR, "There is no map \"" + map + "\"; the game goes on");
+    return;
+  }
+  try {
+    end();
+    start(map);
+  } catch (const std::exception& exception) {
+    qsf::logMessage(qsf::LogSystem::ERROR,
+                    std::string("The game has ended, its next map cannot be started: ") + exception.what());
+  }
+}
+
+void HostSession::Internals::fulfilWishes() {
+  const Application::Wishes wishes = application.takeWishes();
+  if (wishes.startGame) requestedMap = application.getGameSessionConfiguration().getMapIdentifier().getLocalAssetName();
+  if (wishes.endGame && !wishes.startGame) end();
+  if (!requestedMap) return;
+  const std::string map = *requestedMap;
+  requestedMap.reset();
+  switchMap(map);
+}
+
+void HostSession::Internals::frame(qsf::Time tick) {
+  BusyScope scope(busy);
+  HintHelper::update(tick);
+  qsf.getJobManagers().runFrame(tick);
+  if (game) game->getSelectionManager()->dropDestroyedEntities();
+  qsf.getMainMap().collectGarbage();
+  qsf.getInputSystem().endFrame();
+  time += tick;
+  ++frameCount;
+}
+
+HostSession::HostSession(const Options& options) {
+  if (qsf::Qsf::instance()) throw std::logic_error("there is a running host already");
+  mInternals = std::make_unique<Internals>(options);
+  declareComponentClasses();
+  qsf::Random::setSeed(options.seed);
+  Internals& internals = *mInternals;
+  internals.qsf.getLogSystem().setThreshold(options.logThreshold);
+  internals.qsf.getLocalizationSystem().setLanguage(options.language);
+  internals.application.getGameSessionConfiguration().setGameModeType(options.gameMode);
+  internals.settingsGroup.setSavedAccountname(options.account);
+  for (const char* message : {"em5::Messages::GAME_STARTUP_FINISHED", "em5::Messages::GAME_SHUTDOWN_STARTING",
+                              "em5::Messages::EM5_PRE_COMMAND_EXECUTE", "em5::Messages::EM5_CHANGE_SELECTION"})
+    internals.qsf.getStringHashManager().registerStringHash(qsf::StringHash(message), message);
+}
+
+HostSession::~HostSession() {
+  Internals& internals = *mInternals;
+  internals.end();
+  // Plug-ins hold windows on the GUI and listeners at the host: they go before both.
+  internals.qsf.getPluginSystem().unloadPlugins();
+  HintHelper::clear();
+}
+
+qsf::Qsf& HostSession::getQsf() const { return mInternals->qsf; }
+
+const HostSession::Options& HostSession::getOptions() const { return mInternals->options; }
+
+void HostSession::mountBaseProject(const std::string& directory) {
+  mInternals->qsf.getProjectManager().registerSingleProjectFromFileSystem(directory);
+}
+
+Mod& HostSession::mountMod(const std::string& directory, ModState state) {
+  return mInternals->plugin.getModSystem().addMod(directory, state);
+}
+
+void HostSession::startup() {
+  if (mInternals->isGame()) {
+    if (!mInternals->emergencyGui) mInternals->emergencyGui = std::make_unique<EmergencyGui>();
+  } else if (!mInternals->editor) {
+    mInternals->editor = std::make_unique<qsf::editor::EditorApplication>();
+  }
+}
+
+bool HostSession::loadPlugin(const std::string& libraryPath, const std::string& factoryName) {
+  startup();
+  return mInternals->qsf.getPluginSystem().loadPlugin(libraryPath, factoryName) != nullptr;
+}
+
+void HostSession::setMapPreparation(std::function<void(qsf::Map&)> preparation) {
+  mInternals->mapPreparation = std::move(preparation);
+}
+
+void HostSession::startGame(const std::string& mapLocalAssetName) {
+  startup();
+  mInternals->end();
+  mInternals->start(mapLocalAssetName);
+}
+
+void HostSession::endGame() { mInternals->end(); }
+
+bool HostSession::isGameRunning() const { return mInternals->gameRunning; }
+
+void HostSession::runFrame(qsf::Time tick) {
+  mInternals->frame(tick < qsf::Time() ? qsf::Time() : tick);
+  mInternals->fulfilWishes();
+}
+
+void HostSession::setPaused(bool paused) { mInternals->qsf.getJobManagers().setPaused(paused); }
+
+bool HostSession::isPaused() const { return mInternals->qsf.getJobManagers().isPaused(); }
+
+void HostSession::requestMap(const std::string& mapLocalAssetName) {
+  mInternals->requestedMap = mapLocalAssetName;
+  if (!mInternals->busy) mInternals->fulfilWishes();
+}
+
+void HostSession::requestRestart() {
+  if (mInternals->gameRunning) requestMap(mInternals->currentMap);
+}
+
+qsf::Time HostSession::getTime() const { return mInternals->time; }
+
+std::uint64_t HostSession::getFrameCount() const { return mInternals->frameCount; }
+
+}
