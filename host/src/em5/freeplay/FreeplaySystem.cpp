@@ -1,7 +1,7 @@
 #include "em5/freeplay/FreeplaySystem.h"
 
 #include "em5/base/Jobs.h"
-#include "em5/base/JsonFile.h"
+#include "em5/base/JsonMembers.h"
 #include "em5/settings/GameDebugGroup.h"
 #include "qsf/Qsf.h"
 #include "qsf/asset/Project.h"
@@ -60,19 +60,19 @@ bool FreeplaySystem::addEventPoolsByName(const std::string& localAssetName) {
   const qsf::BaseAsset* asset = findAssetOfType(localAssetName, "em5_eventpool");
   if (!asset) return false;
   try {
-    const JsonFile file(asset->getFile());
-    const auto& root = file.getRoot();
-    file.refuseUnknownKeys(root, "/", {"events", "shortestInterval", "longestInterval", "maximumActive"});
-    if (!root.contains("events")) file.fail("/events", "the array of event definitions is missing");
+    const qsf::Json json = qsf::readJsonFile(asset->getFile());
+    const qsf::JsonPlace root(json, asset->getFile());
+    root.expectObject({"events", "shortestInterval", "longestInterval", "maximumActive"});
     auto pool = std::make_unique<EventPool>();
     pool->name = localAssetName;
-    pool->events = file.readStrings(root["events"], "/events");
-    pool->shortestInterval = static_cast<float>(file.readNumber(root, "/", "shortestInterval", 0.1, LONGEST_TIME, 120));
-    pool->longestInterval = static_cast<float>(
-        file.readNumber(root, "/", "longestInterval", 0.1, LONGEST_TIME, std::max(300.0f, pool->shortestInterval)));
+    pool->events = asTexts(root.member("events"));
+    const NumberRange intervals{0.1, LONGEST_TIME};
+    pool->shortestInterval = static_cast<float>(numberOr(root, "shortestInterval", intervals, 120));
+    pool->longestInterval =
+        static_cast<float>(numberOr(root, "longestInterval", intervals, std::max(300.0f, pool->shortestInterval)));
     if (pool->longestInterval < pool->shortestInterval)
-      file.fail("/longestInterval", "it is shorter than shortestInterval");
-    pool->maximumActive = static_cast<std::size_t>(file.readNumber(root, "/", "maximumActive", 0, 1000, 3));
+      root.member("longestInterval").fail("it is shorter than shortestInterval");
+    pool->maximumActive = static_cast<std::size_t>(numberOr(root, "maximumActive", {0, 1000}, 3));
     pool->drawInterval();
     mPools.push_back(std::move(pool));
     return true;
@@ -93,16 +93,17 @@ FreeplayEvent* FreeplaySystem::triggerEventByPath(const FreeplayEventTriggerInfo
   const qsf::BaseAsset* asset = mGameRunning ? findEventDefinition(definition) : nullptr;
   if (!asset) return nullptr;
   try {
-    const JsonFile file(asset->getFile());
-    const auto& root = file.getRoot();
-    file.refuseUnknownKeys(root, "/", {"name", "succeedsAfter", "failsAfter", "canWin", "canLose"});
+    const qsf::Json json = qsf::readJsonFile(asset->getFile());
+    const qsf::JsonPlace root(json, asset->getFile());
+    root.expectObject({"name", "succeedsAfter", "failsAfter", "canWin", "canLose"});
+    const NumberRange times{0, LONGEST_TIME};
     auto event = std::make_unique<FreeplayEvent>();
     event->mDefinition = asset->getName();
-    event->mEventName = file.readString(root, "/", "name", asset->getName().substr(asset->getName().rfind('/') + 1));
-    event->mSucceedsAfter = qsf::Time::fromSeconds(file.readNumber(root, "/", "succeedsAfter", 0, LONGEST_TIME, 0));
-    event->mFailsAfter = qsf::Time::fromSeconds(file.readNumber(root, "/", "failsAfter", 0, LONGEST_TIME, 0));
-    event->mCanWinEvent = file.readBool(root, "/", "canWin", true);
-    event->mCanLoseEvent = file.readBool(root, "/", "canLose", true);
+    event->mEventName = textOr(root, "name", asset->getName().substr(asset->getName().rfind('/') + 1));
+    event->mSucceedsAfter = qsf::Time::fromSeconds(numberOr(root, "succeedsAfter", times, 0));
+    event->mFailsAfter = qsf::Time::fromSeconds(numberOr(root, "failsAfter", times, 0));
+    event->mCanWinEvent = boolOr(root, "canWin", true);
+    event->mCanLoseEvent = boolOr(root, "canLose", true);
     return &mEventManager.startEvent(std::move(event));
   } catch (const std::exception& exception) {
     qsf::logMessage(qsf::LogSystem::ERROR, exception.what());

@@ -1,6 +1,6 @@
 #include "em5/map/MapIdentifier.h"
 
-#include "em5/base/JsonFile.h"
+#include "em5/base/JsonMembers.h"
 #include "qsf/Qsf.h"
 #include "qsf/asset/Project.h"
 #include "qsf/log/LogSystem.h"
@@ -22,10 +22,11 @@ std::vector<std::string> MapIdentifier::getSeasonalEvents() const {
     const qsf::BaseAsset* asset = qsf::AssetProxy(name).getAsset();
     if (!asset) continue;
     try {
-      const JsonFile file(asset->getFile());
-      const auto found = file.getRoot().find(mLocalAssetName);
-      if (found == file.getRoot().end()) continue;
-      for (std::string& event : file.readStrings(*found, "/" + mLocalAssetName))
+      const qsf::Json json = qsf::readJsonFile(asset->getFile());
+      const qsf::JsonPlace root(json, asset->getFile());
+      root.expectObject();
+      if (!root.has(mLocalAssetName)) continue;
+      for (std::string& event : asTexts(root.member(mLocalAssetName)))
         if (std::find(events.begin(), events.end(), event) == events.end()) events.push_back(std::move(event));
     } catch (const std::exception& exception) {
       qsf::logMessage(qsf::LogSystem::ERROR, exception.what());

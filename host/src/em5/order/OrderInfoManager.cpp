@@ -1,6 +1,6 @@
 #include "em5/order/OrderInfoManager.h"
 
-#include "em5/base/JsonFile.h"
+#include "em5/base/JsonMembers.h"
 #include "qsf/Qsf.h"
 #include "qsf/asset/Project.h"
 
@@ -15,38 +15,30 @@ bool isOrderInfoAsset(const qsf::BaseAsset& asset) {
   return type != std::string::npos && name.compare(type + 1, 11, "order_info/") == 0;
 }
 
-void readStartPersonnel(const JsonFile& file, OrderInfo& info) {
-  const auto found = file.getRoot().find("startPersonnel");
-  if (found == file.getRoot().end()) return;
-  if (!found->is_array()) file.fail("/startPersonnel", "an array is expected here");
-  std::size_t index = 0;
-  for (const auto& element : *found) {
-    const std::string place = "/startPersonnel/" + std::to_string(index++);
-    if (!element.is_object()) file.fail(place, "an object with orderInfo and count is expected here");
-    file.refuseUnknownKeys(element, place, {"orderInfo", "count"});
-    const std::string name = file.readString(element, place, "orderInfo", "");
-    if (name.empty()) file.fail(place + "/orderInfo", "the name of the person's order info is missing");
-    const double count = file.readNumber(element, place, "count", 0, 1000, 1);
-    info.getStartPersonnelListForWriting().push_back({name, static_cast<std::int32_t>(count)});
+void readStartPersonnel(const qsf::JsonPlace& list, OrderInfo& info) {
+  list.expectArray();
+  for (std::size_t i = 0; i < list.size(); ++i) {
+    const qsf::JsonPlace place = list.element(i);
+    place.expectObject({"orderInfo", "count"});
+    const double count = numberOr(place, "count", {0, 1000}, 1);
+    info.getStartPersonnelListForWriting().push_back(
+        {requiredText(place, "orderInfo"), static_cast<std::int32_t>(count)});
   }
 }
 
-std::unique_ptr<OrderInfo> readOrderInfo(const std::string& path) {
-  const JsonFile file(path);
-  const auto& root = file.getRoot();
-  file.refuseUnknownKeys(root, "/",
-                         {"name", "prefab", "department", "miniMapIcon", "personnelSpace", "tags", "startPersonnel"});
-  const std::string name = file.readString(root, "/", "name", "");
-  if (name.empty()) file.fail("/name", "the order info's name is missing");
-  auto info = std::make_unique<OrderInfo>(name);
-  info->setPrefab(file.readString(root, "/", "prefab", ""));
-  info->setDepartment(file.readString(root, "/", "department", ""));
-  info->setMiniMapIconType(file.readString(root, "/", "miniMapIcon", ""));
-  info->setPersonnelSpace(static_cast<std::uint32_t>(file.readNumber(root, "/", "personnelSpace", 0, 1000, 0)));
-  if (const auto tags = root.find("tags"); tags != root.end())
-    for (const std::string& tag : file.readStrings(*tags, "/tags"))
+std::unique_ptr<OrderInfo> readOrderInfo(const std::string& file) {
+  const qsf::Json json = qsf::readJsonFile(file);
+  const qsf::JsonPlace root(json, file);
+  root.expectObject({"name", "prefab", "department", "miniMapIcon", "personnelSpace", "tags", "startPersonnel"});
+  auto info = std::make_unique<OrderInfo>(requiredText(root, "name"));
+  info->setPrefab(textOr(root, "prefab", ""));
+  info->setDepartment(textOr(root, "department", ""));
+  info->setMiniMapIconType(textOr(root, "miniMapIcon", ""));
+  info->setPersonnelSpace(static_cast<std::uint32_t>(numberOr(root, "personnelSpace", {0, 1000}, 0)));
+  if (root.has("tags"))
+    for (const std::string& tag : asTexts(root.member("tags")))
       info->setTag(tag);
-  readStartPersonnel(file, *info);
+  if (root.has("startPersonnel")) readStartPersonnel(root.member("startPersonnel"), *info);
   return info;
 }
 

@@ -1,6 +1,6 @@
 #include "em5/plugin/ModSystem.h"
 
-#include "em5/base/JsonFile.h"
+#include "em5/base/JsonMembers.h"
 #include "qsf/Qsf.h"
 #include "qsf/asset/Project.h"
 #include "qsf/base/LoadError.h"
@@ -13,10 +13,11 @@ namespace {
 
 /// Name of a project that is known but not mounted: its assets stay unread.
 std::string readProjectName(const std::string& directory) {
-  const JsonFile file(directory + "/project.json");
-  const std::string name = file.readString(file.getRoot(), "/", "name", "");
-  if (name.empty()) file.fail("/name", "the project's name is missing");
-  return name;
+  const std::string file = directory + "/project.json";
+  const qsf::Json json = qsf::readJsonFile(file);
+  const qsf::JsonPlace root(json, file);
+  root.expectObject();
+  return requiredText(root, "name");
 }
 
 }
