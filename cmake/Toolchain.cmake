@@ -12,6 +12,15 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   # -fpch-preprocess lets ccache see through a precompiled header.
   target_compile_options(tidemark_flags INTERFACE -fpch-preprocess)
 endif()
+if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+  # The same for clang: without the time stamp a precompiled header is the same bytes each time.
+  target_compile_options(tidemark_flags INTERFACE "SHELL:-Xclang -fno-pch-timestamp")
+endif()
+if(TIDEMARK_FUZZ)
+  # Coverage of everything that the fuzzer reaches; only its own programs get libFuzzer's main.
+  add_compile_options(-fsanitize=fuzzer-no-link)
+  add_link_options(-fsanitize=fuzzer-no-link)
+endif()
 if(TIDEMARK_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)

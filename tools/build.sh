@@ -1,0 +1,10 @@
+#!/bin/bash
+# Configures a preset, the first time, and builds it: tools/build.sh PRESET [TARGET...]
+set -euo pipefail
+cd "$(dirname "$0")/.."
+preset=${1:?usage: tools/build.sh PRESET [TARGET...]}
+shift
+if [ ! -f "build/$preset/build.ninja" ]; then
+  cmake --preset "$preset"
+fi
+cmake --build "build/$preset" ${1:+--target "$@"}
