@@ -13,6 +13,8 @@ public:
   const std::string& getName() const { return mLocalName; }
   const std::string& getFile() const { return mFile; }
   StringHash getId() const { return StringHash(mLocalName); }
+  /// The second part of the local name: "map", "prefab", "text".
+  std::string getType() const;
 
 private:
   std::string mLocalName;

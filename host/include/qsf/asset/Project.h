@@ -43,6 +43,8 @@ public:
   Project* getProjectByName(const std::string& name) const;
   /// Null if no mounted project has it. Of equal names the project mounted last wins.
   const BaseAsset* getAssetById(StringHash localAssetId) const;
+  /// Local names of all assets of a type ("map", "prefab"), sorted, each once.
+  std::vector<std::string> getAssetNamesByType(const std::string& type) const;
 
 private:
   std::vector<std::unique_ptr<Project>> mProjects;

@@ -8,8 +8,9 @@ namespace qsf {
 class Entity;
 class Prototype;
 
-/// A part of an entity. Made and destroyed by its prototype. Property "Active". Components that live over time derive and
-/// override the on... operations; a component that needs the frame registers a job proxy in onStartup.
+/// A part of an entity. Made and destroyed by its prototype. Property "Active". Components that live over time derive
+/// and override the on... operations; a component that needs the frame registers a job proxy in onStartup and
+/// unregisters it in onShutdown, since its memory outlives its removal until the end of the frame.
 class QSF_API Component : public Object {
   CAMP_RTTI()
 public:
@@ -23,13 +24,16 @@ public:
   /// The owning entity. Never called on a component of a prefab.
   Entity& getEntity() const;
   std::uint64_t getEntityId() const;
+  /// Null for a component of a prefab.
+  Entity* findEntity() const;
   /// Hash of the class name.
   StringHash getId() const;
 
   bool isActive() const { return mActive; }
   void setActive(bool active);
 
-  /// Starts the component if it isn't running. Returns whether it runs.
+  /// Starts the component if it isn't running. Returns whether it runs. Components of a prefab and of a map that isn't
+  /// started never do.
   bool startup(bool withParents = true);
   void shutdown();
   bool isRunning() const { return mRunning; }
@@ -41,10 +45,15 @@ protected:
   virtual void onSetActive(bool /*active*/) {}
 
 private:
+  friend class Prototype;
   Prototype* mPrototype;
+  mutable StringHash mId;
   bool mActive = true;
   bool mRunning = false;
 };
 
 }
 CAMP_TYPE_NONCOPYABLE(qsf::Component)
+
+// A component class is declared with a constructor that takes a prototype, for which CAMP needs the whole class.
+#include "qsf/prototype/Prototype.h" // IWYU pragma: keep

@@ -11,8 +11,8 @@ public:
   explicit ComponentMapQuery(const Map& map) : mMap(map) {}
 
   std::vector<Component*> getAllInstancesById(StringHash componentId) const;
-  /// Components whose entity's position lies within the circle (x and z only, border included). A radius that isn't a number
-  /// or is negative finds nothing. Costs what it finds, not what the map holds.
+  /// Components whose entity's position lies within the circle (x and z only, border included). A radius that isn't a
+  /// number or is negative finds nothing. Costs what it finds, not what the map holds.
   std::vector<Component*> getInstancesInCircleById(StringHash componentId, const glm::vec3& center, float radius) const;
 
   template <class T> std::vector<T*> getAllInstances() const { return cast<T>(getAllInstancesById(T::COMPONENT_ID)); }

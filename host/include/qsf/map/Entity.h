@@ -12,6 +12,7 @@ public:
   ~Entity() override;
 
   Map& getMap() const { return mMap; }
+  Entity* findEntity() override { return this; }
   void setHidden(bool hidden) { mHidden = hidden; }
   bool isHidden() const { return mHidden; }
   /// Layer that the entity belongs to; 0 is the base layer.
@@ -22,11 +23,14 @@ protected:
   void onComponentAdded(Component& component) override;
   void onComponentRemoved(Component& component) override;
   bool isStarted() const override;
+  void releaseComponent(std::unique_ptr<Component> component) override;
 
 private:
+  friend class Map;
   Map& mMap;
   std::uint32_t mLayerId = 0;
   bool mHidden = false;
+  bool mOnMap = false; // not yet, while its layer rests, or no longer
 };
 
 }

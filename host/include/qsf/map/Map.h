@@ -11,8 +11,11 @@
 
 namespace qsf {
 
-/// The world: entities by id, their components by class, and the bounds and ground that the map's file tells. Iteration goes
-/// by ascending id, so every walk is deterministic. New entities get the id after the highest ever used on this map.
+class Prefab;
+
+/// The world: entities by id, their components by class, and the bounds and ground that the map's file tells. Iteration
+/// goes by ascending id, so every walk is deterministic. New entities get the id after the highest ever used on this
+/// map.
 class QSF_API Map {
 public:
   static constexpr std::uint64_t CORE_ENTITY_ID = 0;
@@ -33,18 +36,21 @@ public:
   /// Null if the id is taken.
   Entity* createEntity(std::uint64_t id);
   Entity* createEntity();
-  /// The entity is gone for every look-up at once; its memory is released at the end of the frame, so the caller may be one
-  /// of its own components. Unlinks parent and children. An unknown id does nothing.
+  /// The entity is gone for every look-up at once; its memory is released at the end of the frame, so the caller may be
+  /// one of its own components. Unlinks parent and children. An unknown id does nothing.
   void destroyObjectById(std::uint64_t id);
   /// All living entities by ascending id.
   std::vector<Entity*> getEntities() const;
   std::size_t getNumberOfEntities() const { return mEntities.size(); }
 
   /// A new entity with copies of the prefab's components; null if there is no such prefab.
+  /// A faulty prefab file is logged at severity 4 and gives null, too.
   Entity* createObjectByLocalPrefabAssetId(StringHash localPrefabAssetId, std::uint64_t id = UNINITIALIZED_ID);
+  /// The same from a prefab at hand; null if the id is taken.
+  Entity* createObjectFromPrefab(const Prefab& prefab, std::uint64_t id = UNINITIALIZED_ID);
 
-  /// Living components of exactly that class, by ascending entity id. The reference holds until a component of that class is
-  /// made or destroyed.
+  /// Living components of exactly that class, by ascending entity id. The reference holds until a component of that
+  /// class is made or destroyed.
   const std::vector<Component*>& getComponentInstances(StringHash componentId) const;
 
   /// True between startup and shutdown of a game while it isn't paused.
@@ -71,6 +77,13 @@ public:
 
 private:
   friend class Entity;
+  friend class LayerManager;
+  friend class MapReader;
+  bool isIdTaken(std::uint64_t id) const;
+  /// Shut down, unlinked and out of every index; null if there is no such entity.
+  std::unique_ptr<Entity> takeOffMap(std::uint64_t id);
+  void putOnMap(std::unique_ptr<Entity> entity);
+
   std::unique_ptr<Internals> mInternals;
   std::map<std::uint64_t, std::unique_ptr<Entity>> mEntities;
   std::unordered_map<std::uint64_t, Entity*> mEntitiesById;

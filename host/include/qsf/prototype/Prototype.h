@@ -28,6 +28,9 @@ public:
   /// Grows by one with each component made or destroyed.
   std::uint32_t getComponentChangesCount() const { return mChanges; }
 
+  /// This prototype as an entity; null for a prefab.
+  virtual Entity* findEntity() { return nullptr; }
+
   template <class T> T* getComponent() const { return static_cast<T*>(getComponentById(T::COMPONENT_ID)); }
   template <class T> T* getOrCreateComponent() { return static_cast<T*>(getOrCreateComponentById(T::COMPONENT_ID)); }
 
@@ -37,12 +40,17 @@ protected:
   virtual void onComponentAdded(Component& /*component*/) {}
   virtual void onComponentRemoved(Component& /*component*/) {}
   virtual bool isStarted() const { return false; }
+  /// Takes over a component that was removed; it has been shut down.
+  virtual void releaseComponent(std::unique_ptr<Component> component) { component.reset(); }
 
 private:
+  friend class Component;
   std::uint64_t mId;
   std::vector<std::unique_ptr<Component>> mComponents;
   std::vector<Component*> mView;
+  std::vector<StringHash> mIds; // of the components, so that a look-up touches one small array
   std::uint32_t mChanges = 0;
 };
 
 }
+CAMP_TYPE_NONCOPYABLE(qsf::Prototype)

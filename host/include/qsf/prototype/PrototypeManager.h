@@ -22,6 +22,9 @@ class QSF_API PrototypeManager {
 public:
   /// Null if there is no such prefab asset. Throws LoadError if its file is faulty.
   Prefab* getPrefabByLocalAssetId(StringHash localAssetId);
+  /// Forgets all prefabs; they are read anew at their next use. Needed before a plug-in whose components they hold
+  /// goes.
+  void clear() { mPrefabs.clear(); }
 
 private:
   std::unordered_map<StringHash, std::unique_ptr<Prefab>> mPrefabs;

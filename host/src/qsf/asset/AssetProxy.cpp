@@ -1,0 +1,28 @@
+#include "qsf/asset/AssetProxy.h"
+
+#include "qsf/Qsf.h"
+#include "qsf/asset/Project.h"
+
+namespace qsf {
+
+std::string BaseAsset::getType() const {
+  const std::size_t begin = mLocalName.find('/') + 1;
+  return mLocalName.substr(begin, mLocalName.find('/', begin) - begin);
+}
+
+const BaseAsset* AssetProxy::getAsset() const {
+  const Qsf* host = Qsf::instance();
+  return host && mId.isInitialized() ? host->getProjectManager().getAssetById(mId) : nullptr;
+}
+
+std::uint32_t AssetProxy::getGlobalAssetId() const {
+  const BaseAsset* asset = getAsset();
+  return asset ? asset->getId().getHash() : UNINITIALIZED_STRING_HASH;
+}
+
+std::string AssetProxy::getLocalAssetName() const {
+  const BaseAsset* asset = getAsset();
+  return asset ? asset->getName() : std::string();
+}
+
+}

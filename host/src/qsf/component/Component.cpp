@@ -1,0 +1,61 @@
+#include "qsf/component/Component.h"
+
+#include "qsf/log/LogSystem.h"
+#include "qsf/map/Entity.h"
+
+#include <cassert>
+
+namespace qsf {
+
+void Component::declareCamp() {
+  camp::Class::declare<Component>("qsf::Component")
+      .base<Object>()
+      .property("Active", &Component::isActive, &Component::setActive);
+}
+
+Entity& Component::getEntity() const {
+  Entity* entity = findEntity();
+  assert(entity && "a prefab's component has no entity");
+  return *entity;
+}
+
+Entity* Component::findEntity() const { return mPrototype->findEntity(); }
+
+std::uint64_t Component::getEntityId() const { return mPrototype->getId(); }
+
+StringHash Component::getId() const {
+  if (!mId.isInitialized()) mId = StringHash(getCampClass().name());
+  return mId;
+}
+
+void Component::setActive(bool active) {
+  if (mActive == active) return;
+  mActive = active;
+  onSetActive(active);
+}
+
+bool Component::startup(bool /*withParents*/) {
+  if (mRunning || !mPrototype->isStarted()) return mRunning;
+  try {
+    mRunning = true; // while it starts, too: what it calls may ask
+    mRunning = onStartup();
+  } catch (const std::exception& fault) {
+    mRunning = false;
+    logMessage(LogSystem::ERROR, "Component " + getCampClass().name() + " of entity " + std::to_string(getEntityId()) +
+                                     " did not start: " + fault.what());
+  }
+  return mRunning;
+}
+
+void Component::shutdown() {
+  if (!mRunning) return;
+  mRunning = false;
+  try {
+    onShutdown();
+  } catch (const std::exception& fault) {
+    logMessage(LogSystem::ERROR, "Component " + getCampClass().name() + " of entity " + std::to_string(getEntityId()) +
+                                     " did not shut down: " + fault.what());
+  }
+}
+
+}

@@ -1,0 +1,16 @@
+#include "qsf/component/MetadataComponent.h"
+
+#include "qsf/reflection/CampTypes.h"
+
+namespace qsf {
+
+void MetadataComponent::declareCamp() {
+  camp::Class::declare<MetadataComponent>("qsf::MetadataComponent")
+      .base<Component>()
+      .constructor1<Prototype*>()
+      .property("Name", &MetadataComponent::getName, &MetadataComponent::setName)
+      .property("Description", &MetadataComponent::getDescription, &MetadataComponent::setDescription)
+      .property("BasePrefab", &MetadataComponent::getBasePrefab, &MetadataComponent::setBasePrefab);
+}
+
+}
