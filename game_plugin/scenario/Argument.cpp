@@ -33,16 +33,14 @@ std::unique_ptr<ArgumentText> classify(std::string_view text) {
     info->isReferenceGlobal = isGlobalName(info->referencedName);
   }
   std::vector<std::uint64_t> ids;
-  if (textToIds(info->text, ids))
-    info->ids = std::make_unique<std::vector<std::uint64_t>>(std::move(ids));
+  if (textToIds(info->text, ids)) info->ids = std::make_unique<std::vector<std::uint64_t>>(std::move(ids));
   return info;
 }
 
 const ArgumentText* intern(std::string_view text) {
   static TextPool& pool = *new TextPool; // records outlive static destruction
   auto found = pool.find(text);
-  if (found == pool.end())
-    found = pool.insert(classify(text)).first;
+  if (found == pool.end()) found = pool.insert(classify(text)).first;
   return found->get();
 }
 

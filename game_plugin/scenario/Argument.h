@@ -12,21 +12,21 @@ namespace script {
 /// second byte of `§` in UTF-8.
 inline bool isGlobalName(std::string_view name) { return name.find('\xA7') != std::string_view::npos; }
 
-/// What one distinct parameter text can mean, worked out once. Shared by all arguments of that text; never freed, as the
-/// records that refer to it live as long as the process.
+/// What one distinct parameter text can mean, worked out once. Shared by all arguments of that text; never freed, as
+/// the records that refer to it live as long as the process.
 struct ArgumentText {
   std::string text;
-  float number = 0;                                  ///< if isNumber
-  bool isNumber = false;                             ///< the whole text reads as a float
-  bool isGlobal = false;                             ///< as a name, it carries the global mark
-  bool isVariableReference = false;                  ///< it holds "svar("
-  std::string_view referencedName;                   ///< the text from its sixth character on, if isVariableReference
-  bool isReferenceGlobal = false;                    ///< referencedName carries the global mark
-  std::unique_ptr<std::vector<std::uint64_t>> ids;   ///< set if every blank-separated piece reads as an id
+  float number = 0;                                ///< if isNumber
+  bool isNumber = false;                           ///< the whole text reads as a float
+  bool isGlobal = false;                           ///< as a name, it carries the global mark
+  bool isVariableReference = false;                ///< it holds "svar("
+  std::string_view referencedName;                 ///< the text from its sixth character on, if isVariableReference
+  bool isReferenceGlobal = false;                  ///< referencedName carries the global mark
+  std::unique_ptr<std::vector<std::uint64_t>> ids; ///< set if every blank-separated piece reads as an id
 };
 
-/// A parameter of a record: the raw token text, resolved anew at each use through ScenarioHandler. It remembers where in a
-/// store its name was found last; a store's epoch tells whether that still holds, so a use costs no search.
+/// A parameter of a record: the raw token text, resolved anew at each use through ScenarioHandler. It remembers where
+/// in a store its name was found last; a store's epoch tells whether that still holds, so a use costs no search.
 class Argument {
 public:
   Argument() : Argument(std::string_view()) {}

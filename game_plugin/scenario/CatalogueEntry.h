@@ -16,7 +16,7 @@ using Tokens = std::vector<std::string>;
 
 /// What a condition's test is told beside its record.
 struct Evaluation {
-  qsf::Time elapsed;              ///< since the trigger last fired, was switched on, or the start; zero in an `If` block
+  qsf::Time elapsed; ///< since the trigger last fired, was switched on, or the start; zero in an `If` block
   const ScenarioTrigger* trigger; ///< null in an `If` block
 };
 
@@ -52,9 +52,10 @@ namespace detail {
 template <class Base, class Record, class Entry> Base* createRecord(const Entry& entry, const Tokens& tokens) {
   Record* record = RecordArena::create<Record>();
   record->entry = &entry;
-  if constexpr (requires { { read(*record, tokens) } -> std::same_as<bool>; }) {
-    if (!read(*record, tokens))
-      return nullptr;
+  if constexpr (requires {
+                  { read(*record, tokens) } -> std::same_as<bool>;
+                }) {
+    if (!read(*record, tokens)) return nullptr;
   } else {
     read(*record, tokens);
   }
@@ -92,16 +93,17 @@ void runRecord(const DefaultEffect& record, ScenarioHandler& handler, std::uint3
       #NAME, CATEGORY, DESCRIPTION, &detail::createRecord<DefaultCondition, NAME##Condition, ConditionEntry>,          \
       &detail::testRecord<NAME##Condition>};
 
-/// The same for an effect: `static void run(const NAMEEffect&, ScenarioHandler&)`, with the trigger's hash behind if needed.
+/// The same for an effect: `static void run(const NAMEEffect&, ScenarioHandler&)`, with the trigger's hash behind if
+/// needed.
 #define EFFECT(NAME, CATEGORY, DESCRIPTION)                                                                            \
   extern const EffectEntry NAME##EffectEntry;                                                                          \
-  constinit const EffectEntry NAME##EffectEntry{                                                                       \
-      #NAME, CATEGORY, DESCRIPTION, &detail::createRecord<DefaultEffect, NAME##Effect, EffectEntry>,                   \
-      &detail::runRecord<NAME##Effect>};
+  constinit const EffectEntry NAME##EffectEntry{#NAME, CATEGORY, DESCRIPTION,                                          \
+                                                &detail::createRecord<DefaultEffect, NAME##Effect, EffectEntry>,       \
+                                                &detail::runRecord<NAME##Effect>};
 
 /// An effect that the effect loop runs by its kind.
 #define EFFECT_OF_KIND(NAME, CATEGORY, DESCRIPTION, KIND)                                                              \
   extern const EffectEntry NAME##EffectEntry;                                                                          \
   constinit const EffectEntry NAME##EffectEntry{                                                                       \
-      #NAME,   CATEGORY, DESCRIPTION, &detail::createRecord<DefaultEffect, NAME##Effect, EffectEntry>,                 \
+      #NAME,   CATEGORY,        DESCRIPTION, &detail::createRecord<DefaultEffect, NAME##Effect, EffectEntry>,          \
       nullptr, EffectKind::KIND};

@@ -3,7 +3,8 @@
 
 namespace script {
 
-/// The comparison of all numeric conditions. Any text that is no operator of the table means less-than, without a message.
+/// The comparison of all numeric conditions. Any text that is no operator of the table means less-than, without a
+/// message.
 class ComparisonOperator {
 public:
   enum Kind : unsigned char { Less = 0, LessOrEqual = 1, Equal = 2, NotEqual = 3, GreaterOrEqual = 4, Greater = 5 };

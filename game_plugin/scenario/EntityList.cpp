@@ -15,14 +15,12 @@ std::uint32_t detail::nextStoreEpoch() {
 }
 
 bool EntityList::contains(std::uint64_t id) const {
-  if (mIds.size() <= SEARCH_LIMIT)
-    return std::find(mIds.begin(), mIds.end(), id) != mIds.end();
+  if (mIds.size() <= SEARCH_LIMIT) return std::find(mIds.begin(), mIds.end(), id) != mIds.end();
   return mMembers.contains(id);
 }
 
 void EntityList::add(std::uint64_t id) {
-  if (contains(id))
-    return;
+  if (contains(id)) return;
   mIds.push_back(id);
   if (mIds.size() == SEARCH_LIMIT + 1)
     mMembers.insert(mIds.begin(), mIds.end());
@@ -31,8 +29,7 @@ void EntityList::add(std::uint64_t id) {
 }
 
 void EntityList::remove(std::uint64_t id) {
-  if (!contains(id))
-    return;
+  if (!contains(id)) return;
   mIds.erase(std::find(mIds.begin(), mIds.end(), id));
   if (mIds.size() <= SEARCH_LIMIT)
     mMembers.clear();
@@ -42,8 +39,7 @@ void EntityList::remove(std::uint64_t id) {
 
 void EntityList::clear() {
   mIds.clear();
-  if (!mMembers.empty())
-    mMembers.clear();
+  if (!mMembers.empty()) mMembers.clear();
 }
 
 namespace {
@@ -60,8 +56,7 @@ constexpr std::size_t MAXIMUM_SPARE_BUFFERS = 16;
 
 EntityIds::EntityIds() {
   std::vector<std::vector<std::uint64_t>>& spare = spareBuffers();
-  if (spare.empty())
-    return;
+  if (spare.empty()) return;
   mIds = std::move(spare.back());
   spare.pop_back();
 }
@@ -72,8 +67,7 @@ EntityIds::EntityIds(EntityIds&& other) noexcept : mIds(std::move(other.mIds)) {
 
 EntityIds::~EntityIds() {
   std::vector<std::vector<std::uint64_t>>& spare = spareBuffers();
-  if (mIds.capacity() == 0 || spare.size() >= MAXIMUM_SPARE_BUFFERS)
-    return;
+  if (mIds.capacity() == 0 || spare.size() >= MAXIMUM_SPARE_BUFFERS) return;
   mIds.clear();
   spare.push_back(std::move(mIds));
 }

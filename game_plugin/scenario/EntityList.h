@@ -24,7 +24,8 @@ private:
   std::unordered_set<std::uint64_t> mMembers; ///< filled beyond SEARCH_LIMIT ids
 };
 
-/// A private copy of a list's ids, taken for one evaluation. Its memory is lent and goes back, so a tick allocates nothing.
+/// A private copy of a list's ids, taken for one evaluation. Its memory is lent and goes back, so a tick allocates
+/// nothing.
 class EntityIds {
 public:
   EntityIds();

@@ -5,8 +5,8 @@
 
 namespace script {
 
-/// Base of the condition groups: a chain of entries, asked in its order. Groups belong to a ScenarioConditions; the handler
-/// is null at load time, when only the factory is used.
+/// Base of the condition groups: a chain of entries, asked in its order. Groups belong to a ScenarioConditions; the
+/// handler is null at load time, when only the factory is used.
 class ConditionGroup {
 public:
   using Chain = std::span<const ConditionEntry* const>;

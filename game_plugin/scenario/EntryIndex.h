@@ -6,7 +6,8 @@
 
 namespace script {
 
-/// Name to entry, over all groups of a registry. Gives what asking the chains in order gives: the first entry of a name.
+/// Name to entry, over all groups of a registry. Gives what asking the chains in order gives: the first entry of a
+/// name.
 template <class Entry> class EntryIndex {
 public:
   template <class Chain> void add(const Chain& chain) {

@@ -11,8 +11,7 @@ bool shouldLog(int severity) {
 }
 
 void logMessage(int severity, const std::string& message) {
-  if (shouldLog(severity))
-    qsf::Qsf::instance()->getLogSystem().log(severity, message);
+  if (shouldLog(severity)) qsf::Qsf::instance()->getLogSystem().log(severity, message);
 }
 
 }

@@ -29,20 +29,22 @@ enum class ScriptMode : std::uint32_t {
 ScriptMode toScriptMode(std::string_view text);
 std::string_view toText(ScriptMode mode);
 
-/// A script that the manager knows. On the heap; entries of a manager live until it ends or, temporary ones, until they stop.
+/// A script that the manager knows. On the heap; entries of a manager live until it ends or, temporary ones, until they
+/// stop.
 struct MapScriptEntry {
   ScriptMode mode = ScriptMode::Unknown;
-  std::vector<std::string> maps;       ///< local asset names, or "All"
-  std::string path;                    ///< absolute file; for a temporary script the path as given
-  std::string globalNamePrefix;        ///< project, `/`, configured path; empty for a temporary script
-  ScriptDocument* document = nullptr;  ///< made at parse time, kept for good
-  ScenarioHandler* handler = nullptr;  ///< null while the script doesn't run
-  std::string key;                     ///< child name in MapScript.json; tools show it
-  std::string project;                 ///< name of the mod's project; tools show it
+  std::vector<std::string> maps;      ///< local asset names, or "All"
+  std::string path;                   ///< absolute file; for a temporary script the path as given
+  std::string globalNamePrefix;       ///< project, `/`, configured path; empty for a temporary script
+  ScriptDocument* document = nullptr; ///< made at parse time, kept for good
+  ScenarioHandler* handler = nullptr; ///< null while the script doesn't run
+  std::string key;                    ///< child name in MapScript.json; tools show it
+  std::string project;                ///< name of the mod's project; tools show it
 };
 
-/// Decides which scripts exist and when they run: reads the MapScript.json of each enabled mod, parses every script that it
-/// lists, and makes handlers as their modes demand. Owns the global stores. One lives at a time, made by the plug-in.
+/// Decides which scripts exist and when they run: reads the MapScript.json of each enabled mod, parses every script
+/// that it lists, and makes handlers as their modes demand. Owns the global stores. One lives at a time, made by the
+/// plug-in.
 class MapScriptManager {
 public:
   /// Reads all configurations; also writes the reference documentation.
@@ -59,7 +61,8 @@ public:
   void LoadConfiguration(bool writeDocumentation);
   /// Starts the scripts of the main map. Called at GAME_STARTUP_FINISHED, and directly after a reload.
   void StartMapScripts();
-  /// Starts one instance of the script for each known script with another path: the multiplication is what scripts know.
+  /// Starts one instance of the script for each known script with another path: the multiplication is what scripts
+  /// know.
   void StartTemporaryScript(const std::string& path);
   /// Stops the script instances with that path. The entry behind a removed one is skipped in this walk.
   void StopScript(const std::string& path);

@@ -20,8 +20,7 @@ std::string defaultAsText(std::string_view value) { return std::string(value); }
 
 template <class T> std::string defaultAsText(const T& value) {
   std::string text;
-  if (!boost::conversion::try_lexical_convert(value, text))
-    text.clear();
+  if (!boost::conversion::try_lexical_convert(value, text)) text.clear();
   return text;
 }
 
@@ -33,15 +32,13 @@ T readParameter(const Tokens& tokens, int index, const T& defaultValue, std::str
     return defaultValue;
   }
   const std::size_t position = static_cast<std::size_t>(index);
-  if (position >= tokens.size() && !name.empty())
-    return defaultValue;
+  if (position >= tokens.size() && !name.empty()) return defaultValue;
   const std::string& token = tokens.at(position);
   if constexpr (std::is_same_v<T, std::string_view>) {
     return token;
   } else {
     T value{};
-    if (boost::conversion::try_lexical_convert(token, value))
-      return value;
+    if (boost::conversion::try_lexical_convert(token, value)) return value;
     logInfo(token);
     logInfo("Cant cast your property: " + std::string(name) + ". Using " + defaultAsText(defaultValue) + ".");
     return defaultValue;
@@ -59,7 +56,7 @@ DocumentationScope::DocumentationScope(std::vector<ParameterDocumentation>& para
 DocumentationScope::~DocumentationScope() { documentation = mPrevious; }
 
 std::string_view readStringParameter(const Tokens& tokens, int index, std::string_view defaultValue,
-                                std::string_view name, std::string_view description) {
+                                     std::string_view name, std::string_view description) {
   return readParameter(tokens, index, defaultValue, name, description);
 }
 
@@ -70,15 +67,11 @@ bool readBoolParameter(const Tokens& tokens, int index, bool defaultValue, std::
     return defaultValue;
   }
   const std::size_t position = static_cast<std::size_t>(index);
-  if (position >= tokens.size())
-    return defaultValue;
+  if (position >= tokens.size()) return defaultValue;
   const std::string& token = tokens[position];
-  if (token == "false")
-    return false;
-  if (token == "true")
-    return true;
-  if (!name.empty())
-    logInfo("Boolvalue: " + std::string(name) + " cant be read.|" + token + "|");
+  if (token == "false") return false;
+  if (token == "true") return true;
+  if (!name.empty()) logInfo("Boolvalue: " + std::string(name) + " cant be read.|" + token + "|");
   return defaultValue;
 }
 

@@ -35,11 +35,11 @@ private:
 };
 
 // The readers that every entry uses. A token that is missing gives the default, without a message; with an empty name a
-// missing token throws std::out_of_range, readBoolParameter excepted. A token of the wrong type is logged and gives the default.
-// A text is viewed where it stands, in the tokens or in the default: the caller stores it.
+// missing token throws std::out_of_range, readBoolParameter excepted. A token of the wrong type is logged and gives the
+// default. A text is viewed where it stands, in the tokens or in the default: the caller stores it.
 
 std::string_view readStringParameter(const Tokens& tokens, int index, std::string_view defaultValue,
-                                std::string_view name, std::string_view description);
+                                     std::string_view name, std::string_view description);
 bool readBoolParameter(const Tokens& tokens, int index, bool defaultValue, std::string_view name,
                        std::string_view description);
 int readIntParameter(const Tokens& tokens, int index, int defaultValue, std::string_view name,

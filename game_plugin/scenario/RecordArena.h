@@ -4,8 +4,8 @@
 
 namespace script {
 
-/// Memory of records. They live as long as the process, so nothing is ever given back; records of a script lie side by side,
-/// in the order in which a tick reads them.
+/// Memory of records. They live as long as the process, so nothing is ever given back; records of a script lie side by
+/// side, in the order in which a tick reads them.
 class RecordArena {
 public:
   static void* allocate(std::size_t size, std::size_t alignment);

@@ -24,15 +24,13 @@ void ScriptDocument::buildIndices() {
 }
 
 ScenarioTrigger* ScriptDocument::findTrigger(std::string_view name) {
-  if (!mIndexed)
-    buildIndices();
+  if (!mIndexed) buildIndices();
   const auto found = mByName.find(name);
   return found == mByName.end() ? nullptr : &triggers[found->second];
 }
 
 ScenarioTrigger* ScriptDocument::findTrigger(std::uint32_t hash) {
-  if (!mIndexed)
-    buildIndices();
+  if (!mIndexed) buildIndices();
   const auto found = mByHash.find(hash);
   return found == mByHash.end() ? nullptr : &triggers[found->second];
 }

@@ -50,23 +50,23 @@ struct ConditionalBlock {
 
 /// A trigger of a script. The conditions, effects and blocks are fixed after the load; the running fields change.
 struct ScenarioTrigger {
-  std::string name = "trigger1";      ///< local name
-  qsf::Time lastTimeActive;           ///< document time of the last firing or switching on
-  bool active = true;                 ///< running: the trigger is evaluated
-  bool looped = false;                ///< running: stays active after firing
-  bool initialActive = true;          ///< from the text; copied at each start of the handler
+  std::string name = "trigger1"; ///< local name
+  qsf::Time lastTimeActive;      ///< document time of the last firing or switching on
+  bool active = true;            ///< running: the trigger is evaluated
+  bool looped = false;           ///< running: stays active after firing
+  bool initialActive = true;     ///< from the text; copied at each start of the handler
   bool initialLooped = false;
-  std::int32_t requiredConditions = -1; ///< how many conditions must hold
+  std::int32_t requiredConditions = -1;  ///< how many conditions must hold
   std::uint32_t fulfilledConditions = 0; ///< how many held at the last evaluation
-  std::uint32_t multiplayerMode = 0;  ///< 0 host only, 1 evaluated everywhere and run on the host, 2 everywhere
+  std::uint32_t multiplayerMode = 0;     ///< 0 host only, 1 evaluated everywhere and run on the host, 2 everywhere
   Conditions conditions;
   Effects effects;
-  Effects negativeEffects;            ///< never filled, never run; kept because copies carry it
+  Effects negativeEffects; ///< never filled, never run; kept because copies carry it
   std::vector<ConditionalBlock*> conditionalBlocks;
   std::uint32_t globalNameHash = qsf::UNINITIALIZED_STRING_HASH;
-  std::uint32_t player = 0;           ///< player on whose behalf the trigger fired; 0 on the host
-  std::uint32_t line = 0;             ///< line of InitNewTrigger
-  std::uint64_t timesFired = 0;       ///< since the load; tools show it
+  std::uint32_t player = 0;     ///< player on whose behalf the trigger fired; 0 on the host
+  std::uint32_t line = 0;       ///< line of InitNewTrigger
+  std::uint64_t timesFired = 0; ///< since the load; tools show it
   std::uint64_t target = qsf::UNINITIALIZED_ID;
   std::vector<std::uint64_t> callers; ///< entities that a client sent along
   std::string globalName;             ///< load prefix, `/`, local name
@@ -74,9 +74,9 @@ struct ScenarioTrigger {
 
 /// A parsed script. Made by the parser, owned by the script's entry in MapScriptManager and kept for good.
 struct ScriptDocument {
-  qsf::Time time;                         ///< how long the script has run since its start
-  std::vector<ScenarioTrigger> triggers;  ///< in the order of the text; fixed after the load
-  bool writesMarkAsUtf8 = false;          ///< the file is UTF-8 and holds a multi-byte character
+  qsf::Time time;                        ///< how long the script has run since its start
+  std::vector<ScenarioTrigger> triggers; ///< in the order of the text; fixed after the load
+  bool writesMarkAsUtf8 = false;         ///< the file is UTF-8 and holds a multi-byte character
 
   /// First trigger of that local name or hash, or null.
   ScenarioTrigger* findTrigger(std::string_view name);

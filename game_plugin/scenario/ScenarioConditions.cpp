@@ -29,13 +29,10 @@ DefaultCondition* ScenarioConditions::create(const Tokens& tokens) const {
   }();
 
   // A pseudo condition: scripts write it where nothing is to be tested.
-  if (tokens[0] == "Always")
-    return nullptr;
+  if (tokens[0] == "Always") return nullptr;
   if (const ConditionEntry* entry = index.find(tokens[0]))
-    if (DefaultCondition* record = entry->create(*entry, tokens))
-      return record;
-  if (!isDocumenting())
-    logInfo("[MS] Error: Condition " + tokens[0] + " was not found");
+    if (DefaultCondition* record = entry->create(*entry, tokens)) return record;
+  if (!isDocumenting()) logInfo("[MS] Error: Condition " + tokens[0] + " was not found");
   return nullptr;
 }
 

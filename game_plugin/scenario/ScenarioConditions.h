@@ -13,8 +13,8 @@ CONDITION_GROUP(ComponentsAndVariablesConditions)
 CONDITION_GROUP(MPConditions)
 CONDITION_GROUP(GamepadConditions)
 
-/// The front door of the condition catalogue: makes records at load time and evaluates lists of them. Owns its groups. The
-/// parser's has no handler and only makes records.
+/// The front door of the condition catalogue: makes records at load time and evaluates lists of them. Owns its groups.
+/// The parser's has no handler and only makes records.
 class ScenarioConditions {
 public:
   explicit ScenarioConditions(ScenarioHandler* handler);
@@ -25,8 +25,8 @@ public:
   /// A new record, or null for `Always` (silently) and for a name that no group knows (with a message).
   DefaultCondition* create(const Tokens& tokens) const;
 
-  /// Tests the conditions in order until `required` of them can't be reached any more. `fulfilled` becomes the number that
-  /// held among those tested. True if at least `required` didn't fail. The trigger is null for an `If` block.
+  /// Tests the conditions in order until `required` of them can't be reached any more. `fulfilled` becomes the number
+  /// that held among those tested. True if at least `required` didn't fail. The trigger is null for an `If` block.
   bool evaluate(qsf::Time elapsed, const Conditions& conditions, std::uint32_t required, std::uint32_t& fulfilled,
                 const ScenarioTrigger* trigger) const;
 

@@ -19,8 +19,8 @@ ScenarioEffects::ScenarioEffects(ScenarioHandler* handler)
 ScenarioEffects::~ScenarioEffects() = default;
 
 std::vector<const EffectGroup*> ScenarioEffects::groupsInCreationOrder() const {
-  return {&mBrill, &mTarn, &mEvent, &mComponentsAndVariables, &mGui, &mMultiplayer, &mPositionAndRotation, &mGamepad,
-          &mEditor};
+  return {&mBrill,   &mTarn,  &mEvent, &mComponentsAndVariables, &mGui, &mMultiplayer, &mPositionAndRotation,
+          &mGamepad, &mEditor};
 }
 
 std::vector<const EffectGroup*> ScenarioEffects::groupsInExecutionOrder() const { return groupsInCreationOrder(); }
@@ -41,8 +41,7 @@ DefaultEffect* ScenarioEffects::create(const Tokens& tokens) const {
   }();
 
   if (const EffectEntry* entry = index.find(tokens[0]))
-    if (DefaultEffect* record = entry->create(*entry, tokens))
-      return record;
+    if (DefaultEffect* record = entry->create(*entry, tokens)) return record;
   logError("Effect of type: " + tokens[0] + " can't be found.");
   return nullptr;
 }
@@ -57,8 +56,7 @@ std::uint32_t ScenarioEffects::run(const Effects& effects, std::uint32_t trigger
       mHandler->PrintTriggerInfo(triggerHash);
       break;
     case EffectKind::UseConditionalBlock:
-      if (runBlock(*effect) == 1)
-        return 1;
+      if (runBlock(*effect) == 1) return 1;
       break;
     case EffectKind::Ordinary:
       if (entry.run)
@@ -67,8 +65,7 @@ std::uint32_t ScenarioEffects::run(const Effects& effects, std::uint32_t trigger
         logInfo("[MS] Error: Effect " + std::string(entry.name) + " was not found");
       break;
     }
-    if (mHandler->IsStopped())
-      return 1;
+    if (mHandler->IsStopped()) return 1;
   }
   return 0;
 }
@@ -79,9 +76,8 @@ std::uint32_t ScenarioEffects::runBlock(const DefaultEffect& effect) const {
   const ScenarioTrigger& trigger = mHandler->GetDocument()->triggers.at(static_cast<std::size_t>(use.triggerIndex));
   const ConditionalBlock& block = *trigger.conditionalBlocks.at(static_cast<std::size_t>(use.blockIndex));
   std::uint32_t fulfilled = 0;
-  const bool holds = mHandler->GetConditions().evaluate(qsf::Time::ZERO, block.conditions,
-                                                        static_cast<std::uint32_t>(block.conditions.size()), fulfilled,
-                                                        nullptr);
+  const bool holds = mHandler->GetConditions().evaluate(
+      qsf::Time::ZERO, block.conditions, static_cast<std::uint32_t>(block.conditions.size()), fulfilled, nullptr);
   return run(holds ? block.thenEffects : block.elseEffects, trigger.globalNameHash);
 }
 

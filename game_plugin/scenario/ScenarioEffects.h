@@ -27,8 +27,8 @@ public:
   /// A new record, or null, with a message, for a name that no group knows.
   DefaultEffect* create(const Tokens& tokens) const;
 
-  /// Runs the effects in order. 1 if a `Return` ended the list, also one inside a block, else 0. Also ends, with 1, when an
-  /// effect has stopped the script that runs it.
+  /// Runs the effects in order. 1 if a `Return` ended the list, also one inside a block, else 0. Also ends, with 1,
+  /// when an effect has stopped the script that runs it.
   std::uint32_t run(const Effects& effects, std::uint32_t triggerHash) const;
 
   std::vector<const EffectGroup*> groupsInCreationOrder() const;

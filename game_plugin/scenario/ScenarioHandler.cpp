@@ -43,8 +43,7 @@ class ScenarioHandler::RunningScope {
 public:
   RunningScope() { ++runningUpdates; }
   ~RunningScope() {
-    if (--runningUpdates == 0 && !retiredHandlers.empty())
-      freeRetiredHandlers();
+    if (--runningUpdates == 0 && !retiredHandlers.empty()) freeRetiredHandlers();
   }
   RunningScope(const RunningScope&) = delete;
   RunningScope& operator=(const RunningScope&) = delete;
@@ -57,13 +56,11 @@ ScenarioHandler::ScenarioHandler(std::shared_ptr<GlobalStores> globalStores)
 ScenarioHandler::~ScenarioHandler() = default;
 
 void ScenarioHandler::Retire(ScenarioHandler* handler) {
-  if (!handler)
-    return;
+  if (!handler) return;
   handler->mStopped = true;
   handler->mUpdateJobProxy.unregister();
   retiredHandlers.push_back(handler);
-  if (runningUpdates == 0)
-    freeRetiredHandlers();
+  if (runningUpdates == 0) freeRetiredHandlers();
 }
 
 void ScenarioHandler::Start(StartKind kind) {
@@ -94,17 +91,14 @@ void ScenarioHandler::Update(const qsf::JobArguments& arguments) {
 }
 
 void ScenarioHandler::TickTrigger(ScenarioTrigger& trigger) {
-  if (!trigger.active)
-    return;
+  if (!trigger.active) return;
   const bool isClient = trigger.multiplayerMode != 2 && isLocalPlayerClient();
-  if (isClient && trigger.multiplayerMode == 0)
-    return; // the host runs it
+  if (isClient && trigger.multiplayerMode == 0) return; // the host runs it
 
-  // What follows reads the trigger as it stood when its turn came. Conditions can't change its fixed part, so only what a
-  // client sends along needs a copy.
+  // What follows reads the trigger as it stood when its turn came. Conditions can't change its fixed part, so only what
+  // a client sends along needs a copy.
   std::vector<std::uint64_t> callers;
-  if (isClient)
-    callers = trigger.callers;
+  if (isClient) callers = trigger.callers;
   const std::uint64_t target = trigger.target;
 
   std::uint32_t fulfilled = 0;
@@ -119,11 +113,9 @@ void ScenarioHandler::TickTrigger(ScenarioTrigger& trigger) {
 }
 
 void ScenarioHandler::Fire(ScenarioTrigger& trigger) {
-  if (trigger.multiplayerMode == 1 && hasLocalPlayer())
-    trigger.player = 0;
+  if (trigger.multiplayerMode == 1 && hasLocalPlayer()) trigger.player = 0;
   trigger.lastTimeActive = mDocument->time;
-  if (!trigger.looped)
-    trigger.active = false; // before the effects, so that one of them can switch it on again
+  if (!trigger.looped) trigger.active = false; // before the effects, so that one of them can switch it on again
   ++trigger.timesFired;
   mEffects.run(trigger.effects, trigger.globalNameHash);
 }
@@ -131,23 +123,19 @@ void ScenarioHandler::Fire(ScenarioTrigger& trigger) {
 void ScenarioHandler::FireOnClient(ScenarioTrigger& trigger, const std::vector<std::uint64_t>& callers,
                                    std::uint64_t target) {
   trigger.lastTimeActive = mDocument->time;
-  if (!trigger.looped)
-    trigger.active = false;
+  if (!trigger.looped) trigger.active = false;
   ++trigger.timesFired;
-  if (!sendTriggerToHost(trigger.globalNameHash, callers, target))
-    logInfo("Cant send Instructions (GUISYNC)");
+  if (!sendTriggerToHost(trigger.globalNameHash, callers, target)) logInfo("Cant send Instructions (GUISYNC)");
 }
 
 void ScenarioHandler::SetTriggerActive(const std::string& localName, bool value) {
-  if (localName.empty())
-    return;
+  if (localName.empty()) return;
   ScenarioTrigger* trigger = mDocument ? mDocument->findTrigger(localName) : nullptr;
   if (!trigger) {
     logInfo("Activate Trigger Effect was not able to find the trigger" + localName);
     return;
   }
-  if (!trigger->active)
-    trigger->lastTimeActive = mDocument->time;
+  if (!trigger->active) trigger->lastTimeActive = mDocument->time;
   trigger->active = value;
 }
 
@@ -157,8 +145,7 @@ void ScenarioHandler::SetTriggerActive(std::uint32_t hash, bool value) {
     logInfo("Activate Trigger Effect was not able to find the trigger" + std::to_string(hash));
     return;
   }
-  if (!trigger->active)
-    trigger->lastTimeActive = mDocument->time;
+  if (!trigger->active) trigger->lastTimeActive = mDocument->time;
   trigger->active = value;
 }
 
@@ -179,23 +166,20 @@ std::pair<ScenarioHandler*, ScenarioTrigger> ScenarioHandler::FindTriggerGloball
   if (const MapScriptManager* manager = MapScriptManager::Get())
     for (const MapScriptEntry* entry : manager->GetScriptEntries())
       if (entry->document)
-        if (const ScenarioTrigger* trigger = entry->document->findTrigger(hash))
-          return {entry->handler, *trigger};
+        if (const ScenarioTrigger* trigger = entry->document->findTrigger(hash)) return {entry->handler, *trigger};
   return {nullptr, ScenarioTrigger()};
 }
 
 bool ScenarioHandler::SetGlobalTriggerActiv(std::uint32_t hash, bool /*value*/) {
   ScenarioHandler* handler = FindTriggerGlobally(hash).first;
-  if (!handler)
-    return false;
+  if (!handler) return false;
   handler->SetTriggerActive(hash, true); // kept: a global activation only switches on
   return true;
 }
 
 bool ScenarioHandler::SetGlobalTriggerActiv(const std::string& globalName, bool value) {
   const std::uint32_t hash = qsf::StringHash(globalName).getHash();
-  if (SetGlobalTriggerActiv(hash, value))
-    return true;
+  if (SetGlobalTriggerActiv(hash, value)) return true;
   logInfo("SetGlobalTriggerActiv cant find the trigger with the Name " + globalName + " Hash " + std::to_string(hash));
   return false;
 }

@@ -17,8 +17,8 @@
 
 namespace script {
 
-/// The stores that all scripts share. Owned by MapScriptManager; handlers hold on to them, so that a script which is being
-/// stopped with its manager can end its effect.
+/// The stores that all scripts share. Owned by MapScriptManager; handlers hold on to them, so that a script which is
+/// being stopped with its manager can end its effect.
 struct GlobalStores {
   Store<float> variables;
   Store<std::string> stringVariables;
@@ -30,8 +30,8 @@ struct JsonStore;
 /// Kinds of job that a handler can be started on.
 enum class StartKind : std::uint32_t { Realtime = 0, Simulation = 1, Animation = 2 };
 
-/// Runs one script: a host job that advances the script's clock and walks its triggers, and the home of its local stores.
-/// Made and stopped by MapScriptManager. The document isn't owned and outlives the handler.
+/// Runs one script: a host job that advances the script's clock and walks its triggers, and the home of its local
+/// stores. Made and stopped by MapScriptManager. The document isn't owned and outlives the handler.
 class ScenarioHandler {
 public:
   explicit ScenarioHandler(std::shared_ptr<GlobalStores> globalStores);
@@ -63,8 +63,8 @@ public:
   /// Local name of that hash, or empty.
   std::string GetTriggerName(std::uint32_t hash) const;
 
-  /// First trigger of that hash over all scripts: its handler, null if the script doesn't run or there is no such trigger,
-  /// and a copy of it.
+  /// First trigger of that hash over all scripts: its handler, null if the script doesn't run or there is no such
+  /// trigger, and a copy of it.
   static std::pair<ScenarioHandler*, ScenarioTrigger> FindTriggerGlobally(std::uint32_t hash);
   /// Switches a trigger of any script on. The value is dropped on the way: scripts rely on a global activation that can
   /// only switch on. Returns whether it was found in a running script.
@@ -77,7 +77,8 @@ public:
   /// A number literal, or a variable.
   float ResolveFloat(const Argument& argument);
   float ResolveFloat(const std::string& text);
-  /// The text itself, or the string variable of `svar(name`. The reference holds until that variable is erased or assigned.
+  /// The text itself, or the string variable of `svar(name`. The reference holds until that variable is erased or
+  /// assigned.
   const std::string& ResolveString(const Argument& argument);
   std::string ResolveString(const std::string& text);
   /// Ids separated by blanks, or a list; a private copy.
@@ -131,7 +132,8 @@ private:
   void TickTrigger(ScenarioTrigger& trigger);
   void Fire(ScenarioTrigger& trigger);
   void FireOnClient(ScenarioTrigger& trigger, const std::vector<std::uint64_t>& callers, std::uint64_t target);
-  template <class Value> static std::size_t Locate(const Argument& argument, std::string_view name, Store<Value>& store);
+  template <class Value>
+  static std::size_t Locate(const Argument& argument, std::string_view name, Store<Value>& store);
 
   Store<float>& VariablesOf(bool global) { return global ? mGlobal->variables : variables; }
   Store<std::string>& StringVariablesOf(bool global) { return global ? mGlobal->stringVariables : stringVariables; }

@@ -14,17 +14,17 @@ namespace script {
 
 namespace {
 
-/// Erases every entry of that name. The walk goes on at the next index after an erase, as it always did; names are unique, so
-/// nothing is missed.
+/// Erases every entry of that name. The walk goes on at the next index after an erase, as it always did; names are
+/// unique, so nothing is missed.
 template <class Value> void eraseAllNamed(Store<Value>& store, const std::string& name) {
   for (std::size_t i = 0; i < store.size(); ++i)
-    if (store.name(i) == name)
-      store.erase(i);
+    if (store.name(i) == name) store.erase(i);
 }
 
 }
 
-/// Index of the argument's entry, appended if it is missing. Costs no search while the store has the epoch of the last use.
+/// Index of the argument's entry, appended if it is missing. Costs no search while the store has the epoch of the last
+/// use.
 template <class Value>
 std::size_t ScenarioHandler::Locate(const Argument& argument, std::string_view name, Store<Value>& store) {
   if (argument.mEpoch != store.epoch()) {
@@ -35,36 +35,30 @@ std::size_t ScenarioHandler::Locate(const Argument& argument, std::string_view n
 }
 
 float ScenarioHandler::ResolveFloat(const Argument& argument) {
-  if (argument.mEpoch == Argument::LITERAL_EPOCH)
-    return std::bit_cast<float>(argument.mSlot);
-  if (argument.mEpoch == variables.epoch())
-    return variables.value(argument.mSlot);
+  if (argument.mEpoch == Argument::LITERAL_EPOCH) return std::bit_cast<float>(argument.mSlot);
+  if (argument.mEpoch == variables.epoch()) return variables.value(argument.mSlot);
   const ArgumentText& info = argument.info();
-  if (info.isNumber)
-    return info.number;
+  if (info.isNumber) return info.number;
   Store<float>& store = VariablesOf(info.isGlobal);
   return store.value(Locate(argument, info.text, store));
 }
 
 float ScenarioHandler::ResolveFloat(const std::string& text) {
   float number = 0;
-  if (textToFloat(text, number))
-    return number;
+  if (textToFloat(text, number)) return number;
   Store<float>& store = VariablesOf(isGlobalName(text));
   return store.value(store.findOrAppend(text));
 }
 
 const std::string& ScenarioHandler::ResolveString(const Argument& argument) {
   const ArgumentText& info = argument.info();
-  if (!info.isVariableReference)
-    return info.text;
+  if (!info.isVariableReference) return info.text;
   Store<std::string>& store = StringVariablesOf(info.isReferenceGlobal);
   return store.value(Locate(argument, info.referencedName, store));
 }
 
 std::string ScenarioHandler::ResolveString(const std::string& text) {
-  if (text.find("svar(") == std::string::npos)
-    return text;
+  if (text.find("svar(") == std::string::npos) return text;
   const std::string name = text.substr(5); // whatever stood before "svar("; other places give a senseless name
   Store<std::string>& store = StringVariablesOf(isGlobalName(name));
   return store.value(store.findOrAppend(name));
@@ -72,16 +66,14 @@ std::string ScenarioHandler::ResolveString(const std::string& text) {
 
 EntityIds ScenarioHandler::ResolveEntityList(const Argument& argument) {
   const ArgumentText& info = argument.info();
-  if (info.ids)
-    return EntityIds(*info.ids);
+  if (info.ids) return EntityIds(*info.ids);
   Store<EntityList>& store = EntityListsOf(info.isGlobal);
   return EntityIds(store.value(Locate(argument, info.text, store)).ids());
 }
 
 EntityIds ScenarioHandler::ResolveEntityList(const std::string& text) {
   EntityIds ids;
-  if (textToIds(text, ids.vector()))
-    return ids;
+  if (textToIds(text, ids.vector())) return ids;
   Store<EntityList>& store = EntityListsOf(isGlobalName(text));
   return EntityIds(store.value(store.findOrAppend(text)).ids());
 }
@@ -136,8 +128,7 @@ void ScenarioHandler::AddToEntityList(const std::string& name, std::uint64_t id)
 void ScenarioHandler::RemoveFromEntityList(const std::string& name, std::uint64_t id) {
   Store<EntityList>& store = EntityListsOf(isGlobalName(name));
   const std::size_t index = store.find(name);
-  if (index != store.NOT_FOUND)
-    store.value(index).remove(id);
+  if (index != store.NOT_FOUND) store.value(index).remove(id);
 }
 
 void ScenarioHandler::ClearEntityList(const Argument& name, bool removeList) {
@@ -152,8 +143,7 @@ void ScenarioHandler::ClearEntityList(const std::string& name, bool removeList) 
   Store<EntityList>& store = EntityListsOf(isGlobalName(name));
   const std::size_t index = store.find(name);
   if (!removeList) {
-    if (index != store.NOT_FOUND)
-      store.value(index).clear();
+    if (index != store.NOT_FOUND) store.value(index).clear();
     return;
   }
   if (&store != &entityLists && index != store.NOT_FOUND) {
@@ -162,8 +152,7 @@ void ScenarioHandler::ClearEntityList(const std::string& name, bool removeList) 
     return;
   }
   const std::size_t local = entityLists.find(name);
-  if (local != entityLists.NOT_FOUND)
-    entityLists.erase(local);
+  if (local != entityLists.NOT_FOUND) entityLists.erase(local);
 }
 
 void ScenarioHandler::AddToEntityListByTypeInArea(const std::string& name, const std::string& unitType,
@@ -198,8 +187,7 @@ boost::property_tree::ptree ScenarioHandler::GetJsonVariable(const std::string& 
 
 void ScenarioHandler::AddToStringList(const std::string& name, const std::string& value) {
   std::vector<std::string>& list = stringLists.value(stringLists.findOrAppend(name));
-  if (std::find(list.begin(), list.end(), value) == list.end())
-    list.push_back(value);
+  if (std::find(list.begin(), list.end(), value) == list.end()) list.push_back(value);
 }
 
 std::vector<std::string> ScenarioHandler::GetStringList(const std::string& name) {

@@ -12,8 +12,9 @@ class ScenarioEffects;
 /// Turns a script's text into a document. Keeps no state between calls.
 class ScriptParser {
 public:
-  /// Reads the file. Always gives a document, owned by the caller: empty if the file can't be opened, or if a fault escapes
-  /// from a line (then one line at severity 4 names the file and the line). `globalNamePrefix` stands before each trigger's name.
+  /// Reads the file. Always gives a document, owned by the caller: empty if the file can't be opened, or if a fault
+  /// escapes from a line (then one line at severity 4 names the file and the line). `globalNamePrefix` stands before
+  /// each trigger's name.
   ScriptDocument* parse(const std::string& path, const std::string& globalNamePrefix) const;
   /// The same for a text in memory; `name` is what messages call it.
   ScriptDocument* parseText(std::string_view text, const std::string& name, const std::string& globalNamePrefix) const;

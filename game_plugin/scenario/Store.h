@@ -14,9 +14,9 @@ namespace detail {
 std::uint32_t nextStoreEpoch();
 }
 
-/// Named values in the order of their first use. Look-ups give the first entry of a name; entries are appended and, seldom,
-/// erased. Each erase gives the store a new epoch, so that a remembered index is valid as long as the epoch is the same.
-/// References to values hold until an entry is erased, for floats until one is appended.
+/// Named values in the order of their first use. Look-ups give the first entry of a name; entries are appended and,
+/// seldom, erased. Each erase gives the store a new epoch, so that a remembered index is valid as long as the epoch is
+/// the same. References to values hold until an entry is erased, for floats until one is appended.
 template <class T> class Store {
 public:
   static constexpr std::size_t NOT_FOUND = ~std::size_t{0};
@@ -30,8 +30,7 @@ public:
   std::size_t find(std::string_view name) const {
     if (size() <= LINEAR_LIMIT) {
       for (std::size_t i = 0; i < mNames.size(); ++i)
-        if (mNames[i] == name)
-          return i;
+        if (mNames[i] == name) return i;
       return NOT_FOUND;
     }
     for (; mIndexed < mNames.size(); ++mIndexed)

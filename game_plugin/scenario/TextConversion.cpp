@@ -9,29 +9,25 @@
 namespace script {
 
 bool textToFloat(const std::string& text, float& value) {
-  // Most texts are names; a cheap look at the first character spares the conversion. "inf", "nan" and signs stay possible.
-  if (text.empty())
-    return false;
+  // Most texts are names; a cheap look at the first character spares the conversion. "inf", "nan" and signs stay
+  // possible.
+  if (text.empty()) return false;
   const char first = text.front();
-  const bool canStart = (first >= '0' && first <= '9') || first == '-' || first == '+' || first == '.' || first == 'i' ||
-                        first == 'I' || first == 'n' || first == 'N';
+  const bool canStart = (first >= '0' && first <= '9') || first == '-' || first == '+' || first == '.' ||
+                        first == 'i' || first == 'I' || first == 'n' || first == 'N';
   float result = 0;
-  if (!canStart || !boost::conversion::try_lexical_convert(text, result))
-    return false;
+  if (!canStart || !boost::conversion::try_lexical_convert(text, result)) return false;
   value = result;
   return true;
 }
 
 bool textToIds(const std::string& text, std::vector<std::uint64_t>& ids) {
-  if (text.empty())
-    return false;
+  if (text.empty()) return false;
   const char first = text.front();
-  if (!((first >= '0' && first <= '9') || first == '-' || first == '+'))
-    return false;
+  if (!((first >= '0' && first <= '9') || first == '-' || first == '+')) return false;
   for (const std::string& piece : splitAtBlanks(text)) {
     std::uint64_t id = 0;
-    if (!boost::conversion::try_lexical_convert(piece, id))
-      return false;
+    if (!boost::conversion::try_lexical_convert(piece, id)) return false;
     ids.push_back(id);
   }
   return true;

@@ -7,8 +7,8 @@
 
 namespace script {
 
-// Scripts name game values by text. The comparisons are exact and case-sensitive; an unknown text gives the fallback, without
-// a message unless told otherwise.
+// Scripts name game values by text. The comparisons are exact and case-sensitive; an unknown text gives the fallback,
+// without a message unless told otherwise.
 
 /// Status bar type number; 0 for an unknown text, which can't be told from the first row.
 int ToBarType(std::string_view text);
@@ -29,10 +29,12 @@ enum class ArithmeticOperator { Add = 0, Subtract = 1, Multiply = 2, Divide = 3 
 /// `-`, `*`, `:`; anything else, `/` included, adds.
 ArithmeticOperator ToArithmeticOperator(std::string_view text);
 
-/// Whether the entity is of a unit type such as "PlayerVehicles". A missing entity is of none; an unknown type is logged.
+/// Whether the entity is of a unit type such as "PlayerVehicles". A missing entity is of none; an unknown type is
+/// logged.
 bool CheckUnitType(std::uint64_t entityId, const std::string& unitType);
 
-/// Ids of the entities of a unit type within range of the centre entity, or on the whole map if there is no such entity.
+/// Ids of the entities of a unit type within range of the centre entity, or on the whole map if there is no such
+/// entity.
 std::vector<std::uint64_t> findEntitiesOfUnitType(const std::string& unitType, std::uint64_t centerId, float range);
 
 }

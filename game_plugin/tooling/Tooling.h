@@ -13,7 +13,7 @@ namespace script::tooling {
 /// One condition or effect as a tool shows it.
 struct EntryView {
   std::string name;
-  bool expected = true; ///< false for a condition written with `!`; always true for effects
+  bool expected = true;   ///< false for a condition written with `!`; always true for effects
   std::uint32_t line = 0; ///< line of the script's file, from 1
 };
 
@@ -71,14 +71,15 @@ public:
   virtual std::optional<std::string> getJson(std::size_t script, const std::string& name,
                                              const std::string& path) const = 0;
 
-  /// Set as a script would, in the script's local stores or, for a name with the global mark, in the global ones. False if
-  /// the script doesn't run.
+  /// Set as a script would, in the script's local stores or, for a name with the global mark, in the global ones. False
+  /// if the script doesn't run.
   virtual bool setVariable(std::size_t script, const std::string& name, float value) = 0;
   virtual bool setString(std::size_t script, const std::string& name, const std::string& value) = 0;
   virtual bool setBool(std::size_t script, const std::string& name, bool value) = 0;
   virtual bool setList(std::size_t script, const std::string& name, const std::vector<std::uint64_t>& ids) = 0;
 
-  /// What the debugger's reload button does: a new manager reads all files anew and starts the scripts of the running map.
+  /// What the debugger's reload button does: a new manager reads all files anew and starts the scripts of the running
+  /// map.
   virtual void reload() = 0;
 };
 

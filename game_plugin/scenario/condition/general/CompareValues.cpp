@@ -1,0 +1,27 @@
+#include "game_plugin/scenario/ParameterReaders.h"
+#include "game_plugin/scenario/ScenarioHandler.h"
+
+namespace script {
+
+struct CompareValuesCondition : DefaultCondition {
+  Argument value1;
+  ComparisonOperator operatorText;
+  Argument value2;
+};
+
+static void read(CompareValuesCondition& condition, const Tokens& tokens) {
+  condition.value1 = readStringParameter(tokens, 1, "5", "Value1", "");
+  condition.operatorText = readStringParameter(tokens, 2, "==", "Operator", "(<, <=, ==, >=, >)");
+  condition.value2 = readStringParameter(tokens, 3, "5", "Value2", "");
+}
+
+static bool test(const CompareValuesCondition& condition, ScenarioHandler& handler) {
+  // The second value first: both may be names that come to life here, in this order.
+  const float value2 = handler.ResolveFloat(condition.value2);
+  const float value1 = handler.ResolveFloat(condition.value1);
+  return condition.operatorText(value1, value2);
+}
+
+CONDITION(CompareValues, "General", "Compares two values with the given Operator e.g. Value1 >= Value2")
+
+}
