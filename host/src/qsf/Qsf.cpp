@@ -4,18 +4,13 @@
 #include "qsf/base/CallRecorder.h"
 #include "qsf/base/Random.h"
 #include "qsf/base/StringHashManager.h"
+#include "qsf/component/HostComponents.h"
 #include "qsf/input/InputSystem.h"
 #include "qsf/job/JobManagers.h"
 #include "qsf/localization/LocalizationSystem.h"
 #include "qsf/log/FaultCounter.h"
 #include "qsf/log/LogSystem.h"
-#if __has_include("qsf/map/LayerManager.h")
 #include "qsf/map/LayerManager.h"
-#else
-namespace qsf {
-class LayerManager {};
-}
-#endif
 #include "qsf/map/Map.h"
 #include "qsf/message/MessageSystem.h"
 #include "qsf/plugin/PluginSystem.h"
@@ -77,6 +72,7 @@ Qsf::Qsf() : mSystems(std::make_unique<Systems>()) {
   systems.messageSystem = std::make_unique<MessageSystem>();
   systems.jobManagers = std::make_unique<JobManagers>();
   addJobManagers(*systems.jobManagers, *systems.stringHashManager);
+  declareHostClasses();
   systems.projectManager = std::make_unique<ProjectManager>();
   systems.prototypeManager = std::make_unique<PrototypeManager>();
   systems.localizationSystem = std::make_unique<LocalizationSystem>();
@@ -89,6 +85,7 @@ Qsf::Qsf() : mSystems(std::make_unique<Systems>()) {
 Qsf::~Qsf() {
   // Plug-ins go while all they use is still there; then the map, whose components' classes may be theirs.
   mSystems->mainMap->clear();
+  mSystems->prototypeManager->clear();
   mSystems->pluginSystem->unloadPlugins();
   mSystems->pluginSystem.reset();
   mSystems->mainMap.reset();
