@@ -70,3 +70,9 @@ private:
   MANIFEST(DECLARE_EFFECT_ENTRY)                                                                                       \
   static constexpr const EffectEntry* GROUP##Chain[] = {MANIFEST(EFFECT_ENTRY_ADDRESS)};                               \
   GROUP::GROUP(ScenarioHandler* handler) : EffectGroup(handler, GROUP##Chain) {}
+
+/// A group whose entries are yet to come: it knows no name.
+#define EMPTY_CONDITION_GROUP(GROUP)                                                                                   \
+  GROUP::GROUP(ScenarioHandler* handler) : ConditionGroup(handler, Chain()) {}
+#define EMPTY_EFFECT_GROUP(GROUP)                                                                                      \
+  GROUP::GROUP(ScenarioHandler* handler) : EffectGroup(handler, Chain()) {}

@@ -94,6 +94,8 @@ public:
 
   void AddToEntityList(const Argument& name, std::uint64_t id);
   void AddToEntityList(const std::string& name, std::uint64_t id);
+  /// Number of ids that ResolveEntityList gives, without the copy; creates a missing list as it does.
+  std::size_t GetEntityListSize(const Argument& argument);
   void RemoveFromEntityList(const std::string& name, std::uint64_t id);
   void ClearEntityList(const Argument& name, bool removeList = false);
   void ClearEntityList(const std::string& name, bool removeList = false);

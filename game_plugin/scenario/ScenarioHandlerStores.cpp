@@ -78,6 +78,13 @@ EntityIds ScenarioHandler::ResolveEntityList(const std::string& text) {
   return EntityIds(store.value(store.findOrAppend(text)).ids());
 }
 
+std::size_t ScenarioHandler::GetEntityListSize(const Argument& argument) {
+  const ArgumentText& info = argument.info();
+  if (info.ids) return info.ids->size();
+  Store<EntityList>& store = EntityListsOf(info.isGlobal);
+  return store.value(Locate(argument, info.text, store)).size();
+}
+
 bool ScenarioHandler::SplitVecInXYZ(const Argument& argument, float& x, float& y, float& z) {
   return SplitVecInXYZ(argument.text(), x, y, z);
 }

@@ -1,0 +1,7 @@
+#include "game_plugin/scenario/ScenarioEffects.h"
+
+namespace script {
+
+EMPTY_EFFECT_GROUP(ComponentsAndVariablesEffects)
+
+}

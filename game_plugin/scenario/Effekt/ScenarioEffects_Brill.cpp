@@ -1,0 +1,21 @@
+#include "game_plugin/scenario/ScenarioEffects.h"
+
+namespace script {
+
+// The entries in the order in which they are asked; each stands in a file of its name.
+#define MANIFEST(ENTRY)                                                                                                \
+  ENTRY(Return)                                                                                                        \
+  ENTRY(PrintTriggerInfo)                                                                                              \
+  ENTRY(ActivateTrigger)                                                                                               \
+  ENTRY(ActivateGlobalTrigger)                                                                                         \
+  ENTRY(SetVariable)                                                                                                   \
+  ENTRY(VariableModify)                                                                                                \
+  ENTRY(SetVariableRandom)                                                                                             \
+  ENTRY(ConvertEntityToVariable)                                                                                       \
+  ENTRY(WriteStringvarToEntityList)                                                                                    \
+  ENTRY(EnableFreeplayEvents)                                                                                          \
+  ENTRY(StartEvent)                                                                                                    \
+  ENTRY(AddFreeplayEventPool)
+EFFECT_GROUP_CHAIN(ScenarioEffects_Brill, MANIFEST)
+
+}

@@ -1,0 +1,15 @@
+#include "game_plugin/scenario/ScenarioEffects.h"
+
+namespace script {
+
+// The entries in the order in which they are asked; each stands in a file of its name.
+#define MANIFEST(ENTRY)                                                                                                \
+  ENTRY(StartScenario)                                                                                                 \
+  ENTRY(StopScenario)                                                                                                  \
+  ENTRY(SetLocalVariableGlobal)                                                                                        \
+  ENTRY(SetLocalEntityListGlobal)                                                                                      \
+  ENTRY(SetStringVariableToValue)                                                                                      \
+  ENTRY(DoLogEntry)
+EFFECT_GROUP_CHAIN(ScenarioEffects_Tarn, MANIFEST)
+
+}

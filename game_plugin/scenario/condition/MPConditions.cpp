@@ -1,0 +1,7 @@
+#include "game_plugin/scenario/ScenarioConditions.h"
+
+namespace script {
+
+EMPTY_CONDITION_GROUP(MPConditions)
+
+}

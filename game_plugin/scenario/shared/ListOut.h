@@ -1,0 +1,26 @@
+#pragma once
+#include "game_plugin/scenario/ScenarioHandler.h"
+#include "game_plugin/scenario/shared/EntityAccess.h"
+
+namespace script {
+
+/// The list-out convention: copies the in list, clears the out list, adds each id whose entity exists and passes the
+/// test, and answers whether the out list holds anything. As the in list is copied first, both may be the same list,
+/// which is then filtered in place. The out list exists afterwards, also if nothing passed.
+template <class Test>
+bool filterIntoList(ScenarioHandler& handler, const Argument& in, const Argument& out, Test&& passes) {
+  const EntityIds ids = handler.ResolveEntityList(in);
+  handler.ClearEntityList(out);
+  for (const std::uint64_t id : ids)
+    if (qsf::Entity* entity = findEntity(id); entity && passes(*entity)) handler.AddToEntityList(out, id);
+  return handler.GetEntityListSize(out) != 0;
+}
+
+/// Calls `act(entity)` for each id of the list argument that has an entity, walking a private copy.
+template <class Act> void forEachEntity(ScenarioHandler& handler, const Argument& list, Act&& act) {
+  const EntityIds ids = handler.ResolveEntityList(list);
+  for (const std::uint64_t id : ids)
+    if (qsf::Entity* entity = findEntity(id)) act(*entity);
+}
+
+}
