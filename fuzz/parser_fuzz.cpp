@@ -1,5 +1,5 @@
-// Fuzzes the script language: whatever bytes a file holds, reading it neither crashes nor hangs, and the tokeniser's fast
-// path agrees with the grammar on each line.
+// Fuzzes the script language: whatever bytes a file holds, reading it neither crashes nor hangs, and the tokeniser's
+// fast path agrees with the grammar on each line.
 #include "game_plugin/scenario/Records.h"
 #include "game_plugin/scenario/ScriptParser.h"
 #include "game_plugin/scenario/ScriptTokenizer.h"
@@ -7,6 +7,7 @@
 #include "qsf/Qsf.h"
 #include "qsf/log/LogSystem.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -23,10 +24,8 @@ struct SilentHost {
 
 void compareTokenizers(const std::string& line) {
   script::Tokens fast;
-  if (!script::tokenizeFast(line, fast))
-    return; // the fast path leaves this line to the grammar
-  if (fast == script::tokenizeByGrammar(line))
-    return;
+  if (!script::tokenizeFast(line, fast)) return; // the fast path leaves this line to the grammar
+  if (fast == script::tokenizeByGrammar(line)) return;
   std::fprintf(stderr, "the fast path and the grammar differ on: %s\n", line.c_str());
   std::abort();
 }
@@ -38,8 +37,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
   (void)host;
   const std::string_view text(reinterpret_cast<const char*>(data), size);
   const std::unique_ptr<script::ScriptDocument> document(script::ScriptParser().parseText(text, "fuzz", "fuzz/script"));
-  if (!document)
-    std::abort();
+  if (!document) std::abort();
 
   for (std::size_t begin = 0; begin < text.size();) {
     const std::size_t end = std::min(text.find('\n', begin), text.size());

@@ -1,0 +1,216 @@
+// What a tick of many active triggers costs, beside a loop that a C++ programmer would write for the same work: plain
+// structs, operators decoded, variables as indices. Each trigger has its own variable.
+//
+//   idle    CompareValues("v_i","==","1") is false, a second condition stands behind it
+//   firing  CompareValues("v_i",">=","0") holds, VariableModify("v_i","+","1","v_i") runs, in each tick
+#include "bench/support/Benchmarks.h"
+#include "game_plugin/scenario/Records.h"
+#include "game_plugin/scenario/ScenarioHandler.h"
+#include "game_plugin/scenario/ScriptParser.h"
+
+#include "qsf/job/JobArguments.h"
+
+#include <fmt/format.h>
+
+#include <cmath>
+#include <iterator>
+#include <memory>
+
+namespace {
+
+using tidemark::bench::Results;
+using tidemark::bench::Table;
+
+enum class Load { Idle, Firing };
+
+const qsf::Time TICK = qsf::Time::fromMilliseconds(50);
+
+std::string makeScript(Load load, std::int64_t triggers) {
+  std::string text;
+  for (std::int64_t i = 0; i < triggers; ++i) {
+    fmt::format_to(std::back_inserter(text), "InitNewTrigger(\"T_{0}\",true,true);\nInitConditions();\n", i);
+    if (load == Load::Idle)
+      fmt::format_to(std::back_inserter(text),
+                     "CompareValues(\"v_{0}\",\"==\",\"1\");\nCompareValues(\"v_{0}\",\"<=\",\"9\");\n", i);
+    else
+      fmt::format_to(std::back_inserter(text), "CompareValues(\"v_{0}\",\">=\",\"0\");\n", i);
+    fmt::format_to(std::back_inserter(text), "InitEffects();\nVariableModify(\"v_{0}\",\"+\",\"1\",\"v_{0}\");\n", i);
+  }
+  return text;
+}
+
+template <Load LOAD> void script(benchmark::State& state) {
+  const std::string text = makeScript(LOAD, state.range(0));
+  const std::unique_ptr<script::ScriptDocument> document(script::ScriptParser().parseText(text, "bench", "bench/tick"));
+  script::ScenarioHandler handler(std::make_shared<script::GlobalStores>());
+  handler.SetDocument(document.get());
+  handler.Start(script::StartKind::Realtime);
+  const qsf::JobArguments arguments(TICK);
+  handler.Update(arguments);
+  std::uint64_t ticks = 1;
+  for (auto _ : state) {
+    handler.Update(arguments);
+    ++ticks;
+  }
+  const script::ScenarioTrigger& last = document->triggers.back();
+  if (document->triggers.size() != static_cast<std::size_t>(state.range(0)) ||
+      last.timesFired != (LOAD == Load::Firing ? ticks : 0))
+    state.SkipWithError("the triggers did not do what is measured");
+}
+
+// The floor.
+
+enum class Operator : unsigned char { Less, LessOrEqual, Equal, NotEqual, GreaterOrEqual, Greater };
+enum class Arithmetic : unsigned char { Add, Subtract, Multiply, Divide };
+
+struct PlainCondition {
+  std::uint32_t variable;
+  float value;
+  Operator op;
+};
+
+struct PlainEffect {
+  std::uint32_t variable;
+  float value;
+  std::uint32_t result;
+  Arithmetic op;
+  bool round;
+};
+
+struct PlainTrigger {
+  bool active = true;
+  bool looped = true;
+  std::uint32_t fulfilled = 0;
+  std::uint32_t required = 0;
+  qsf::Time lastTimeActive;
+  std::uint64_t timesFired = 0;
+  std::vector<PlainCondition> conditions;
+  std::vector<PlainEffect> effects;
+};
+
+bool compare(float a, float b, Operator op) {
+  switch (op) {
+  case Operator::Less:
+    return a < b;
+  case Operator::LessOrEqual:
+    return a <= b;
+  case Operator::Equal:
+    return a == b;
+  case Operator::NotEqual:
+    return a != b;
+  case Operator::GreaterOrEqual:
+    return a >= b;
+  case Operator::Greater:
+    return a > b;
+  }
+  return false;
+}
+
+float compute(float a, float b, Arithmetic op) {
+  switch (op) {
+  case Arithmetic::Add:
+    return a + b;
+  case Arithmetic::Subtract:
+    return a - b;
+  case Arithmetic::Multiply:
+    return a * b;
+  case Arithmetic::Divide:
+    return a / b;
+  }
+  return 0;
+}
+
+struct PlainScript {
+  std::vector<PlainTrigger> triggers;
+  std::vector<float> variables;
+  qsf::Time time;
+
+  PlainScript(Load load, std::uint32_t count) : triggers(count), variables(count) {
+    for (std::uint32_t i = 0; i < count; ++i) {
+      PlainTrigger& trigger = triggers[i];
+      if (load == Load::Idle)
+        trigger.conditions = {{i, 1, Operator::Equal}, {i, 9, Operator::LessOrEqual}};
+      else
+        trigger.conditions = {{i, 0, Operator::GreaterOrEqual}};
+      trigger.required = static_cast<std::uint32_t>(trigger.conditions.size());
+      trigger.effects = {{i, 1, i, Arithmetic::Add, true}};
+    }
+  }
+
+  void tick(qsf::Time passed) {
+    time += passed;
+    for (PlainTrigger& trigger : triggers)
+      if (trigger.active) tick(trigger);
+  }
+
+  void tick(PlainTrigger& trigger) {
+    std::uint32_t held = 0;
+    std::uint32_t failed = 0;
+    const auto all = static_cast<std::uint32_t>(trigger.conditions.size());
+    for (const PlainCondition& condition : trigger.conditions) {
+      if (all - failed < trigger.required) break;
+      if (compare(variables[condition.variable], condition.value, condition.op))
+        ++held;
+      else
+        ++failed;
+    }
+    trigger.fulfilled = held;
+    if (held < trigger.required) return;
+    trigger.lastTimeActive = time;
+    trigger.active = trigger.looped;
+    ++trigger.timesFired;
+    for (const PlainEffect& effect : trigger.effects) {
+      const float value = compute(variables[effect.variable], effect.value, effect.op);
+      variables[effect.result] = effect.round ? std::round(value) : value;
+    }
+  }
+};
+
+template <Load LOAD> void loop(benchmark::State& state) {
+  PlainScript plain(LOAD, static_cast<std::uint32_t>(state.range(0)));
+  std::uint64_t ticks = 0;
+  for (auto _ : state) {
+    plain.tick(TICK);
+    benchmark::ClobberMemory();
+    ++ticks;
+  }
+  if (plain.triggers.back().timesFired != (LOAD == Load::Firing ? ticks : 0))
+    state.SkipWithError("the loop did not do what is measured");
+}
+
+constexpr std::int64_t COUNTS[] = {1'000, 10'000, 100'000};
+
+void registerAll() {
+  const auto add = [](const char* name, void (*function)(benchmark::State&)) {
+    auto* registered = benchmark::RegisterBenchmark(name, function)->Unit(benchmark::kMicrosecond);
+    for (const std::int64_t count : COUNTS)
+      registered->Arg(count);
+  };
+  add("idle/script", &script<Load::Idle>);
+  add("idle/loop", &loop<Load::Idle>);
+  add("firing/script", &script<Load::Firing>);
+  add("firing/loop", &loop<Load::Firing>);
+}
+
+Table makeTable(const Results& results) {
+  Table table({"active triggers", "script, ns per trigger", "plain loop, ns per trigger", "ratio"});
+  for (const char* load : {"idle", "firing"}) {
+    for (const std::int64_t count : COUNTS) {
+      const auto perTrigger = [&](const char* side) {
+        return results.nanoseconds(fmt::format("{}/{}/{}", load, side, count)) / static_cast<double>(count);
+      };
+      using tidemark::bench::grouped;
+      using tidemark::bench::oneDigit;
+      table.add({fmt::format("{}, {}", load, grouped(static_cast<double>(count))), oneDigit(perTrigger("script")),
+                 oneDigit(perTrigger("loop")), oneDigit(perTrigger("script") / perTrigger("loop"))});
+    }
+  }
+  return table;
+}
+
+}
+
+int main(int argc, char** argv) {
+  registerAll();
+  return tidemark::bench::runAndPrint(argc, argv, &makeTable);
+}
