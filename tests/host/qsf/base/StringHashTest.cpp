@@ -27,7 +27,9 @@ TEST(StringHash, MixesInTheTerminatingNul) {
 }
 
 TEST(StringHash, TakesBytesAsSignedCharacters) {
-  for (const std::string text : {"\xA7", "v\xC2\xA7x", "\xFF\x80\x7F", "stra\xDF" "e"})
+  for (const std::string text : {"\xA7", "v\xC2\xA7x", "\xFF\x80\x7F",
+                                 "stra\xDF"
+                                 "e"})
     EXPECT_EQ(StringHash(text).getHash(), hashByHand(text)) << text;
   // An unsigned byte would give this.
   const std::uint32_t unsignedHash = static_cast<std::uint32_t>(((2166136261u ^ 0xA7u) * 16777619ull) & 0xFFFFFFFFu);

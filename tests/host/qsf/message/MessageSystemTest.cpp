@@ -1,0 +1,207 @@
+#include "qsf/message/MessageSystem.h"
+#include "qsf/Qsf.h"
+#include "qsf/base/StringHashManager.h"
+#include "qsf/log/FaultCounter.h"
+#include "qsf/log/LogSystem.h"
+#include "qsf/message/MessageProxy.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <stdexcept>
+
+namespace {
+
+using qsf::MessageConfiguration;
+using qsf::MessageParameters;
+using qsf::MessageProxy;
+using qsf::StringHash;
+
+const StringHash ID("test::Message");
+
+class MessageSystemTest : public testing::Test {
+protected:
+  MessageSystemTest() {
+    host.getLogSystem().addListener([this](const qsf::LogSystem::Record& record) {
+      lines.push_back(std::to_string(record.severity) + " " + std::string(record.message));
+    });
+  }
+  MessageProxy::MessageFunction note(const std::string& text) {
+    return [this, text](const MessageParameters&) { calls += text; };
+  }
+  void emit(const MessageConfiguration& message = ID) { host.getMessageSystem().emitMessage(message); }
+
+  qsf::Qsf host;
+  std::string calls;
+  std::vector<std::string> lines;
+};
+
+TEST_F(MessageSystemTest, DeliversInsideTheCallInTheOrderOfRegistration) {
+  MessageProxy a, b, other;
+  a.registerAt(ID, note("a"));
+  other.registerAt(StringHash("test::Other"), note("x"));
+  b.registerAt(ID, note("b"));
+  calls += "(";
+  emit();
+  calls += ")";
+  EXPECT_EQ(calls, "(ab)");
+}
+
+TEST_F(MessageSystemTest, AListenersFiltersMustMatchUnlessUninitialised) {
+  MessageProxy any, first, second, third, both;
+  any.registerAt(ID, note("any "));
+  first.registerAt(MessageConfiguration(ID, 1), note("1 "));
+  second.registerAt(MessageConfiguration(ID, qsf::UNINITIALIZED_ID, 2), note("_2 "));
+  third.registerAt(MessageConfiguration(ID, qsf::UNINITIALIZED_ID, qsf::UNINITIALIZED_ID, 3), note("__3 "));
+  both.registerAt(MessageConfiguration(ID, 1, 2), note("12 "));
+  emit(MessageConfiguration(ID, 1, 2, 3));
+  EXPECT_EQ(calls, "any 1 _2 __3 12 ");
+  calls.clear();
+  emit(MessageConfiguration(ID, 1));
+  EXPECT_EQ(calls, "any 1 ");
+  calls.clear();
+  emit();
+  EXPECT_EQ(calls, "any ");
+}
+
+TEST_F(MessageSystemTest, HandsOverParametersAndTakesAResponse) {
+  MessageProxy proxy;
+  int number = 0;
+  std::string wrongType = "unchanged";
+  proxy.registerAt(ID, [&](const MessageParameters& parameters) {
+    EXPECT_TRUE(parameters.getParameter("number", number));
+    EXPECT_FALSE(parameters.getParameter("number", wrongType));
+    EXPECT_FALSE(parameters.getParameter("missing", number));
+    EXPECT_EQ(parameters.getFilter(1), 5u);
+    EXPECT_EQ(parameters.getFilter(2), qsf::UNINITIALIZED_ID);
+    EXPECT_EQ(parameters.getFilter(9), qsf::UNINITIALIZED_ID);
+    parameters.setResponse(MessageParameters::RESPONSE_BLOCK);
+  });
+  MessageParameters parameters(MessageConfiguration(ID, 5));
+  parameters.setParameter("number", 12);
+  EXPECT_EQ(parameters.getResponse(), 0);
+  host.getMessageSystem().emitMessage(parameters);
+  EXPECT_EQ(number, 12);
+  EXPECT_EQ(wrongType, "unchanged");
+  EXPECT_EQ(parameters.getResponse(), MessageParameters::RESPONSE_BLOCK);
+}
+
+TEST_F(MessageSystemTest, AListenerRegisteredInsideHearsTheNextMessage) {
+  MessageProxy outer, inner;
+  outer.registerAt(ID, [&](const MessageParameters&) {
+    calls += "outer ";
+    if (!inner.isRegistered()) inner.registerAt(ID, note("inner "));
+  });
+  emit();
+  EXPECT_EQ(calls, "outer ");
+  emit();
+  EXPECT_EQ(calls, "outer outer inner ");
+}
+
+TEST_F(MessageSystemTest, AListenerUnregisteredInsideHearsNothingMore) {
+  MessageProxy first, second;
+  first.registerAt(ID, [&](const MessageParameters&) {
+    calls += "first ";
+    second.unregister();
+  });
+  second.registerAt(ID, note("second "));
+  emit();
+  EXPECT_EQ(calls, "first ");
+  EXPECT_FALSE(second.isRegistered());
+}
+
+TEST_F(MessageSystemTest, ARunningListenerMayDestroyItsOwnerAndListenersOfOtherMessages) {
+  auto owner = std::make_unique<MessageProxy>();
+  auto other = std::make_unique<MessageProxy>();
+  const auto captured = std::make_shared<std::string>("captured by the function itself");
+  owner->registerAt(ID, [&, captured](const MessageParameters&) {
+    owner.reset();
+    other.reset();
+    for (int i = 0; i < 100; ++i) // the map of listeners grows under the running message
+      emit(StringHash("test::Message" + std::to_string(i)));
+    calls += *captured;
+  });
+  other->registerAt(StringHash("test::Other"), note("other"));
+  MessageProxy behind;
+  behind.registerAt(ID, note(" behind"));
+  emit();
+  EXPECT_EQ(calls, "captured by the function itself behind");
+  EXPECT_EQ(captured.use_count(), 1);
+  emit(StringHash("test::Other"));
+  EXPECT_EQ(calls, "captured by the function itself behind");
+}
+
+TEST_F(MessageSystemTest, MessagesMayNest) {
+  MessageProxy outer, inner;
+  outer.registerAt(ID, [&](const MessageParameters&) {
+    calls += "(";
+    emit(StringHash("test::Inner"));
+    calls += ")";
+  });
+  inner.registerAt(StringHash("test::Inner"), note("inner"));
+  emit();
+  EXPECT_EQ(calls, "(inner)");
+}
+
+TEST_F(MessageSystemTest, EndlessRecursionIsCutWithOneErrorInTheLog) {
+  MessageProxy first, second;
+  int count = 0;
+  const auto again = [&](const MessageParameters&) {
+    ++count;
+    emit();
+  };
+  // Two listeners that each emit again would double the work at each level.
+  first.registerAt(ID, again);
+  second.registerAt(ID, again);
+  host.getStringHashManager().registerStringHash(ID, "test::Message");
+  emit();
+  EXPECT_LE(count, 2 * qsf::MessageSystem::MAXIMUM_DEPTH);
+  EXPECT_GE(count, qsf::MessageSystem::MAXIMUM_DEPTH);
+  ASSERT_EQ(lines.size(), 1u);
+  EXPECT_EQ(lines[0].find("4 "), 0u);
+  EXPECT_NE(lines[0].find("test::Message"), std::string::npos);
+  EXPECT_EQ(host.getFaultCounter().getCount(), 1u);
+  // The next message is delivered as ever.
+  first.unregister();
+  second.registerAt(ID, note("heard"));
+  emit();
+  EXPECT_EQ(calls, "heard");
+}
+
+TEST_F(MessageSystemTest, AFaultIsLoggedAndTheOtherListenersHearTheMessage) {
+  MessageProxy faulty, sound;
+  faulty.registerAt(ID, [](const MessageParameters&) { throw std::runtime_error("broken"); });
+  sound.registerAt(ID, note("sound"));
+  host.getStringHashManager().registerStringHash(ID, "test::Message");
+  emit();
+  EXPECT_EQ(calls, "sound");
+  ASSERT_EQ(lines.size(), 1u);
+  EXPECT_EQ(lines[0], "4 Fault in a listener to message test::Message: broken");
+  EXPECT_EQ(host.getFaultCounter().getCount(), 1u);
+}
+
+TEST_F(MessageSystemTest, CountsMessagesByIdAndByName) {
+  host.getStringHashManager().registerStringHash(ID, "test::Message");
+  emit();
+  emit();
+  emit(StringHash(77u));
+  EXPECT_EQ(host.getMessageSystem().getEmittedCount(ID), 2u);
+  EXPECT_EQ(host.getMessageSystem().getEmittedCount(StringHash("never")), 0u);
+  EXPECT_EQ(host.getMessageSystem().getEmittedCounts(),
+            (std::map<std::string, std::uint64_t>{{"77", 1}, {"test::Message", 2}}));
+}
+
+TEST(MessageProxy, MayOutliveTheHostAndBeUsedWithoutOne) {
+  MessageProxy proxy;
+  proxy.registerAt(ID, [](const MessageParameters&) {});
+  EXPECT_FALSE(proxy.isRegistered());
+  {
+    qsf::Qsf host;
+    proxy.registerAt(ID, [](const MessageParameters&) {});
+    EXPECT_TRUE(proxy.isRegistered());
+  }
+  EXPECT_FALSE(proxy.isRegistered());
+  proxy.unregister();
+}
+
+}
