@@ -22,6 +22,7 @@
 #include "qsf/map/Map.h"
 #include "qsf/message/MessageSystem.h"
 #include "qsf/plugin/PluginSystem.h"
+#include "qsf/prototype/PrototypeManager.h"
 
 #include <optional>
 #include <stdexcept>
@@ -166,7 +167,7 @@ HostSession::HostSession(const Options& options) {
   qsf::Random::setSeed(options.seed);
   Internals& internals = *mInternals;
   internals.qsf.getLogSystem().setThreshold(options.logThreshold);
-  internals.qsf.getLocalizationSystem().setLanguage(options.language);
+  internals.qsf.getLocalizationSystem().setLanguage(options.language, true); // texts come with the projects
   internals.application.getGameSessionConfiguration().setGameModeType(options.gameMode);
   internals.settingsGroup.setSavedAccountname(options.account);
   for (const char* message : {"em5::Messages::GAME_STARTUP_FINISHED", "em5::Messages::GAME_SHUTDOWN_STARTING",
@@ -177,7 +178,8 @@ HostSession::HostSession(const Options& options) {
 HostSession::~HostSession() {
   Internals& internals = *mInternals;
   internals.end();
-  // Plug-ins hold windows on the GUI and listeners at the host: they go before both.
+  // Plug-ins hold windows on the GUI and listeners at the host: they go before both. Prefabs hold components of theirs.
+  internals.qsf.getMainPrototypeManager().clear();
   internals.qsf.getPluginSystem().unloadPlugins();
   HintHelper::clear();
 }
@@ -196,8 +198,11 @@ Mod& HostSession::mountMod(const std::string& directory, ModState state) {
 
 void HostSession::startup() {
   if (mInternals->isGame()) {
-    if (!mInternals->emergencyGui) mInternals->emergencyGui = std::make_unique<EmergencyGui>();
+    if (mInternals->emergencyGui) return;
+    mInternals->qsf.getLocalizationSystem().reload();
+    mInternals->emergencyGui = std::make_unique<EmergencyGui>();
   } else if (!mInternals->editor) {
+    mInternals->qsf.getLocalizationSystem().reload();
     mInternals->editor = std::make_unique<qsf::editor::EditorApplication>();
   }
 }

@@ -1,0 +1,37 @@
+#pragma once
+#include "qsf/base/Ids.h"
+#include "qsf/component/Component.h"
+
+namespace em5 {
+
+/// A person. Properties "EquipmentId" (the entity held as active equipment), "ContainerId" (the vehicle or building
+/// that the person is in), "Gangster", "Drunken".
+class QSF_API PersonComponent : public qsf::Component {
+  CAMP_RTTI()
+public:
+  static constexpr qsf::StringHash COMPONENT_ID{"em5::PersonComponent"};
+  explicit PersonComponent(qsf::Prototype* prototype) : Component(prototype) {}
+  static void declareCamp();
+
+  /// Uninitialised without equipment. The entity isn't tested for existence.
+  std::uint64_t getEquipmentId() const { return mEquipmentId; }
+  void setEquipmentId(std::uint64_t entityId) { mEquipmentId = entityId; }
+
+  /// Uninitialised outside.
+  std::uint64_t getContainerId() const { return mContainerId; }
+  void setContainerId(std::uint64_t entityId) { mContainerId = entityId; }
+
+  bool isGangster() const { return mGangster; }
+  void setGangsterFlag(bool gangster) { mGangster = gangster; }
+  bool isDrunken() const { return mDrunken; }
+  void setDrunken(bool drunken) { mDrunken = drunken; }
+
+private:
+  std::uint64_t mEquipmentId = qsf::UNINITIALIZED_ID;
+  std::uint64_t mContainerId = qsf::UNINITIALIZED_ID;
+  bool mGangster = false;
+  bool mDrunken = false;
+};
+
+}
+CAMP_TYPE_NONCOPYABLE(em5::PersonComponent)

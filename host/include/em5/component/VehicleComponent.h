@@ -1,0 +1,37 @@
+#pragma once
+#include "qsf/component/Component.h"
+
+namespace em5 {
+
+/// What all vehicles have. Damage runs from 0 (intact) to 1, at which the vehicle is destroyed; a fire on it adds to
+/// it. Properties "CanBeTowed", "CanBeCut", "SirenEnabled", "Damage".
+class QSF_API VehicleComponent : public qsf::Component {
+  CAMP_RTTI()
+public:
+  static constexpr qsf::StringHash COMPONENT_ID{"em5::VehicleComponent"};
+  explicit VehicleComponent(qsf::Prototype* prototype) : Component(prototype) {}
+  static void declareCamp();
+
+  bool getCanBeTowed() const { return mCanBeTowed; }
+  void setCanBeTowed(bool canBeTowed) { mCanBeTowed = canBeTowed; }
+  bool getCanBeCut() const { return mCanBeCut; }
+  void setCanBeCut(bool canBeCut) { mCanBeCut = canBeCut; }
+  bool isSirenEnabled() const { return mSirenEnabled; }
+  void setSirenEnabled(bool enabled) { mSirenEnabled = enabled; }
+
+  float getDamage() const { return mDamage; }
+  /// Clamped to 0 to 1; a value that isn't a number changes nothing.
+  void setDamage(float damage);
+  /// Adds damage. A destroyed vehicle stands still and its siren is off.
+  void applyDamage(float damage);
+  bool isDestroyed() const { return mDamage >= 1.0f; }
+
+private:
+  float mDamage = 0.0f;
+  bool mCanBeTowed = false;
+  bool mCanBeCut = false;
+  bool mSirenEnabled = false;
+};
+
+}
+CAMP_TYPE_NONCOPYABLE(em5::VehicleComponent)

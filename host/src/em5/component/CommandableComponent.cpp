@@ -1,0 +1,18 @@
+#include "em5/component/CommandableComponent.h"
+
+#include "qsf/reflection/CampTypes.h"
+
+namespace em5 {
+
+void CommandableComponent::declareCamp() {
+  camp::Class::declare<CommandableComponent>("em5::CommandableComponent")
+      .base<Component>()
+      .constructor1<qsf::Prototype*>()
+      .property("PlayerId", &CommandableComponent::getPlayerId, &CommandableComponent::setPlayerId)
+      .tag(qsf::UNSIGNED_TAG)
+      .property("OrderInfo", &CommandableComponent::getOrderInfo, &CommandableComponent::setOrderInfo)
+      .property("CommandIds", &CommandableComponent::mCommandIds)
+      .tag(qsf::UNSIGNED_TAG);
+}
+
+}

@@ -1,0 +1,19 @@
+#include "em5/component/PersonComponent.h"
+
+#include "qsf/reflection/CampTypes.h"
+
+namespace em5 {
+
+void PersonComponent::declareCamp() {
+  camp::Class::declare<PersonComponent>("em5::PersonComponent")
+      .base<Component>()
+      .constructor1<qsf::Prototype*>()
+      .property("EquipmentId", &PersonComponent::getEquipmentId, &PersonComponent::setEquipmentId)
+      .tag(qsf::UNSIGNED_TAG)
+      .property("ContainerId", &PersonComponent::getContainerId, &PersonComponent::setContainerId)
+      .tag(qsf::UNSIGNED_TAG)
+      .property("Gangster", &PersonComponent::isGangster, &PersonComponent::setGangsterFlag)
+      .property("Drunken", &PersonComponent::isDrunken, &PersonComponent::setDrunken);
+}
+
+}

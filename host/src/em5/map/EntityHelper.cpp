@@ -1,0 +1,125 @@
+#include "em5/map/EntityHelper.h"
+
+#include "em5/component/BuildingComponent.h"
+#include "em5/component/CommandableComponent.h"
+#include "em5/component/FireComponent.h"
+#include "em5/component/HealthComponent.h"
+#include "em5/component/HelicopterComponent.h"
+#include "em5/component/PersonComponent.h"
+#include "em5/component/RoadVehicleComponent.h"
+#include "em5/component/VehicleComponent.h"
+#include "em5/game/Game.h"
+#include "em5/order/OrderInfoManager.h"
+#include "qsf/component/LinkComponent.h"
+#include "qsf/map/Map.h"
+
+namespace em5 {
+
+bool EntityHelper::isVehicle() const {
+  const qsf::Entity& entity = getEntity();
+  return entity.getComponent<VehicleComponent>() || entity.getComponent<RoadVehicleComponent>() ||
+         entity.getComponent<HelicopterComponent>();
+}
+
+bool EntityHelper::isSquadVehicle() const { return isVehicle() && getEntity().getComponent<CommandableComponent>(); }
+
+bool EntityHelper::isSquadPerson() const {
+  return getEntity().getComponent<PersonComponent>() && getEntity().getComponent<CommandableComponent>() &&
+         !isGangsterPerson();
+}
+
+bool EntityHelper::isCivilPerson() const {
+  return getEntity().getComponent<PersonComponent>() && !getEntity().getComponent<CommandableComponent>() &&
+         !isGangsterPerson();
+}
+
+bool EntityHelper::isGangsterPerson() const {
+  const PersonComponent* person = getEntity().getComponent<PersonComponent>();
+  return person && person->isGangster();
+}
+
+bool EntityHelper::isPersonInjured() const {
+  const HealthComponent* health = getEntity().getComponent<HealthComponent>();
+  return health && health->isInjured();
+}
+
+bool EntityHelper::isBurning() const {
+  const FireComponent* fire = getEntity().getComponent<FireComponent>();
+  return fire && fire->isBurning();
+}
+
+bool EntityHelper::isBurnable() const {
+  const FireComponent* fire = getEntity().getComponent<FireComponent>();
+  return fire && fire->isBurnable();
+}
+
+bool EntityHelper::isSquadPersonInValidState() const { return isSquadPerson() && isPersonOutsideAndWell(); }
+
+bool EntityHelper::isCivilPersonInValidState() const { return isCivilPerson() && isPersonOutsideAndWell(); }
+
+bool EntityHelper::isSquadVehicleInValidState() const {
+  const VehicleComponent* vehicle = getEntity().getComponent<VehicleComponent>();
+  return isSquadVehicle() && !(vehicle && vehicle->isDestroyed());
+}
+
+bool EntityHelper::isSquadUnitInValidState() const {
+  return isSquadPersonInValidState() || isSquadVehicleInValidState();
+}
+
+bool EntityHelper::isInMapBoundaries() const {
+  const qsf::Map::Bounds& bounds = getEntity().getMap().getBounds();
+  const glm::vec3 position = getPosition();
+  return position.x >= bounds.minimumX && position.x <= bounds.maximumX && position.z >= bounds.minimumZ &&
+         position.z <= bounds.maximumZ;
+}
+
+void EntityHelper::unlinkFromParent() const {
+  if (qsf::LinkComponent* link = getEntity().getComponent<qsf::LinkComponent>()) link->unlinkFromParent();
+  PersonComponent* person = getEntity().getComponent<PersonComponent>();
+  if (person && person->getContainerId() != qsf::UNINITIALIZED_ID) {
+    person->setContainerId(qsf::UNINITIALIZED_ID);
+    getEntity().setHidden(false);
+  }
+}
+
+void EntityHelper::enterContainer(qsf::Entity& container) const {
+  PersonComponent* person = getEntity().getComponent<PersonComponent>();
+  if (!person || &container == &getEntity()) return;
+  getEntity().getOrCreateComponent<qsf::LinkComponent>()->setParentId(container.getId());
+  person->setContainerId(container.getId());
+  getEntity().setHidden(true);
+}
+
+const OrderInfo* EntityHelper::getOrderInfo() const {
+  const CommandableComponent* commandable = getEntity().getComponent<CommandableComponent>();
+  const qsf::UniqueInstance<Game> game;
+  return commandable && game ? game->getOrderInfoManager().getOrderInfoById(commandable->getOrderInfo()) : nullptr;
+}
+
+qsf::Entity* EntityHelper::getActiveEquipmentEntity() const {
+  const PersonComponent* person = getEntity().getComponent<PersonComponent>();
+  return person ? getEntityOnMap(person->getEquipmentId()) : nullptr;
+}
+
+bool EntityHelper::startFire() const {
+  FireComponent* fire = getEntity().getComponent<FireComponent>();
+  return fire && fire->startFire();
+}
+
+void EntityHelper::stopFire() const {
+  if (FireComponent* fire = getEntity().getComponent<FireComponent>()) fire->stopFire();
+}
+
+bool EntityHelper::isPersonOutsideAndWell() const {
+  const HealthComponent* health = getEntity().getComponent<HealthComponent>();
+  if (health && (health->isInjured() || health->isDead())) return false;
+  const PersonComponent* person = getEntity().getComponent<PersonComponent>();
+  if (person && getEntityOnMap(person->getContainerId())) return false;
+  // Whoever is linked to a vehicle or building is in it: maps and scripts put crews there that way.
+  qsf::Entity* parent = getParentEntity();
+  return !parent || !(EntityHelper(*parent).isVehicle() || parent->getComponent<BuildingComponent>());
+}
+
+qsf::Entity* EntityHelper::getEntityOnMap(std::uint64_t id) const { return getEntity().getMap().getEntityById(id); }
+
+}
