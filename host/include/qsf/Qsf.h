@@ -19,8 +19,8 @@ class LayerManager;
 class CallRecorder;
 class FaultCounter;
 
-/// The root of the runtime: owns the systems and hands them out. One lives at a time; the program that hosts the game makes
-/// and destroys it. Systems are made in the constructor and live as long as it does.
+/// The root of the runtime: owns the systems and hands them out. One lives at a time; the program that hosts the game
+/// makes and destroys it. Systems are made in the constructor and live as long as it does.
 class QSF_API Qsf {
 public:
   Qsf();

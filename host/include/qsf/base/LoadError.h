@@ -6,7 +6,8 @@
 
 namespace qsf {
 
-/// An input file that cannot be used. The text names the file, the JSON path or line, what is wrong and what would be right.
+/// An input file that cannot be used. The text names the file, the JSON path or line, what is wrong and what would be
+/// right.
 class QSF_API LoadError : public std::runtime_error {
 public:
   LoadError(const std::string& file, const std::string& place, const std::string& fault)

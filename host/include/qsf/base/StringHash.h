@@ -28,8 +28,7 @@ public:
 
   /// Offset basis 0x811C9DC5, prime 16777619.
   static constexpr std::uint32_t compute(std::string_view text) {
-    if (text.empty())
-      return UNINITIALIZED_STRING_HASH;
+    if (text.empty()) return UNINITIALIZED_STRING_HASH;
     std::uint32_t hash = 0x811C9DC5u;
     for (const char character : text)
       hash = (hash ^ static_cast<std::uint32_t>(static_cast<std::int32_t>(static_cast<signed char>(character)))) *

@@ -25,8 +25,7 @@ public:
 protected:
   UniqueInstanceTarget() { UniqueInstance<T>::sInstance = static_cast<T*>(this); }
   ~UniqueInstanceTarget() {
-    if (UniqueInstance<T>::sInstance == static_cast<T*>(this))
-      UniqueInstance<T>::sInstance = nullptr;
+    if (UniqueInstance<T>::sInstance == static_cast<T*>(this)) UniqueInstance<T>::sInstance = nullptr;
   }
 };
 

@@ -5,8 +5,8 @@
 
 namespace qsf {
 
-/// The keys: letters "A" to "Z", digits "0" to "9" (described with a blank in front, " 8", as the key caps are in the game),
-/// "F1" to "F15", "Numpad0" to "Numpad9", "LeftShift", "Return" and so on.
+/// The keys: letters "A" to "Z", digits "0" to "9" (described with a blank in front, " 8", as the key caps are in the
+/// game), "F1" to "F15", "Numpad0" to "Numpad9", "LeftShift", "Return" and so on.
 class QSF_API KeyboardDevice : public InputDevice {
 public:
   KeyboardDevice();

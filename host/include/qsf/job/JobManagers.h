@@ -13,7 +13,8 @@ namespace detail {
 struct Job;
 }
 
-/// The job managers of a frame, in their fixed order. Jobs of a manager run in the order of their registration. Owned by Qsf.
+/// The job managers of a frame, in their fixed order. Jobs of a manager run in the order of their registration. Owned
+/// by Qsf.
 class QSF_API JobManagers {
 public:
   JobManagers();
@@ -24,7 +25,8 @@ public:
   /// Appends a manager. A simulation manager rests while the simulation is paused.
   void addJobManager(StringHash id, bool isSimulation);
   /// One frame: every manager, in order. A job registered inside runs from the next frame on; one unregistered inside
-  /// doesn't run any more. A pause holds from the next call on. Called from inside a job it logs an error and does nothing.
+  /// doesn't run any more. A pause holds from the next call on. Called from inside a job it logs an error and does
+  /// nothing.
   void runFrame(Time timePassed);
 
   void setPaused(bool paused) { mPaused = paused; }

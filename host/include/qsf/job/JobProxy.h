@@ -25,8 +25,8 @@ public:
   JobProxy(const JobProxy&) = delete;
   JobProxy& operator=(const JobProxy&) = delete;
 
-  /// Registers the job at the end of the manager of that name (see em5::Jobs), replacing what the proxy had. It runs from
-  /// the next frame on. An unknown manager logs a warning and leaves the proxy unregistered.
+  /// Registers the job at the end of the manager of that name (see em5::Jobs), replacing what the proxy had. It runs
+  /// from the next frame on. An unknown manager logs a warning and leaves the proxy unregistered.
   void registerAt(StringHash jobManagerId, const JobFunction& function,
                   const jobs::JobConfiguration& configuration = jobs::JobConfiguration());
   void unregister();

@@ -7,8 +7,8 @@
 
 namespace qsf {
 
-/// Counts the faults that were caught at the host's boundary, so that a program can tell by its exit code that a callback
-/// went wrong. Owned by Qsf; starts at zero with each host.
+/// Counts the faults that were caught at the host's boundary, so that a program can tell by its exit code that a
+/// callback went wrong. Owned by Qsf; starts at zero with each host.
 class QSF_API FaultCounter {
 public:
   std::uint64_t getCount() const { return mCount; }

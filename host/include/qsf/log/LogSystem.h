@@ -10,7 +10,8 @@
 
 namespace qsf {
 
-/// The host's log. Severities are plain numbers because plug-ins pass them through; anything outside 0 to 5 is not logged.
+/// The host's log. Severities are plain numbers because plug-ins pass them through; anything outside 0 to 5 is not
+/// logged.
 class QSF_API LogSystem {
 public:
   enum Severity { TRACE = 0, DEBUG = 1, INFO = 2, WARNING = 3, ERROR = 4, NONE = 5 };

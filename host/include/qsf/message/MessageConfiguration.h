@@ -11,8 +11,8 @@ namespace qsf {
 class QSF_API MessageConfiguration {
 public:
   MessageConfiguration() = default;
-  MessageConfiguration(StringHash id, std::uint64_t filter1 = UNINITIALIZED_ID, std::uint64_t filter2 = UNINITIALIZED_ID,
-                       std::uint64_t filter3 = UNINITIALIZED_ID)
+  MessageConfiguration(StringHash id, std::uint64_t filter1 = UNINITIALIZED_ID,
+                       std::uint64_t filter2 = UNINITIALIZED_ID, std::uint64_t filter3 = UNINITIALIZED_ID)
       : mId(id), mFilters{filter1, filter2, filter3} {}
 
   StringHash getId() const { return mId; }
@@ -22,11 +22,9 @@ public:
   }
   /// True if a listener registered with this configuration hears that message.
   bool matches(const MessageConfiguration& message) const {
-    if (mId != message.mId)
-      return false;
+    if (mId != message.mId) return false;
     for (std::size_t i = 0; i < mFilters.size(); ++i)
-      if (mFilters[i] != UNINITIALIZED_ID && mFilters[i] != message.mFilters[i])
-        return false;
+      if (mFilters[i] != UNINITIALIZED_ID && mFilters[i] != message.mFilters[i]) return false;
     return true;
   }
 

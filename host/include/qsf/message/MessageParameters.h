@@ -25,8 +25,7 @@ public:
   template <typename T> bool getParameter(const std::string& name, T& value) const {
     const auto found = mParameters.find(name);
     const T* typed = found == mParameters.end() ? nullptr : std::any_cast<T>(&found->second);
-    if (typed)
-      value = *typed;
+    if (typed) value = *typed;
     return typed != nullptr;
   }
 

@@ -32,8 +32,8 @@ public:
   /// All counts, by the text of the id where the string hash manager knows it and else by its number.
   std::map<std::string, std::uint64_t> getEmittedCounts() const;
 
-  /// Messages that listeners emit while they hear one may nest this deep. Beyond it the message is dropped with an error in
-  /// the log, and so are all further ones until the outermost has been delivered.
+  /// Messages that listeners emit while they hear one may nest this deep. Beyond it the message is dropped with an
+  /// error in the log, and so are all further ones until the outermost has been delivered.
   static constexpr int MAXIMUM_DEPTH = 64;
 
 private:

@@ -41,8 +41,8 @@ protected:
   virtual void onShutdown() = 0;
   virtual void onUninstall() = 0;
 
-  /// Makes a declared class known to the host: components of that class can be created by name. The class id is the hash
-  /// of its name.
+  /// Makes a declared class known to the host: components of that class can be created by name. The class id is the
+  /// hash of its name.
   void addCampClass(const camp::Class& campClass);
 
 private:

@@ -7,8 +7,8 @@
 
 namespace qsf {
 
-/// Loads plug-ins and drives their life: onInstall and onStartup in the order of loading, onShutdown and onUninstall in reverse.
-/// Owned by Qsf, which unloads what is still there before any other system goes.
+/// Loads plug-ins and drives their life: onInstall and onStartup in the order of loading, onShutdown and onUninstall in
+/// reverse. Owned by Qsf, which unloads what is still there before any other system goes.
 class QSF_API PluginSystem {
 public:
   /// The name of the factory, a `qsf::Plugin* ()` with C linkage, which makes the plug-in with `new`.
@@ -19,15 +19,15 @@ public:
   PluginSystem(const PluginSystem&) = delete;
   PluginSystem& operator=(const PluginSystem&) = delete;
 
-  /// Loads the shared library, makes its plug-in, installs and starts it. Null if the plug-in refuses to be installed or
-  /// started, which is logged at severity 4; it is released then. Throws LoadError if the file or the factory is missing, the
-  /// factory makes nothing, or the library is loaded already.
+  /// Loads the shared library, makes its plug-in, installs and starts it. Null if the plug-in refuses to be installed
+  /// or started, which is logged at severity 4; it is released then. Throws LoadError if the file or the factory is
+  /// missing, the factory makes nothing, or the library is loaded already.
   Plugin* loadPlugin(const std::string& path, const std::string& factoryName = DEFAULT_FACTORY);
   /// The same with a plug-in that is part of the program.
   Plugin* addPlugin(std::unique_ptr<Plugin> plugin);
 
-  /// Shuts all plug-ins down and releases them, the newest first. A library stays in memory if it is to be kept or if it
-  /// has declared classes: CAMP never forgets a class, and its data lie in the library.
+  /// Shuts all plug-ins down and releases them, the newest first. A library stays in memory if it is to be kept or if
+  /// it has declared classes: CAMP never forgets a class, and its data lie in the library.
   void unloadPlugins();
   /// Leak checkers can name the functions of a library only while it is in memory. Off by default.
   void setKeepLibraries(bool keep) { mKeepLibraries = keep; }

@@ -7,8 +7,8 @@
 
 namespace qsf {
 
-/// The declared classes that the host can make and find by the hash of their name: components, actions, commands. One per
-/// process, since CAMP's own table is: a class stays known from one host to the next. Plug-ins add theirs through
+/// The declared classes that the host can make and find by the hash of their name: components, actions, commands. One
+/// per process, since CAMP's own table is: a class stays known from one host to the next. Plug-ins add theirs through
 /// Plugin::addCampClass; they go when the plug-in goes.
 class QSF_API ClassRegistry {
 public:
@@ -21,8 +21,8 @@ public:
   /// All classes, in the order in which they were added.
   static const std::vector<const camp::Class*>& getClasses();
 
-  /// Declares a class with its static declareCamp() unless that was done before in this process, and adds it. Every host calls
-  /// it for every class; declaring a class twice is an error in CAMP.
+  /// Declares a class with its static declareCamp() unless that was done before in this process, and adds it. Every
+  /// host calls it for every class; declaring a class twice is an error in CAMP.
   template <class T> static void declareOnce() {
     static const bool declared = (T::declareCamp(), true);
     static_cast<void>(declared);

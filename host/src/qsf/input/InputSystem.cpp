@@ -7,8 +7,7 @@ InputDevice::~InputDevice() = default;
 
 InputButton* InputDevice::findButton(const std::string& text) const {
   for (InputButton* button : mButtonView)
-    if (button->getDescription() == text || button->getName() == text)
-      return button;
+    if (button->getDescription() == text || button->getName() == text) return button;
   return nullptr;
 }
 
@@ -35,10 +34,12 @@ KeyboardDevice::KeyboardDevice() {
     addButton(std::string("Numpad") + digit, std::string("Numpad") + digit);
   for (const char* name :
        {"NumpadPlus", "NumpadMinus", "NumpadMultiply", "NumpadDivide", "NumpadDecimal", "NumpadEnter", "NumLock",
-        "Plus", "Minus", "Equals", "Comma", "Period", "Semicolon", "Apostrophe", "Grave", "Slash", "Backslash",
-        "LeftBracket", "RightBracket", "LeftShift", "RightShift", "LeftCtrl", "RightCtrl", "LeftAlt", "RightAlt",
-        "LeftWin", "RightWin", "Apps", "Return", "Escape", "Space", "Tab", "Backspace", "CapsLock", "ScrollLock",
-        "Print", "Pause", "Insert", "Delete", "Home", "End", "PageUp", "PageDown", "Up", "Down", "Left", "Right"})
+        "Plus",       "Minus",       "Equals",         "Comma",        "Period",        "Semicolon",   "Apostrophe",
+        "Grave",      "Slash",       "Backslash",      "LeftBracket",  "RightBracket",  "LeftShift",   "RightShift",
+        "LeftCtrl",   "RightCtrl",   "LeftAlt",        "RightAlt",     "LeftWin",       "RightWin",    "Apps",
+        "Return",     "Escape",      "Space",          "Tab",          "Backspace",     "CapsLock",    "ScrollLock",
+        "Print",      "Pause",       "Insert",         "Delete",       "Home",          "End",         "PageUp",
+        "PageDown",   "Up",          "Down",           "Left",         "Right"})
     addButton(name, name);
 }
 
@@ -53,8 +54,7 @@ void MouseDevice::setPosition(const glm::vec2& position) {
   mPosition = position;
 }
 
-InputSystem::InputSystem()
-    : mKeyboard(std::make_unique<KeyboardDevice>()), mMouse(std::make_unique<MouseDevice>()) {}
+InputSystem::InputSystem() : mKeyboard(std::make_unique<KeyboardDevice>()), mMouse(std::make_unique<MouseDevice>()) {}
 
 InputSystem::~InputSystem() = default;
 

@@ -1,13 +1,10 @@
 #include "qsf/localization/LocalizationSystem.h"
 #include "qsf/Qsf.h"
 #include "qsf/asset/Project.h"
-#include "qsf/base/LoadError.h"
+#include "qsf/base/JsonFile.h"
 #include "qsf/log/LogSystem.h"
 
-#include <nlohmann/json.hpp>
-
 #include <filesystem>
-#include <fstream>
 
 namespace qsf {
 
@@ -15,23 +12,11 @@ namespace {
 
 using Texts = std::map<std::string, std::string>;
 
-void readFile(const std::filesystem::path& file, Texts& texts) {
-  std::ifstream stream(file, std::ios::binary);
-  if (!stream)
-    throw LoadError(file.string(), "", "the file cannot be read");
-  nlohmann::json document;
-  try {
-    document = nlohmann::json::parse(stream);
-  } catch (const nlohmann::json::exception& exception) {
-    throw LoadError(file.string(), "", exception.what());
-  }
-  if (!document.is_object())
-    throw LoadError(file.string(), "/", "an object from text id to text is needed");
-  for (const auto& [id, text] : document.items()) {
-    if (!text.is_string())
-      throw LoadError(file.string(), "/" + id, "a text in quotes is needed");
-    texts[id] = text.get<std::string>();
-  }
+void readFile(const std::string& file, Texts& texts) {
+  const Json document = readJsonFile(file);
+  const JsonPlace root(document, file);
+  root.expectObject();
+  root.eachMember([&texts](const std::string& id, const JsonPlace& place) { texts[id] = place.asText(); });
 }
 
 /// A language is one folder's name and nothing that leads elsewhere.
@@ -43,22 +28,19 @@ bool isFolderName(const std::string& language) {
 /// Reads the texts of one language from all mounted projects. Returns whether any project has the language.
 bool readTexts(const std::string& language, Texts& texts) {
   const Qsf* host = Qsf::instance();
-  if (!host || !isFolderName(language))
-    return false;
+  if (!host || !isFolderName(language)) return false;
   bool found = false;
   for (const auto& project : host->getProjectManager().getProjects()) {
     const auto folder = std::filesystem::path(project->getAbsoluteDirectory()) / "text" / language;
     std::error_code error;
-    if (!std::filesystem::is_directory(folder, error))
-      continue;
+    if (!std::filesystem::is_directory(folder, error)) continue;
     found = true;
     std::vector<std::filesystem::path> files;
     for (const auto& file : std::filesystem::directory_iterator(folder, error))
-      if (file.path().extension() == ".json")
-        files.push_back(file.path());
+      if (file.path().extension() == ".json") files.push_back(file.path());
     std::sort(files.begin(), files.end()); // a folder's own order differs from machine to machine
     for (const auto& file : files)
-      readFile(file, texts);
+      readFile(file.string(), texts);
   }
   return found;
 }
@@ -68,8 +50,7 @@ bool readTexts(const std::string& language, Texts& texts) {
 bool LocalizationSystem::setLanguage(const std::string& language, bool force) {
   Texts texts;
   try {
-    if (!readTexts(language, texts) && !force)
-      return false;
+    if (!readTexts(language, texts) && !force) return false;
   } catch (const LoadError& error) {
     logMessage(LogSystem::ERROR, error.what());
     return false;

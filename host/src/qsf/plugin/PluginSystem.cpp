@@ -31,8 +31,7 @@ Plugin* PluginSystem::loadPlugin(const std::string& path, const std::string& fac
     throw LoadError(path, factoryName,
                     "the library exports no such function; a plug-in needs this factory with C linkage");
   callGuarded([&] { entry->plugin.reset(factory()); }, [&] { return factoryName + " of " + path; });
-  if (!entry->plugin)
-    throw LoadError(path, factoryName, "the factory made no plug-in");
+  if (!entry->plugin) throw LoadError(path, factoryName, "the factory made no plug-in");
   return start(std::move(entry));
 }
 
@@ -55,8 +54,7 @@ Plugin* PluginSystem::start(std::unique_ptr<Entry> entry) {
     return &plugin;
   }
   logMessage(LogSystem::ERROR, "The plug-in '" + name + "' could not be " + (installed ? "started" : "installed"));
-  if (installed)
-    callGuarded([&] { plugin.onUninstall(); }, [&] { return "the removal of plug-in '" + name + "'"; });
+  if (installed) callGuarded([&] { plugin.onUninstall(); }, [&] { return "the removal of plug-in '" + name + "'"; });
   release(std::move(entry));
   return nullptr;
 }
@@ -70,8 +68,7 @@ void PluginSystem::end(Entry& entry) {
 
 void PluginSystem::release(std::unique_ptr<Entry> entry) const {
   const auto& classes = entry->plugin->getCampClasses();
-  if (entry->library && (mKeepLibraries || !classes.empty()))
-    entry->library->keep();
+  if (entry->library && (mKeepLibraries || !classes.empty())) entry->library->keep();
   for (const camp::Class* campClass : classes)
     ClassRegistry::removeClass(*campClass);
   // Members go in reverse order: the plug-in while its library is still there.

@@ -17,14 +17,12 @@ Classes& classes() {
 }
 
 void ClassRegistry::addClass(const camp::Class& campClass) {
-  if (classes().byId.emplace(StringHash(campClass.name()), &campClass).second)
-    classes().inOrder.push_back(&campClass);
+  if (classes().byId.emplace(StringHash(campClass.name()), &campClass).second) classes().inOrder.push_back(&campClass);
 }
 
 void ClassRegistry::removeClass(const camp::Class& campClass) {
   const auto found = classes().byId.find(StringHash(campClass.name()));
-  if (found == classes().byId.end() || found->second != &campClass)
-    return;
+  if (found == classes().byId.end() || found->second != &campClass) return;
   classes().byId.erase(found);
   std::erase(classes().inOrder, &campClass);
 }
