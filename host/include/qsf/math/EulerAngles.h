@@ -7,9 +7,9 @@
 namespace qsf {
 
 /// Conversions between Euler angles (radians) and quaternions. The order value follows Shoemake's scheme: bit 0 the
-/// frame (1: rotating axes), bit 1 repetition, bit 2 parity, from bit 3 the inner axis. The game uses order 17:
-/// rotating axes, inner axis Z, which makes a rotation about Y, then X, then Z; the vector is always (x angle, y angle,
-/// z angle).
+/// frame (1: rotating axes), bit 1 repetition, bit 2 parity, from bit 3 the inner axis. The vector holds the angles in
+/// the order of the turns. The game uses order 17: first about Y (the heading), then about the turned X, then about the
+/// turned Z; so the vector is (heading about Y, about X, about Z).
 class QSF_API EulerAngles {
 public:
   static glm::quat eulerToQuaternion(const glm::vec3& angles, int order);

@@ -10,13 +10,14 @@ namespace {
 constexpr double POLE = 16.0 * 1.1920929e-7;
 
 /// The three axes in the order of a rotation about fixed axes. A rotation about rotating axes is the same with the
-/// order turned round, and since each angle belongs to its axis by name, the frame bit changes nothing for three
-/// distinct axes.
+/// order turned round, so the frame bit only tells which end of the vector the first angle stands at.
 struct Axes {
   int first;
   int middle;
-  int last;        ///< equals `first` for a repeating order
-  int lastAngleAt; ///< where the vector holds the last angle: the axis that a repeating order leaves out
+  int last;    ///< equals `first` for a repeating order
+  int other;   ///< the axis that is neither `first` nor `middle`
+  int firstAt; ///< where the vector holds the angle of the first axis; the middle one is always at 1
+  int lastAt;
   bool repeats;
   bool odd;
 
@@ -27,8 +28,10 @@ struct Axes {
     const unsigned int inner = (bits >> 3u) & 3u;
     first = inner == 3u ? 0 : static_cast<int>(inner);
     middle = (first + (odd ? 2 : 1)) % 3;
-    lastAngleAt = (first + (odd ? 1 : 2)) % 3;
-    last = repeats ? first : lastAngleAt;
+    other = (first + (odd ? 1 : 2)) % 3;
+    last = repeats ? first : other;
+    firstAt = (bits & 1u) != 0 ? 2 : 0;
+    lastAt = 2 - firstAt;
   }
 };
 
@@ -47,8 +50,8 @@ glm::dquat aboutAxis(int axis, double angle) {
 
 glm::quat EulerAngles::eulerToQuaternion(const glm::vec3& angles, int order) {
   const Axes axes(order);
-  const glm::dquat rotation = aboutAxis(axes.last, angles[axes.lastAngleAt]) *
-                              aboutAxis(axes.middle, angles[axes.middle]) * aboutAxis(axes.first, angles[axes.first]);
+  const glm::dquat rotation = aboutAxis(axes.last, angles[axes.lastAt]) * aboutAxis(axes.middle, angles[1]) *
+                              aboutAxis(axes.first, angles[axes.firstAt]);
   return glm::quat(static_cast<float>(rotation.w), static_cast<float>(rotation.x), static_cast<float>(rotation.y),
                    static_cast<float>(rotation.z));
 }
@@ -63,7 +66,7 @@ glm::vec3 EulerAngles::quaternionToEuler(const glm::quat& rotation, int order) {
   const Axes axes(order);
   const int i = axes.first;
   const int j = axes.middle;
-  const int k = axes.lastAngleAt;
+  const int k = axes.other;
   double firstAngle = 0.0;
   double middleAngle = 0.0;
   double lastAngle = 0.0;
@@ -89,9 +92,9 @@ glm::vec3 EulerAngles::quaternionToEuler(const glm::quat& rotation, int order) {
 
   const double sign = axes.odd ? -1.0 : 1.0;
   glm::vec3 angles(0.0f);
-  angles[i] = static_cast<float>(sign * firstAngle);
-  angles[j] = static_cast<float>(sign * middleAngle);
-  angles[k] = static_cast<float>(sign * lastAngle);
+  angles[axes.firstAt] = static_cast<float>(sign * firstAngle);
+  angles[1] = static_cast<float>(sign * middleAngle);
+  angles[axes.lastAt] = static_cast<float>(sign * lastAngle);
   return angles;
 }
 

@@ -22,23 +22,24 @@ void expectNear(const glm::vec3& actual, const glm::vec3& expected, float tolera
     EXPECT_NEAR(actual[i], expected[i], tolerance) << "axis " << i;
 }
 
-TEST(EulerAngles, ARightAngleAboutXReadsBack) {
+TEST(EulerAngles, ARightAngleOfHeadingReadsBack) {
   const glm::quat rotation = EulerAngles::eulerToQuaternion({RIGHT_ANGLE, 0, 0}, GAME_ORDER);
   EXPECT_NEAR(rotation.w, 0.70710678f, 1e-6f);
-  EXPECT_NEAR(rotation.x, 0.70710678f, 1e-6f);
-  EXPECT_EQ(rotation.y, 0.0f);
+  EXPECT_EQ(rotation.x, 0.0f);
+  EXPECT_NEAR(rotation.y, 0.70710678f, 1e-6f);
   EXPECT_EQ(rotation.z, 0.0f);
   expectNear(EulerAngles::quaternionToEuler(rotation, GAME_ORDER), {RIGHT_ANGLE, 0, 0}, 1e-4f);
 }
 
-TEST(EulerAngles, EachAngleTurnsAboutItsOwnAxis) {
-  for (int axis = 0; axis < 3; ++axis) {
+TEST(EulerAngles, TheAnglesTurnAboutYAndXAndZ) {
+  constexpr int AXES[] = {1, 0, 2};
+  for (int at = 0; at < 3; ++at) {
     glm::vec3 angles(0.0f);
-    angles[axis] = 0.5f;
+    angles[at] = 0.5f;
     glm::vec3 direction(0.0f);
-    direction[axis] = 1.0f;
+    direction[AXES[at]] = 1.0f;
     const glm::quat rotation = EulerAngles::eulerToQuaternion(angles, GAME_ORDER);
-    EXPECT_LT(distance(rotation, glm::angleAxis(0.5f, direction)), 1e-3) << axis;
+    EXPECT_LT(distance(rotation, glm::angleAxis(0.5f, direction)), 1e-3) << at;
     expectNear(EulerAngles::quaternionToEuler(rotation, GAME_ORDER), angles, 1e-6f);
   }
 }
@@ -46,14 +47,14 @@ TEST(EulerAngles, EachAngleTurnsAboutItsOwnAxis) {
 TEST(EulerAngles, TheGameTurnsAboutYThenXThenZOfTheTurnedThing) {
   const glm::quat expected = glm::angleAxis(0.7f, glm::vec3(0, 1, 0)) * glm::angleAxis(0.3f, glm::vec3(1, 0, 0)) *
                              glm::angleAxis(-0.4f, glm::vec3(0, 0, 1));
-  EXPECT_LT(distance(EulerAngles::eulerToQuaternion({0.3f, 0.7f, -0.4f}, GAME_ORDER), expected), 1e-3);
+  EXPECT_LT(distance(EulerAngles::eulerToQuaternion({0.7f, 0.3f, -0.4f}, GAME_ORDER), expected), 1e-3);
 }
 
 TEST(EulerAngles, AnglesReadBackOverTheWholeRange) {
   for (float x = -1.5f; x <= 1.5f; x += 0.25f)
     for (float y = -3.0f; y <= 3.0f; y += 0.5f)
       for (float z = -3.0f; z <= 3.0f; z += 0.5f) {
-        const glm::vec3 angles(x, y, z);
+        const glm::vec3 angles(y, x, z);
         const glm::quat rotation = EulerAngles::eulerToQuaternion(angles, GAME_ORDER);
         EXPECT_NEAR(glm::length(rotation), 1.0f, 1e-5f);
         expectNear(EulerAngles::quaternionToEuler(rotation, GAME_ORDER), angles, 1e-4f);
@@ -76,11 +77,11 @@ TEST(EulerAngles, AtThePolesTheRotationStaysAndOneAngleTakesAll) {
   for (const float pole : {RIGHT_ANGLE, -RIGHT_ANGLE})
     for (float y = -3.0f; y <= 3.0f; y += 0.5f)
       for (float z = -3.0f; z <= 3.0f; z += 0.5f) {
-        const glm::quat rotation = EulerAngles::eulerToQuaternion({pole, y, z}, GAME_ORDER);
+        const glm::quat rotation = EulerAngles::eulerToQuaternion({y, pole, z}, GAME_ORDER);
         const glm::vec3 angles = EulerAngles::quaternionToEuler(rotation, GAME_ORDER);
         for (int i = 0; i < 3; ++i)
           ASSERT_TRUE(std::isfinite(angles[i]));
-        EXPECT_NEAR(angles.x, pole, 2e-3f);
+        EXPECT_NEAR(angles.y, pole, 2e-3f);
         EXPECT_LT(distance(EulerAngles::eulerToQuaternion(angles, GAME_ORDER), rotation), 3e-3);
       }
 }
