@@ -40,6 +40,8 @@ public:
   const ArgumentText& info() const { return *mText; }
 
   friend bool operator==(const Argument& a, std::string_view b) { return a.text() == b; }
+  friend bool operator==(const Argument& a, const char* b) { return a.text() == b; }
+  friend bool operator==(const Argument& a, const std::string& b) { return a.text() == b; }
   friend bool operator==(const Argument& a, const Argument& b) { return a.mText == b.mText; }
 
 private:

@@ -47,8 +47,8 @@ TEST(ScriptTokenizer, TakesTheGlobalMarkInEitherEncoding) {
 }
 
 TEST(ScriptTokenizer, RefusesWhatIsNoCommand) {
-  for (const char* line : {"", "Foo", "Foo()", "Foo;", "Foo(-1);", "Foo(1,);", "Foo(,1);", "Foo(\"a);", "Foo(1); x", "(1);",
-                           "F\xC3\xB6o();", "Foo(\xFF);", "Foo(\"a\"b);", "Foo(svar(x);"})
+  for (const char* line : {"", "Foo", "Foo()", "Foo;", "Foo(-1);", "Foo(1,);", "Foo(,1);", "Foo(\"a);", "Foo(1); x",
+                           "(1);", "F\xC3\xB6o();", "Foo(\xFF);", "Foo(\"a\"b);", "Foo(svar(x);"})
     EXPECT_TRUE(tokenizeByGrammar(line).empty()) << line;
 }
 
@@ -68,8 +68,7 @@ TEST(ScriptTokenizer, TheFastPathAgreesWithTheGrammarWhereverItAnswers) {
       line += alphabet[random() % alphabet.size()];
     line += ");";
     Tokens fast;
-    if (!tokenizeFast(line, fast))
-      continue;
+    if (!tokenizeFast(line, fast)) continue;
     ++answered;
     ASSERT_EQ(fast, tokenizeByGrammar(line)) << line;
   }

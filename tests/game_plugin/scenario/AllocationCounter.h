@@ -1,0 +1,5 @@
+#pragma once
+#include <cstddef>
+
+/// How often this test program has called operator new.
+std::size_t getNumberOfAllocations();
