@@ -1,0 +1,3 @@
+#include "apps/tidemark/Program.h"
+
+int main(int argumentCount, char** arguments) { return tidemark::runProgram(argumentCount, arguments); }

@@ -1,0 +1,92 @@
+#include "apps/tidemark/run/RunCommand.h"
+
+#include "apps/tidemark/ExitCode.h"
+#include "apps/tidemark/run/Runner.h"
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+
+#include <map>
+#include <memory>
+
+namespace tidemark::run {
+
+namespace {
+
+constexpr double LONGEST_RUN = 1e7; // seconds
+constexpr double SHORTEST_TICK = 1e-6;
+
+template <class Value> using Names = std::map<std::string, Value>;
+
+const Names<em5::GameModeType> GAME_MODES = {{"endless", em5::GameModeType::FREEPLAY_ENDLESS},
+                                             {"challenge", em5::GameModeType::FREEPLAY_CHALLENGE},
+                                             {"campaign", em5::GameModeType::CAMPAIGN},
+                                             {"coop", em5::GameModeType::MULTIPLAY_COOP},
+                                             {"competitive", em5::GameModeType::MULTIPLAY_COMPETITIVE}};
+const Names<int> LOG_LEVELS = {{"trace", 0}, {"debug", 1}, {"info", 2}, {"warning", 3}, {"error", 4}, {"none", 5}};
+const Names<RunOptions::LogFormat> LOG_FORMATS = {{"text", RunOptions::LogFormat::TEXT},
+                                                  {"jsonl", RunOptions::LogFormat::JSON_LINES}};
+
+// An option whose value is one of some names.
+template <class Value>
+void addChoice(CLI::App& command, const std::string& name, const Names<Value>& names, Value& value,
+               const std::string& help) {
+  std::string choices;
+  for (const auto& [choice, number] : names)
+    choices += (choices.empty() ? "" : "|") + choice;
+  command
+      .add_option_function<std::string>(
+          name, [&names, &value](const std::string& choice) { value = names.at(choice); }, help)
+      ->check(CLI::Validator(
+          [&names, choices](std::string& choice) {
+            return names.contains(choice) ? std::string() : fmt::format("'{}' is none of {}", choice, choices);
+          },
+          choices))
+      ->type_name("");
+}
+
+void addOptions(CLI::App& command, RunOptions& options) {
+  command.add_option("project", options.projects, "Folders of projects, mounted in this order after the base project")
+      ->required()
+      ->type_name("PROJECT");
+  command
+      .add_option("--map", options.map,
+                  "Map to play; else the one that a project.json names in \"map\", else an empty one")
+      ->type_name("NAME");
+  command.add_option("--seconds", options.seconds, "How long to run, in simulated seconds")
+      ->capture_default_str()
+      ->check(CLI::Range(0.0, LONGEST_RUN))
+      ->type_name("S");
+  command.add_option("--tick", options.tick, "Length of a frame in seconds")
+      ->capture_default_str()
+      ->check(CLI::Range(SHORTEST_TICK, LONGEST_RUN))
+      ->type_name("S");
+  command.add_flag_callback(
+      "--realtime", [&options] { options.pace = RunOptions::Pace::REAL_TIME; },
+      "Run as fast as the clock, not as fast as possible");
+  command.add_flag_callback(
+      "--editor", [&options] { options.program = RunOptions::Program::EDITOR; },
+      "Run an editing session: only scripts of the mode EDITOR_STARTUP start");
+  addChoice(command, "--mode", GAME_MODES, options.gameMode, "Game mode");
+  command.add_option("--language", options.language, "Language of texts")->capture_default_str()->type_name("CODE");
+  command.add_option("--seed", options.seed, "Seed of everything random; equal seeds give equal runs")
+      ->capture_default_str()
+      ->type_name("N");
+  addChoice(command, "--log-level", LOG_LEVELS, options.logLevel, "Least severity of log lines that are shown");
+  addChoice(command, "--log-format", LOG_FORMATS, options.logFormat, "How log lines are written");
+  command.add_option("--report", options.report, "Write the final table to this file, as JSON")->type_name("FILE");
+}
+
+}
+
+void addRunCommand(CLI::App& app, int& exitCode) {
+  CLI::App* command = app.add_subcommand("run", "Run the scripts of projects on a map, without the game");
+  auto options = std::make_shared<RunOptions>();
+  addOptions(*command, *options);
+  command->footer("Example:\n  tidemark run examples/harbour --seconds 30 --report result.json\n\nThe log goes to "
+                  "standard error, the final table to standard output.\n"
+                  "Exit codes: 0 fine, 1 a script faulted, 2 wrong usage, 3 an input cannot be loaded.");
+  command->callback([options, &exitCode] { exitCode = runProjects(*options); });
+}
+
+}

@@ -1,0 +1,26 @@
+#pragma once
+#include "em5/game/GameSessionConfiguration.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace tidemark::run {
+
+/// What `tidemark run` was asked for.
+struct RunOptions {
+  std::vector<std::string> projects; ///< folders
+  std::string map;                   ///< empty: what the projects name
+  double seconds = 10;               ///< simulated
+  double tick = 0.05;                ///< seconds of a frame
+  enum class Pace { FAST, REAL_TIME } pace = Pace::FAST;
+  enum class Program { GAME, EDITOR } program = Program::GAME;
+  em5::GameModeType gameMode = em5::GameModeType::FREEPLAY_ENDLESS;
+  std::string language = "en";
+  std::uint64_t seed = 1;
+  int logLevel = 2;
+  enum class LogFormat { TEXT, JSON_LINES } logFormat = LogFormat::TEXT;
+  std::string report; ///< file; empty: none
+};
+
+}

@@ -1,0 +1,45 @@
+#pragma once
+#include "game_plugin/tooling/Tooling.h"
+
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace tidemark::run {
+
+/// Entries of one script, or the global ones, as text.
+struct StoreReport {
+  std::vector<std::pair<std::string, float>> variables;
+  std::vector<std::pair<std::string, std::string>> strings;
+  std::vector<std::pair<std::string, std::vector<std::uint64_t>>> lists;
+  std::vector<std::pair<std::string, bool>> bools;
+  bool isEmpty() const { return variables.empty() && strings.empty() && lists.empty() && bools.empty(); }
+};
+
+struct ScriptReport {
+  script::tooling::ScriptView script;
+  std::vector<script::tooling::TriggerView> triggers;
+  StoreReport stores;
+};
+
+/// What a run has come to: its scripts, how often each trigger fired, and the stores. All texts are UTF-8.
+struct RunReport {
+  std::string map;
+  double seconds = 0; ///< simulated
+  std::uint64_t frames = 0;
+  std::uint64_t faults = 0;
+  std::string lastFault;
+  std::vector<ScriptReport> scripts;
+  StoreReport global;
+};
+
+/// Reads scripts and stores; the other fields are the caller's.
+RunReport collectReport(const script::tooling::Tooling& tooling);
+
+/// A table for people.
+std::string toText(const RunReport& report);
+/// The same for programs.
+std::string toJson(const RunReport& report);
+
+}

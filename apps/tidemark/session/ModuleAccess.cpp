@@ -1,0 +1,21 @@
+#include "apps/tidemark/session/ModuleAccess.h"
+
+#include "apps/tidemark/platform/Platform.h"
+#include "apps/tidemark/session/Installation.h"
+
+#include <fmt/format.h>
+
+#include <stdexcept>
+
+namespace tidemark {
+
+script::tooling::Tooling& findTooling() {
+  const auto function = reinterpret_cast<script::tooling::GetToolingFunction>(
+      platform::findSymbol(modulePath(), script::tooling::GET_TOOLING_SYMBOL));
+  script::tooling::Tooling* tooling = function ? function() : nullptr;
+  if (!tooling)
+    throw std::runtime_error(fmt::format("{} offers no {}", modulePath(), script::tooling::GET_TOOLING_SYMBOL));
+  return *tooling;
+}
+
+}

@@ -1,0 +1,54 @@
+#include "apps/tidemark/test/SingleTest.h"
+
+#include "apps/tidemark/test/Discovery.h"
+#include "apps/tidemark/test/TestResult.h"
+#include "apps/tidemark/test/TestSession.h"
+#include "apps/tidemark/test/project/ProjectWriter.h"
+
+#include <fmt/format.h>
+
+#include <filesystem>
+#include <fstream>
+
+namespace tidemark::test {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::vector<Failure> runPlan(const TestPlan& plan, const fs::path& folder) {
+  const std::string projects = (folder / "projects").string();
+  writeProjects(plan, projects);
+  TestSession session(plan, projects);
+  fs::current_path(projectDirectory(plan.projects.front(), projects));
+  std::ofstream log(folder / LOG_FILE, std::ios::binary);
+  session.setLogEcho([&log](const qsf::LogSystem::Record& record) {
+    log << qsf::LogSystem::getSeverityName(record.severity) << ' ' << record.message << '\n' << std::flush;
+  });
+  return session.run();
+}
+
+std::vector<Failure> runFile(const std::string& file, const fs::path& folder) {
+  std::vector<Failure> failures;
+  try {
+    const PlanResult result = readPlan(file, readFile(file));
+    if (result.faults.empty()) return runPlan(result.plan, folder);
+    for (const PlanFault& fault : result.faults)
+      failures.push_back({fault.line, Failure::Kind::ERROR, fault.text, "", {}});
+  } catch (const std::exception& fault) {
+    failures.push_back({0, Failure::Kind::ERROR, fault.what(), "", {}});
+  }
+  return failures;
+}
+
+}
+
+void runSingleTest(const std::string& file, const std::string& folder) {
+  const fs::path target = fs::absolute(folder);
+  const std::vector<Failure> failures = runFile(file, target);
+  std::ofstream result(target / RESULT_FILE, std::ios::binary);
+  result << encodeFailures(failures);
+  if (!result.flush()) throw std::runtime_error(fmt::format("{}: can't be written", (target / RESULT_FILE).string()));
+}
+
+}

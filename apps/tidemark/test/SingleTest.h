@@ -1,0 +1,16 @@
+#pragma once
+#include <string>
+
+namespace tidemark::test {
+
+/// Names of what a test's process leaves in its folder for the one that started it.
+inline constexpr const char* RESULT_FILE = "result.json";
+inline constexpr const char* LOG_FILE = "log.txt";
+inline constexpr const char* OUTPUT_FILE = "output.txt";
+
+/// Runs one test in this process, which is made for it: the working directory becomes the folder of the project `test`
+/// below `folder`. Writes what failed to the result file there. Throws std::exception only if even that can't be
+/// written.
+void runSingleTest(const std::string& file, const std::string& folder);
+
+}

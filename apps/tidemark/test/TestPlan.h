@@ -1,0 +1,115 @@
+#pragma once
+#include "apps/tidemark/test/LogBook.h"
+#include "apps/tidemark/test/directives/Words.h"
+
+#include "em5/game/GameSessionConfiguration.h"
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tidemark::test {
+
+class TestSession;
+
+/// What a check saw.
+struct Verdict {
+  bool holds = false;
+  std::string found;               ///< for the failure's report
+  std::vector<std::string> around; ///< log lines that explain it; empty: the last ones
+};
+
+/// Something that a directive does to the running test. Throws DirectiveError for an unknown thing, NotThere for a
+/// missing one.
+using Action = std::function<void(TestSession&)>;
+
+struct Expectation {
+  int line = 0;
+  std::string text; ///< as written, behind `expect`
+  std::function<Verdict(TestSession&)> check;
+  /// Log lines that it names; `no other log` lets them pass.
+  std::vector<LogPattern> logs;
+  enum class Moment { TIMED, END, AFTER_SHUTDOWN } moment = Moment::END;
+};
+
+/// An action or expectation at a time.
+struct Step {
+  int line = 0;
+  std::string text;
+  double time = 0; ///< seconds
+  Action action;   ///< empty for an expectation
+  std::optional<Expectation> expectation;
+};
+
+/// A world directive: `@entity` or `@set`.
+struct WorldLine {
+  int line = 0;
+  std::string text;
+  Action action;
+};
+
+/// A script of a project that the test brings along.
+struct ScriptSection {
+  std::string path; ///< below x64/tidemark
+  std::string key;  ///< its name in MapScript.json
+  std::string mode; ///< empty: installed, not listed
+  std::string text;
+};
+
+struct FileSection {
+  std::string path; ///< below the project's folder
+  std::string text;
+};
+
+/// A project to mount: one that the test brings along, or an existing folder.
+struct ProjectPlan {
+  std::string name;
+  std::string directory; ///< of an existing project, absolute; empty for one that the test brings along
+  bool enabled = true;
+  bool mounted = true;
+  std::vector<ScriptSection> scripts;
+  std::vector<FileSection> files;
+  int line = 0;
+};
+
+/// All that a test file asks for. The first project is `test`, its first script `main`.
+struct TestPlan {
+  std::string file;
+  std::vector<ProjectPlan> projects;
+  std::vector<std::string> mainMaps{"All"};
+  enum class Encoding { AS_WRITTEN, CODE_PAGE_1252 } encoding = Encoding::AS_WRITTEN;
+  enum class LineEnd { AS_WRITTEN, CARRIAGE_RETURN } lineEnd = LineEnd::AS_WRITTEN;
+  std::string map = "em5/map/test/empty";
+  em5::GameModeType gameMode = em5::GameModeType::FREEPLAY_ENDLESS;
+  bool editor = false;
+  std::string language = "en";
+  std::string account;
+  std::uint64_t seed = 1;
+  double tick = 0.05;    ///< seconds
+  double duration = 1.0; ///< seconds
+  int durationLine = 0;
+  std::vector<WorldLine> world;
+  std::vector<Step> steps; ///< by time; equal times in the order of the lines
+  std::vector<Expectation> expectations;
+
+  std::uint64_t framesUntil(double seconds) const;
+  std::uint64_t numberOfFrames() const { return framesUntil(duration); }
+};
+
+/// A fault of a directive with its line.
+struct PlanFault {
+  int line;
+  std::string text;
+};
+
+struct PlanResult {
+  TestPlan plan;
+  std::vector<PlanFault> faults; ///< not empty: the test fails and isn't run
+};
+
+/// Reads a test file's text. `file` is its path, for messages and for paths that are relative to it.
+PlanResult readPlan(const std::string& file, const std::string& text);
+
+}

@@ -1,0 +1,136 @@
+#include "apps/tidemark/test/TestScheduler.h"
+
+#include "apps/tidemark/test/Discovery.h"
+#include "apps/tidemark/test/SingleTest.h"
+#include "apps/tidemark/text/Encoding.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <sstream>
+#include <thread>
+
+namespace tidemark::test {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::chrono::milliseconds POLL_INTERVAL{2};
+constexpr std::size_t LINES_OF_A_CRASH = 12;
+
+// A temporary folder that goes with this object.
+class TemporaryFolder {
+public:
+  TemporaryFolder() : mPath(platform::makeTemporaryDirectory()) {}
+  ~TemporaryFolder() {
+    std::error_code ignored;
+    fs::remove_all(mPath, ignored);
+  }
+  TemporaryFolder(const TemporaryFolder&) = delete;
+  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+  const std::string& path() const { return mPath; }
+
+private:
+  std::string mPath;
+};
+
+void appendTail(std::vector<std::string>& lines, const fs::path& file, std::string_view title) {
+  std::error_code ignored;
+  if (!fs::exists(file, ignored) || fs::file_size(file, ignored) == 0) return;
+  std::istringstream text(readFile(file.string()));
+  std::vector<std::string> all;
+  for (std::string line; std::getline(text, line);)
+    all.push_back(toUtf8(line));
+  lines.push_back(std::string(title));
+  all.erase(all.begin(), all.end() - static_cast<std::ptrdiff_t>(std::min(all.size(), LINES_OF_A_CRASH)));
+  lines.insert(lines.end(), all.begin(), all.end());
+}
+
+// A test whose process didn't come to its end.
+Failure describeEnd(const std::string& folder, const std::string& text) {
+  Failure failure{0, Failure::Kind::ERROR, text, "", {}};
+  appendTail(failure.log, fs::path(folder) / LOG_FILE, "last lines of the log:");
+  appendTail(failure.log, fs::path(folder) / OUTPUT_FILE, "last lines of the output:");
+  return failure;
+}
+
+std::vector<Failure> readFailures(const std::string& folder, const platform::ExitStatus& status) {
+  if (status.signal != 0)
+    return {describeEnd(folder, fmt::format("the test's process crashed with {}", status.signalName))};
+  const fs::path result = fs::path(folder) / RESULT_FILE;
+  if (status.code != 0 || !fs::exists(result))
+    return {describeEnd(folder, fmt::format("the test's process ended with exit code {}", status.code))};
+  try {
+    return decodeFailures(readFile(result.string()));
+  } catch (const std::exception& fault) {
+    return {describeEnd(folder, fmt::format("the test's result can't be read: {}", fault.what()))};
+  }
+}
+
+}
+
+std::vector<TestResult> TestScheduler::run(const std::vector<std::string>& files, const Report& report) {
+  const TemporaryFolder folder;
+  mFolder = folder.path();
+  mSlots.assign(files.size(), {});
+  std::size_t next = 0, reported = 0;
+  while (reported < files.size() && !platform::isInterrupted()) {
+    while (next < files.size() && mRunning.size() < std::max<std::size_t>(mOptions.jobs, 1)) {
+      start(next, files[next]);
+      ++next;
+    }
+    const auto ended =
+        std::remove_if(mRunning.begin(), mRunning.end(), [this](Running& running) { return collect(running); });
+    if (ended == mRunning.end()) std::this_thread::sleep_for(POLL_INTERVAL);
+    mRunning.erase(ended, mRunning.end());
+    for (; reported < files.size() && mSlots[reported].done; ++reported)
+      report(mSlots[reported].result);
+  }
+  killAll();
+  std::vector<TestResult> results;
+  for (std::size_t i = 0; i < reported; ++i)
+    results.push_back(std::move(mSlots[i].result));
+  return results;
+}
+
+void TestScheduler::start(std::size_t index, const std::string& file) {
+  const std::string folder = (fs::path(mFolder) / fmt::format("{}", index)).string();
+  fs::create_directory(folder);
+  mSlots[index].result.file = file;
+  const std::string output = (fs::path(folder) / OUTPUT_FILE).string();
+  mRunning.push_back({index, folder,
+                      platform::ChildProcess::start({platform::executablePath(), "single-test", file, folder}, output),
+                      Clock::now()});
+}
+
+// Whether the test has ended.
+bool TestScheduler::collect(Running& running) {
+  if (const auto status = running.process.poll()) {
+    finish(running, readFailures(running.folder, *status));
+    return true;
+  }
+  if (Clock::now() - running.start < mOptions.limit) return false;
+  running.process.kill();
+  finish(running, {describeEnd(running.folder, fmt::format("the test ran longer than {} s and was ended",
+                                                           static_cast<double>(mOptions.limit.count()) / 1000.0))});
+  return true;
+}
+
+void TestScheduler::finish(const Running& running, std::vector<Failure> failures) {
+  Slot& slot = mSlots[running.index];
+  slot.result.seconds = std::chrono::duration<double>(Clock::now() - running.start).count();
+  slot.result.failures = std::move(failures);
+  slot.done = true;
+  std::error_code ignored;
+  fs::remove_all(running.folder, ignored);
+}
+
+void TestScheduler::killAll() {
+  for (Running& running : mRunning)
+    running.process.kill();
+  mRunning.clear();
+}
+
+}

@@ -1,0 +1,176 @@
+#include "apps/tidemark/test/TestSession.h"
+
+#include "apps/tidemark/session/Installation.h"
+#include "apps/tidemark/session/ModuleAccess.h"
+#include "apps/tidemark/test/project/ProjectWriter.h"
+#include "apps/tidemark/test/steps/ScriptScope.h"
+
+#include "em5/game/HostSession.h"
+#include "qsf/Qsf.h"
+#include "qsf/map/Map.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+
+namespace tidemark::test {
+
+namespace {
+
+// A fault that has been noted and ends the test.
+struct Aborted {};
+
+}
+
+TestSession::TestSession(const TestPlan& plan, std::string projects)
+    : mPlan(plan), mProjects(std::move(projects)), mBaseProject(baseProjectDirectory()) {}
+
+TestSession::~TestSession() = default;
+
+std::vector<Failure> TestSession::run() {
+  try {
+    runHost();
+  } catch (const Aborted&) {
+  } catch (const std::exception& fault) {
+    fail(0, fault.what(), "");
+  }
+  mTooling = nullptr;
+  mHost.reset();
+  for (const Expectation& expectation : mPlan.expectations)
+    if (mFailures.empty() || mFailures.front().kind != Failure::Kind::ERROR)
+      if (expectation.moment == Expectation::Moment::AFTER_SHUTDOWN) check(expectation);
+  return std::move(mFailures);
+}
+
+void TestSession::runHost() {
+  startHost();
+  const qsf::Time tick = qsf::Time::fromSeconds(mPlan.tick);
+  const std::uint64_t frames = mPlan.numberOfFrames();
+  runSteps(0);
+  while (mFrame < frames) {
+    mHost->runFrame(tick);
+    runSteps(++mFrame);
+  }
+  for (const Expectation& expectation : mPlan.expectations)
+    if (expectation.moment == Expectation::Moment::END) check(expectation);
+}
+
+void TestSession::startHost() {
+  em5::HostSession::Options options;
+  options.kind = mPlan.editor ? em5::HostSession::Kind::EDITOR : em5::HostSession::Kind::GAME;
+  options.seed = mPlan.seed;
+  options.language = mPlan.language;
+  options.gameMode = mPlan.gameMode;
+  options.account = mPlan.account;
+  options.logThreshold = qsf::LogSystem::TRACE;
+  mHost = std::make_unique<em5::HostSession>(options);
+  mHost->getQsf().getLogSystem().addListener([this](const qsf::LogSystem::Record& record) {
+    mLog.add(record.severity, record.message, mFrame);
+    if (mLogEcho) mLogEcho(record);
+  });
+  mHost->mountBaseProject(mBaseProject);
+  for (const ProjectPlan& project : mPlan.projects)
+    mHost->mountMod(projectDirectory(project, mProjects), {.mounted = project.mounted, .enabled = project.enabled});
+  mHost->startup();
+  if (!mHost->loadPlugin(modulePath())) throw std::runtime_error("the module refuses to start");
+  mTooling = &findTooling();
+  mHost->setMapPreparation([this](qsf::Map&) { prepareMap(); });
+  mHost->startGame(mPlan.map);
+}
+
+// What the directives put on the map belongs to the map of the test: it is there again after a restart, and not on
+// another map.
+void TestSession::prepareMap() {
+  if (mHost->getQsf().getMainMap().getLocalAssetName() != mPlan.map) return;
+  for (const WorldLine& line : mPlan.world) {
+    try {
+      line.action(*this);
+    } catch (const std::exception& fault) {
+      fail(line.line, fault.what(), line.text);
+      throw Aborted();
+    }
+  }
+}
+
+void TestSession::runSteps(std::uint64_t frame) {
+  while (mNextStep < mPlan.steps.size() && mPlan.framesUntil(mPlan.steps[mNextStep].time) <= frame)
+    runStep(mPlan.steps[mNextStep++]);
+}
+
+void TestSession::runStep(const Step& step) {
+  if (step.expectation) {
+    check(*step.expectation);
+    return;
+  }
+  try {
+    step.action(*this);
+  } catch (const std::exception& fault) {
+    fail(step.line, fault.what(), step.text);
+    throw Aborted();
+  }
+}
+
+void TestSession::check(const Expectation& expectation) {
+  Verdict verdict;
+  try {
+    verdict = expectation.check(*this);
+  } catch (const NotThere& missing) {
+    verdict.found = missing.what();
+  } catch (const std::exception& fault) {
+    fail(expectation.line, fault.what(), expectation.text);
+    return;
+  }
+  if (verdict.holds) return;
+  mFailures.push_back({expectation.line, Failure::Kind::EXPECTATION, expectation.text, std::move(verdict.found),
+                       verdict.around.empty() ? mLog.last() : std::move(verdict.around)});
+}
+
+void TestSession::fail(int line, const std::string& fault, const std::string& text) {
+  mFailures.push_back(
+      {line, Failure::Kind::ERROR, text.empty() ? fault : fmt::format("{}: {}", text, fault), "", mLog.last()});
+}
+
+bool TestSession::isScriptInstalled(const std::string& name) const {
+  const std::string plain = name.substr(0, name.rfind('#'));
+  for (const ProjectPlan& project : mPlan.projects)
+    for (const ScriptSection& section : project.scripts)
+      if (section.key == plain || plain.ends_with("/" + section.path) || plain == section.path) return true;
+  return false;
+}
+
+std::size_t TestSession::findScript(const std::string& name) const {
+  if (!mTooling) throw NotThere("the module isn't loaded");
+  const std::vector<script::tooling::ScriptView> scripts = mTooling->getScripts();
+  const auto nthRunning = [&](std::string_view key, std::uint64_t number) {
+    return std::find_if(scripts.begin(), scripts.end(),
+                        [&](const auto& script) { return script.key == key && script.running && --number == 0; });
+  };
+  auto found = nthRunning(name, 1);
+  if (found == scripts.end())
+    found = std::find_if(scripts.begin(), scripts.end(), [&](const auto& script) { return script.key == name; });
+  const std::size_t mark = name.rfind('#');
+  if (found == scripts.end() && mark != std::string::npos)
+    if (const auto number = parseId(std::string_view(name).substr(mark + 1)); number && *number > 0)
+      found = nthRunning(std::string_view(name).substr(0, mark), *number);
+  if (found != scripts.end()) return static_cast<std::size_t>(found - scripts.begin());
+  std::string known;
+  for (const auto& script : scripts)
+    known += fmt::format("{}'{}'{}", known.empty() ? "" : ", ", script.key, script.running ? "" : " (stopped)");
+  throw NotThere(fmt::format("no script '{}'; the module knows {}", name, known.empty() ? "none" : known));
+}
+
+std::uint64_t TestSession::resolve(const EntityReference& reference) const {
+  if (reference.list.empty()) return reference.id;
+  const auto list = findList(*this, reference.list);
+  if (!list) throw NotThere(fmt::format("no list '{}'", reference.list));
+  if (reference.index >= list->size())
+    throw NotThere(fmt::format("list '{}' holds {} ids", reference.list, list->size()));
+  return (*list)[reference.index];
+}
+
+qsf::Entity& TestSession::findEntity(std::uint64_t id) const {
+  if (qsf::Entity* entity = mHost->getQsf().getMainMap().getEntityById(id)) return *entity;
+  throw NotThere(fmt::format("there is no entity {}", id));
+}
+
+}

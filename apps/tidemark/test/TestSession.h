@@ -1,0 +1,92 @@
+#pragma once
+#include "apps/tidemark/test/LogBook.h"
+#include "apps/tidemark/test/TestPlan.h"
+#include "apps/tidemark/test/steps/Steps.h"
+
+#include "game_plugin/tooling/Tooling.h"
+#include "qsf/log/LogSystem.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace em5 {
+class HostSession;
+}
+namespace qsf {
+class Entity;
+}
+
+namespace tidemark::test {
+
+/// Something that an expectation or action names isn't there at this moment. An expectation then fails with this text.
+class NotThere : public std::runtime_error {
+public:
+  using std::runtime_error::runtime_error;
+};
+
+/// One failed expectation or faulty directive.
+struct Failure {
+  int line = 0; ///< 0: the test as a whole
+  enum class Kind { EXPECTATION, ERROR } kind = Kind::EXPECTATION;
+  std::string expected; ///< the text of the error for an ERROR
+  std::string found;
+  std::vector<std::string> log;
+};
+
+/// A test that runs: the host, the module and the clock, and what steps ask of them. Lives for one test in a process of
+/// its own, with the folder of the project `test` as working directory.
+class TestSession {
+public:
+  /// `projects` holds the installed projects of the plan, by name. Throws std::runtime_error if the base project isn't
+  /// found.
+  TestSession(const TestPlan& plan, std::string projects);
+  ~TestSession();
+  TestSession(const TestSession&) = delete;
+  TestSession& operator=(const TestSession&) = delete;
+
+  /// Called with each log line as it comes; a crash leaves what was written so.
+  void setLogEcho(std::function<void(const qsf::LogSystem::Record&)> echo) { mLogEcho = std::move(echo); }
+
+  /// From the host's start to its end. Returns what failed; throws nothing.
+  std::vector<Failure> run();
+
+  const TestPlan& plan() const { return mPlan; }
+  const LogBook& log() const { return mLog; }
+  em5::HostSession& host() const { return *mHost; }
+  script::tooling::Tooling& tooling() const { return *mTooling; }
+
+  /// A script by its key, with `#2` for the second running instance. Throws NotThere.
+  std::size_t findScript(const std::string& name) const;
+  /// True if the test installed a script of that name, known to the module or not.
+  bool isScriptInstalled(const std::string& name) const;
+  /// The id that the reference stands for now. Throws NotThere.
+  std::uint64_t resolve(const EntityReference& reference) const;
+  /// Throws NotThere.
+  qsf::Entity& findEntity(std::uint64_t id) const;
+
+private:
+  void runHost();
+  void startHost();
+  void prepareMap();
+  void runSteps(std::uint64_t frame);
+  void runStep(const Step& step);
+  void check(const Expectation& expectation);
+  void fail(int line, const std::string& fault, const std::string& text);
+
+  const TestPlan& mPlan;
+  std::string mProjects;
+  std::string mBaseProject;
+  LogBook mLog;
+  std::function<void(const qsf::LogSystem::Record&)> mLogEcho;
+  std::unique_ptr<em5::HostSession> mHost;
+  script::tooling::Tooling* mTooling = nullptr;
+  std::size_t mNextStep = 0;
+  std::uint64_t mFrame = 0;
+  std::vector<Failure> mFailures;
+};
+
+}

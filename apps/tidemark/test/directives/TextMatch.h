@@ -1,0 +1,14 @@
+#pragma once
+#include <string_view>
+
+namespace tidemark::test {
+
+/// True if `actual` is what a directive wrote. A `§` of the directive stands for the mark in UTF-8 and in a single
+/// byte; a byte written as \xA7 stands for itself.
+bool textMatches(std::string_view directive, std::string_view actual);
+/// The same for a text inside another.
+bool textContained(std::string_view directive, std::string_view actual);
+/// True if the name holds the mark of global store entries, in either encoding.
+bool holdsGlobalMark(std::string_view name);
+
+}

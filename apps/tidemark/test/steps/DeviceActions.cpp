@@ -1,0 +1,61 @@
+// Actions of the player: keys, mouse, orders.
+#include "apps/tidemark/test/TestSession.h"
+#include "apps/tidemark/test/steps/Steps.h"
+
+#include "em5/game/HostSession.h"
+#include "qsf/Qsf.h"
+#include "qsf/input/InputSystem.h"
+
+#include <fmt/format.h>
+
+namespace tidemark::test {
+
+namespace {
+
+enum class ButtonState { RELEASED, PRESSED };
+
+void setButton(const qsf::InputDevice& device, std::string_view deviceName, const std::string& name,
+               ButtonState state) {
+  qsf::InputButton* button = device.findButton(name);
+  if (!button) throw DirectiveError(fmt::format("the {} has no button '{}'", deviceName, name));
+  button->setPressed(state == ButtonState::PRESSED);
+}
+
+Action keyboardAction(WordCursor& words, ButtonState state) {
+  const std::string key = words.take("the key's name");
+  return [=](TestSession& session) {
+    setButton(session.host().getQsf().getInputSystem().getKeyboard(), "keyboard", key, state);
+  };
+}
+
+Action mouseButtonAction(WordCursor& words, ButtonState state) {
+  const std::string name = words.take("Left, Right or Middle");
+  return [=](TestSession& session) {
+    setButton(session.host().getQsf().getInputSystem().getMouse(), "mouse", name, state);
+  };
+}
+
+Action mouseAction(WordCursor& words) {
+  if (words.takeIf("press")) return mouseButtonAction(words, ButtonState::PRESSED);
+  if (words.takeIf("release")) return mouseButtonAction(words, ButtonState::RELEASED);
+  if (words.takeIf("wheel")) {
+    const auto steps = static_cast<float>(words.takeNumber("the wheel's steps"));
+    return [steps](TestSession& session) { session.host().getQsf().getInputSystem().getMouse().moveWheel(steps); };
+  }
+  if (words.peekKeyword("over") || words.peekKeyword("at"))
+    throw DirectiveError("mouse over and mouse at are not available yet");
+  throw DirectiveError("behind 'mouse' stands press, release, wheel, over or at");
+}
+
+}
+
+std::optional<Action> readDeviceAction(WordCursor& words) {
+  if (words.takeIf("press")) return keyboardAction(words, ButtonState::PRESSED);
+  if (words.takeIf("release")) return keyboardAction(words, ButtonState::RELEASED);
+  if (words.takeIf("mouse")) return mouseAction(words);
+  if (words.peekKeyword("click")) throw DirectiveError("clicks on elements of documents are not available yet");
+  if (words.peekKeyword("push")) throw DirectiveError("pushed actions are not available yet");
+  return std::nullopt;
+}
+
+}

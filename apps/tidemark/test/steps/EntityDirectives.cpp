@@ -1,0 +1,116 @@
+// `@entity` and `@set`: what stands on the map before the game starts.
+#include "apps/tidemark/test/TestSession.h"
+#include "apps/tidemark/test/steps/Reflection.h"
+#include "apps/tidemark/test/steps/Steps.h"
+
+#include "em5/game/HostSession.h"
+#include "qsf/Qsf.h"
+#include "qsf/map/Map.h"
+#include "qsf/math/EulerAngles.h"
+#include "qsf/reflection/PropertyText.h"
+
+#include <fmt/format.h>
+#include <glm/trigonometric.hpp>
+
+namespace tidemark::test {
+
+namespace {
+
+constexpr int GAME_ANGLE_ORDER = 17;
+constexpr std::string_view TEST_PREFABS = "em5/prefab/test/";
+const std::string TRANSFORM = "qsf::TransformComponent";
+const std::string METADATA = "qsf::MetadataComponent";
+
+// A component to add, or a property to set on it.
+struct Addition {
+  std::string component;
+  std::string property; ///< empty: only the component
+  std::string value;
+};
+
+struct EntityPlan {
+  std::uint64_t id = 0;
+  std::string prefab;
+  std::vector<Addition> additions; ///< in the order of their words
+};
+
+std::string takeVector(WordCursor& words) {
+  const double x = words.takeNumber("the x value"), y = words.takeNumber("the y value"),
+               z = words.takeNumber("the z value");
+  return qsf::toText(glm::vec3(x, y, z));
+}
+
+std::string takeRotation(WordCursor& words) {
+  const double x = words.takeNumber("the x angle"), y = words.takeNumber("the y angle"),
+               z = words.takeNumber("the z angle");
+  return qsf::toText(qsf::EulerAngles::eulerToQuaternion(glm::radians(glm::vec3(x, y, z)), GAME_ANGLE_ORDER));
+}
+
+Addition takeComponent(WordCursor& words) {
+  const std::string word = words.take("a component behind 'with'");
+  const std::size_t equals = word.find('=');
+  if (equals == std::string::npos) return {word, "", ""};
+  const PropertyName name = parsePropertyName(std::string_view(word).substr(0, equals));
+  return {name.component, name.property, word.substr(equals + 1)};
+}
+
+EntityPlan takeEntity(WordCursor& words) {
+  EntityPlan plan;
+  plan.id = words.takeId("the entity's id");
+  while (!words.atEnd()) {
+    if (words.takeIf("prefab"))
+      plan.prefab = words.take("the prefab's name");
+    else if (words.takeIf("name"))
+      plan.additions.push_back({METADATA, "Name", words.take("the entity's name")});
+    else if (words.takeIf("description"))
+      plan.additions.push_back({METADATA, "Description", words.take("the entity's description")});
+    else if (words.takeIf("at"))
+      plan.additions.push_back({TRANSFORM, "Position", takeVector(words)});
+    else if (words.takeIf("rotated"))
+      plan.additions.push_back({TRANSFORM, "Rotation", takeRotation(words)});
+    else if (words.takeIf("with"))
+      plan.additions.push_back(takeComponent(words));
+    else
+      throw DirectiveError(fmt::format(
+          "unexpected word '{}'; an entity has prefab, name, description, at, rotated, with", words.peek()->text));
+  }
+  return plan;
+}
+
+qsf::Entity& makeEntity(qsf::Map& map, const EntityPlan& plan) {
+  if (map.getEntityById(plan.id)) throw DirectiveError(fmt::format("the map has an entity {} already", plan.id));
+  if (plan.prefab.empty()) {
+    qsf::Entity* entity = map.createEntity(plan.id);
+    if (!entity) throw DirectiveError(fmt::format("no entity can be made with the id {}", plan.id));
+    addComponent(*entity, TRANSFORM);
+    addComponent(*entity, METADATA);
+    return *entity;
+  }
+  const std::string asset =
+      plan.prefab.find('/') == std::string::npos ? std::string(TEST_PREFABS) + plan.prefab : plan.prefab;
+  if (qsf::Entity* entity = map.createObjectByLocalPrefabAssetId(qsf::StringHash(asset), plan.id)) return *entity;
+  throw DirectiveError(fmt::format("there is no prefab '{}'", asset));
+}
+
+}
+
+Action readEntityDirective(WordCursor& words) {
+  const EntityPlan plan = takeEntity(words);
+  return [plan](TestSession& session) {
+    qsf::Entity& entity = makeEntity(session.host().getQsf().getMainMap(), plan);
+    for (const Addition& addition : plan.additions) {
+      addComponent(entity, addition.component);
+      if (!addition.property.empty()) writeProperty(entity, {addition.component, addition.property}, addition.value);
+    }
+  };
+}
+
+Action readSetDirective(WordCursor& words) {
+  const EntityReference reference = takeEntityReference(words);
+  const PropertyName name = parsePropertyName(words.take("COMPONENT.PROPERTY"));
+  const std::string value = words.take("the value");
+  words.requireEnd();
+  return [=](TestSession& session) { writeProperty(session.findEntity(session.resolve(reference)), name, value); };
+}
+
+}

@@ -1,0 +1,112 @@
+// Expectations on the log.
+#include "apps/tidemark/test/TestSession.h"
+#include "apps/tidemark/test/directives/TextMatch.h"
+#include "apps/tidemark/test/steps/Steps.h"
+
+#include "qsf/log/LogSystem.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+
+namespace tidemark::test {
+
+namespace {
+
+int takeSeverity(WordCursor& words) {
+  const std::string word = words.take("a severity");
+  if (const auto severity = parseSeverity(word)) return *severity;
+  throw DirectiveError(fmt::format("'{}' is no severity; there are TRACE DEBUG INFO WARNING ERROR NONE ANY", word));
+}
+
+Expectation countLines(WordCursor& words) {
+  LogPattern pattern;
+  pattern.severity = takeSeverity(words);
+  if (words.peekKeyword("containing") && words.remaining() > 1) {
+    words.require("containing");
+    pattern.extent = LogPattern::Extent::PART;
+  }
+  pattern.text = words.take("the text of the log line");
+  const Times times = takeTimes(words);
+  Expectation expectation;
+  expectation.logs.push_back(pattern);
+  expectation.check = [pattern, times](TestSession& session) {
+    const std::size_t count = session.log().count(pattern);
+    Verdict verdict{times.holds(count), fmt::format("{} such line{}", count, count == 1 ? "" : "s"), {}};
+    if (!verdict.holds) verdict.around = session.log().around(pattern);
+    return verdict;
+  };
+  return expectation;
+}
+
+Expectation compareOrder(WordCursor& words) {
+  LogPattern first, second;
+  first.text = words.take("the first text");
+  words.require("before");
+  second.text = words.take("the second text");
+  Expectation expectation;
+  expectation.logs = {first, second};
+  expectation.check = [first, second](TestSession& session) {
+    const auto firstIndex = session.log().find(first);
+    const auto secondIndex = session.log().find(second);
+    if (!firstIndex) return Verdict{false, fmt::format("no line \"{}\"", first.text), session.log().around(first)};
+    if (!secondIndex) return Verdict{false, fmt::format("no line \"{}\"", second.text), session.log().around(second)};
+    return Verdict{*firstIndex < *secondIndex,
+                   fmt::format("the first \"{}\" is line {}, the first \"{}\" line {} of the log", first.text,
+                               *firstIndex + 1, second.text, *secondIndex + 1),
+                   session.log().around(std::min(*firstIndex, *secondIndex))};
+  };
+  return expectation;
+}
+
+std::vector<LogPattern> namedLines(const TestPlan& plan) {
+  std::vector<LogPattern> patterns;
+  const auto add = [&](const Expectation& expectation) {
+    patterns.insert(patterns.end(), expectation.logs.begin(), expectation.logs.end());
+  };
+  for (const Expectation& expectation : plan.expectations)
+    add(expectation);
+  for (const Step& step : plan.steps)
+    if (step.expectation) add(*step.expectation);
+  return patterns;
+}
+
+Expectation noOtherLog(WordCursor& words) {
+  words.require("no");
+  words.require("other");
+  words.require("log");
+  words.require("above");
+  const int limit = takeSeverity(words);
+  if (limit == LogPattern::ANY_SEVERITY) throw DirectiveError("'above' needs a severity other than ANY");
+  Expectation expectation;
+  expectation.check = [limit](TestSession& session) {
+    const std::vector<LogPattern> named = namedLines(session.plan());
+    const auto& lines = session.log().getLines();
+    const auto other = std::find_if(lines.begin(), lines.end(), [&](const LogBook::Line& line) {
+      return line.severity > limit && std::none_of(named.begin(), named.end(), [&](const LogPattern& pattern) {
+               return pattern.matches(line.severity, line.message);
+             });
+    });
+    if (other == lines.end()) return Verdict{true, "no such line", {}};
+    return Verdict{false, fmt::format("{} \"{}\"", qsf::LogSystem::getSeverityName(other->severity), other->message),
+                   session.log().around(static_cast<std::size_t>(other - lines.begin()))};
+  };
+  return expectation;
+}
+
+}
+
+std::optional<Expectation> readLogExpectation(WordCursor& words) {
+  if (words.takeIf("after")) {
+    words.require("shutdown");
+    auto expectation = readLogExpectation(words);
+    if (!expectation) throw DirectiveError("behind 'after shutdown' stands an expectation on the log");
+    expectation->moment = Expectation::Moment::AFTER_SHUTDOWN;
+    return expectation;
+  }
+  if (words.peekKeyword("no") && words.peekKeyword("other", 1)) return noOtherLog(words);
+  if (!words.takeIf("log")) return std::nullopt;
+  return words.peekKeyword("before", 1) ? compareOrder(words) : countLines(words);
+}
+
+}

@@ -1,0 +1,32 @@
+#include "apps/tidemark/test/steps/Selection.h"
+
+#include "apps/tidemark/test/TestSession.h"
+
+#include "em5/game/Game.h"
+#include "qsf/editor/EditorApplication.h"
+
+namespace tidemark::test {
+
+namespace {
+
+qsf::SelectionManagerTemplate<std::uint64_t>* findManager() {
+  if (const qsf::UniqueInstance<qsf::editor::EditorApplication> editor; editor)
+    return &editor->getSelectionSystem().getEntitySelectionManager();
+  if (const qsf::UniqueInstance<em5::Game> game; game) return game->getSelectionManager();
+  return nullptr;
+}
+
+}
+
+std::set<std::uint64_t> getSelection() {
+  const auto* manager = findManager();
+  return manager ? manager->getSelectedIdSet() : std::set<std::uint64_t>();
+}
+
+void setSelection(const std::set<std::uint64_t>& ids) {
+  auto* manager = findManager();
+  if (!manager) throw NotThere("nothing can be selected while no game runs");
+  manager->setSelection(ids);
+}
+
+}

@@ -1,0 +1,12 @@
+#pragma once
+#include <cstdint>
+#include <set>
+
+namespace tidemark::test {
+
+/// What is selected: in the game by the player, in the editor by its user. Empty between games.
+std::set<std::uint64_t> getSelection();
+/// Throws NotThere between games.
+void setSelection(const std::set<std::uint64_t>& ids);
+
+}

@@ -1,0 +1,52 @@
+#pragma once
+#include "apps/tidemark/test/TestPlan.h"
+#include "apps/tidemark/test/directives/Words.h"
+
+#include <string_view>
+
+namespace tidemark::test {
+
+/// The readers of what stands behind `@at T`, `@expect`, `@entity` and `@set`. All throw DirectiveError and leave no
+/// words.
+Action readAction(WordCursor& words);
+Expectation readExpectation(WordCursor& words);
+Action readEntityDirective(WordCursor& words);
+Action readSetDirective(WordCursor& words);
+
+/// The parts of readExpectation by theme; each returns nothing if the next word isn't its own.
+std::optional<Expectation> readLogExpectation(WordCursor& words);
+std::optional<Expectation> readStoreExpectation(WordCursor& words);
+std::optional<Expectation> readTriggerExpectation(WordCursor& words);
+std::optional<Expectation> readWorldExpectation(WordCursor& words);
+
+/// The parts of readAction.
+std::optional<Action> readStoreAction(WordCursor& words);
+std::optional<Action> readWorldAction(WordCursor& words);
+std::optional<Action> readDeviceAction(WordCursor& words);
+std::optional<Action> readLifecycleAction(WordCursor& words);
+
+/// `[N times|never]`, at least once if nothing stands there.
+struct Times {
+  std::optional<std::uint64_t> exactly;
+  bool holds(std::uint64_t count) const { return exactly ? count == *exactly : count > 0; }
+};
+Times takeTimes(WordCursor& words);
+
+/// `within EPS` if it is next. Throws for a negative one.
+std::optional<double> takeWithin(WordCursor& words);
+
+/// An entity: an id, or `NAME[I]`, the I-th id of a list of main.
+struct EntityReference {
+  std::uint64_t id = 0;
+  std::string list;
+  std::size_t index = 0;
+};
+std::optional<EntityReference> parseEntityReference(std::string_view text);
+EntityReference takeEntityReference(WordCursor& words);
+std::vector<EntityReference> takeEntityReferences(WordCursor& words);
+
+/// Equal, or no further apart than `within`; not-a-number equals itself. Compares as the 32-bit floats that scripts
+/// count with.
+bool numbersMatch(double expected, double found, std::optional<double> within);
+
+}
