@@ -10,10 +10,13 @@
 #include <string>
 #include <vector>
 
+namespace em5 {
+class Mod;
+}
+
 namespace script {
 
 class ScriptParser;
-class MapScriptManager;
 
 /// When a script's handler is made.
 enum class ScriptMode : std::uint32_t {
@@ -38,25 +41,27 @@ struct MapScriptEntry {
   std::string globalNamePrefix;       ///< project, `/`, configured path; empty for a temporary script
   ScriptDocument* document = nullptr; ///< made at parse time, kept for good
   ScenarioHandler* handler = nullptr; ///< null while the script doesn't run
-  std::string key;                    ///< child name in MapScript.json; tools show it
+  std::string key;                    ///< child name in MapScript.json, for a temporary script its path; tools show it
   std::string project;                ///< name of the mod's project; tools show it
 };
 
 /// Decides which scripts exist and when they run: reads the MapScript.json of each enabled mod, parses every script
 /// that it lists, and makes handlers as their modes demand. Owns the global stores. One lives at a time, made by the
-/// plug-in.
+/// plug-in. It may be destroyed while one of its scripts ticks; that script's effects then end.
 class MapScriptManager {
 public:
   /// Reads all configurations; also writes the reference documentation.
   MapScriptManager();
   explicit MapScriptManager(bool writeDocumentation);
-  /// Runs DoShutdown and frees the stores; documents stay.
+  /// Runs DoShutdown, stops what it has left running, and lets the stores go; documents stay.
   virtual ~MapScriptManager();
   MapScriptManager(const MapScriptManager&) = delete;
   MapScriptManager& operator=(const MapScriptManager&) = delete;
 
   /// The living manager, or null.
   static MapScriptManager* Get();
+  /// A reload: destroys the living manager, if there is one, and makes a new one, which reads all files anew.
+  static MapScriptManager& Replace(bool writeDocumentation);
 
   void LoadConfiguration(bool writeDocumentation);
   /// Starts the scripts of the main map. Called at GAME_STARTUP_FINISHED, and directly after a reload.
@@ -66,7 +71,7 @@ public:
   void StartTemporaryScript(const std::string& path);
   /// Stops the script instances with that path. The entry behind a removed one is skipped in this walk.
   void StopScript(const std::string& path);
-  /// Stops all scripts and destroys what they showed; temporary scripts are forgotten.
+  /// Stops all scripts; temporary scripts are forgotten. The entry behind a forgotten one is skipped and goes on.
   void DoShutdown();
 
   const std::vector<MapScriptEntry*>& GetScriptEntries() const { return mScriptEntries; }
@@ -74,24 +79,30 @@ public:
   /// Entities that may not be extinguished; emptied at each start.
   std::vector<std::uint64_t>& GetBlockedEntityIds() { return mBlockedEntityIds; }
 
-private:
-  struct ModFolder;
+  /// More instances than this at a time are refused with an error: two scripts that start each other multiply without
+  /// end.
+  static constexpr std::size_t MAXIMUM_SCRIPTS = 10000;
 
-  void ReadMod(const ModFolder& mod);
-  bool ReadScript(const ModFolder& mod, const boost::property_tree::ptree& root, const std::string& key);
-  void ReadMaps(const boost::property_tree::ptree& maps, MapScriptEntry& entry) const;
+private:
+  void ReadMod(const em5::Mod& mod);
+  void ReadScripts(const em5::Mod& mod, const boost::property_tree::ptree& root);
+  bool ReadScript(const em5::Mod& mod, const boost::property_tree::ptree& root, MapScriptEntry& entry) const;
+  void ParseScripts();
   void StartGameScript();
   void StartScriptsOfMap(bool (*isStarted)(ScriptMode));
-  void StartScript(MapScriptEntry& entry, StartKind kind);
+  void StartScript(MapScriptEntry& entry);
+  /// Takes the entry off the list; what it was running has been stopped.
+  void RemoveEntry(std::size_t index);
   void EditorJob(const qsf::JobArguments& arguments);
-  void OnPreCommand(const qsf::MessageParameters& parameters);
+  void OnGameStartupFinished();
 
   std::shared_ptr<GlobalStores> mGlobalStores = std::make_shared<GlobalStores>();
   std::vector<MapScriptEntry*> mScriptEntries;
+  /// Handlers that a shutdown has skipped and whose entry runs a new one since: they go on until the manager ends.
+  std::vector<ScenarioHandler*> mLeftRunning;
   std::unique_ptr<ScriptParser> mParser;
   qsf::MessageProxy mGameStartupMessageProxy;
   qsf::MessageProxy mGameShutdownMessageProxy;
-  qsf::JobProxy mSelectionJobProxy;
   std::vector<std::uint64_t> mBlockedEntityIds;
   qsf::MessageProxy mPreCommandMessageProxy;
   qsf::Time mEditorDelay;

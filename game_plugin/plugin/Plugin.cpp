@@ -1,0 +1,75 @@
+#include "game_plugin/plugin/Plugin.h"
+
+#include "game_plugin/plugin/Version.h"
+#include "game_plugin/scenario/FiringLedger.h"
+#include "game_plugin/scenario/Log.h"
+#include "game_plugin/scenario/MapScriptManager.h"
+
+#include "em5/game/Game.h"
+#include "em5/gui/EmergencyGui.h"
+#include "em5/plugin/PluginVersion.h"
+#include "qsf/log/ErrorHandling.h"
+
+namespace script {
+
+namespace {
+
+Plugin* thePlugin = nullptr;
+
+/// The editor's hot reload. Games have the debugger's reload, which starts the running map's scripts, too.
+void reloadInEditor() {
+  if (qsf::UniqueInstance<em5::EmergencyGui>() || qsf::UniqueInstance<em5::Game>()) return;
+  MapScriptManager::Replace(false);
+}
+
+}
+
+Plugin::Plugin(DeclareClasses declareClasses) : qsf::Plugin(new em5::PluginVersion), mDeclareClasses(declareClasses) {
+  thePlugin = this;
+}
+
+Plugin::~Plugin() {
+  if (thePlugin == this) thePlugin = nullptr;
+}
+
+Plugin* Plugin::Get() { return thePlugin; }
+
+const char* Plugin::getName() const { return "map change Plugin"; }
+const char* Plugin::getVendor() const { return "BrillTarn"; }
+const char* Plugin::getDescription() const {
+  return "plugin offers all needed classes and methodes, which are necessary for a Tidemark";
+}
+
+bool Plugin::onInstall() {
+  try {
+    logInfo("");
+    logInfo("----Loading plugin Tidemark Plugin----");
+    logInfo(std::string("Build: Tidemark ") + MODULE_VERSION);
+    for (const camp::Class* campClass : mDeclareClasses())
+      addCampClass(*campClass);
+    return true;
+  } catch (const std::exception& exception) {
+    const std::string text =
+        std::string("Failed to install the plugin '") + getName() + "'. Exception caught: " + exception.what();
+    qsf::ErrorHandling::printToLog(text, 1);
+    qsf::ErrorHandling::handleBreakOnAssert(__FILE__, __LINE__, __func__);
+    return false;
+  }
+}
+
+bool Plugin::onStartup() {
+  FiringLedger::clear();
+  MapScriptManager::Replace(true);
+  mReloadMessageProxy.registerAt(qsf::StringHash("script::ForceHotReload_EditorOnly"),
+                                 [](const qsf::MessageParameters&) { reloadInEditor(); });
+  return true;
+}
+
+void Plugin::onShutdown() {
+  logInfo("Start Shutdown of Tidemark Plugin");
+  delete MapScriptManager::Get();
+  mReloadMessageProxy.unregister();
+  logInfo("Tidemark Plugin was shutdown succesfully");
+}
+
+}

@@ -1,0 +1,36 @@
+#pragma once
+#include "game_plugin/plugin/CampClasses.h"
+
+#include "qsf/message/MessageProxy.h"
+#include "qsf/plugin/Plugin.h"
+
+namespace script {
+
+/// The module as the host sees it. Made by the exported factory, owned by the host. Declares the reflected classes when
+/// it is installed; MapScriptManager lives from its startup to its shutdown.
+class Plugin : public qsf::Plugin {
+public:
+  using DeclareClasses = std::vector<const camp::Class*> (*)();
+  explicit Plugin(DeclareClasses declareClasses = &declareCampClasses);
+  ~Plugin() override;
+
+  /// The newest plug-in made, or null.
+  static Plugin* Get();
+
+  const char* getName() const override;
+  const char* getVendor() const override;
+  const char* getDescription() const override;
+
+protected:
+  /// False, with the reason in the log, if a class can't be declared.
+  bool onInstall() override;
+  bool onStartup() override;
+  void onShutdown() override;
+  void onUninstall() override {}
+
+private:
+  DeclareClasses mDeclareClasses;
+  qsf::MessageProxy mReloadMessageProxy;
+};
+
+}

@@ -1,0 +1,12 @@
+#include "game_plugin/scenario/ParameterReaders.h"
+
+namespace script {
+
+struct PrintTriggerInfoEffect : DefaultEffect {};
+
+static void read(PrintTriggerInfoEffect& /*effect*/, const Tokens& /*tokens*/) {}
+
+EFFECT_OF_KIND(PrintTriggerInfo, "TidemarkScripts",
+               "Logs the local name, the global name and the hash of the trigger that runs it", PrintTriggerInfo)
+
+}

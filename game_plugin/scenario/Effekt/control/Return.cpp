@@ -1,0 +1,11 @@
+#include "game_plugin/scenario/ParameterReaders.h"
+
+namespace script {
+
+struct ReturnEffect : DefaultEffect {};
+
+static void read(ReturnEffect& /*effect*/, const Tokens& /*tokens*/) {}
+
+EFFECT_OF_KIND(Return, "ScriptControl", "Ends the effects of this trigger; the ones behind it are not run", Return)
+
+}

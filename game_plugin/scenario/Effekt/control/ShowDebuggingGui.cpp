@@ -1,0 +1,23 @@
+#include "game_plugin/scenario/ParameterReaders.h"
+#include "game_plugin/scenario/ScenarioHandler.h"
+
+#include "em5/gui/EmergencyGui.h"
+
+namespace script {
+
+struct ShowDebuggingGuiEffect : DefaultEffect {
+  bool visible = true;
+};
+
+static void read(ShowDebuggingGuiEffect& effect, const Tokens& tokens) {
+  effect.visible = readBoolParameter(tokens, 1, true, "", "true-> gui will be shown\nfalse->gui will be hidden");
+}
+
+static void run(const ShowDebuggingGuiEffect& effect, ScenarioHandler& /*handler*/) {
+  const qsf::UniqueInstance<em5::EmergencyGui> gui;
+  if (gui && gui->getIngameHud()) gui->getIngameHud()->getDebugGuiWindow()->setVisible(effect.visible);
+}
+
+EFFECT(ShowDebuggingGui, "GUI", "Enables or disables the debugging gui. Usefull for events or to test some stuff out.")
+
+}

@@ -1,0 +1,13 @@
+#include "game_plugin/scenario/ParameterReaders.h"
+#include "game_plugin/scenario/UseConditionalBlockEffect.h"
+
+namespace script {
+
+static void read(UseConditionalBlockEffect& effect, const Tokens& tokens) {
+  effect.triggerIndex = readIntParameter(tokens, 1, 0, "", "");
+  effect.blockIndex = readIntParameter(tokens, 2, 0, "", "");
+}
+
+EFFECT_OF_KIND(UseConditionalBlock, "", "", UseConditionalBlock)
+
+}

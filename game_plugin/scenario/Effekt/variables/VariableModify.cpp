@@ -1,0 +1,48 @@
+#include "game_plugin/scenario/ParameterReaders.h"
+#include "game_plugin/scenario/ScenarioHandler.h"
+#include "game_plugin/scenario/Vocabulary.h"
+
+#include <cmath>
+
+namespace script {
+
+struct VariableModifyEffect : DefaultEffect {
+  Argument value1;
+  Argument value2;
+  Argument result;
+  ArithmeticOperator operation = ArithmeticOperator::Add;
+  bool round = true;
+};
+
+static void read(VariableModifyEffect& effect, const Tokens& tokens) {
+  effect.value1 = readStringParameter(tokens, 1, "0", "Value1", "Number, or name of a variable");
+  effect.operation = ToArithmeticOperator(readStringParameter(tokens, 2, "+", "Operation", "(+, -, *, :)"));
+  effect.value2 = readStringParameter(tokens, 3, "0", "Value2", "Number, or name of a variable");
+  effect.result = readStringParameter(tokens, 4, "var", "Result", "Name of the variable that gets the result");
+  effect.round = readBoolParameter(tokens, 5, true, "Round", "Rounds the result to the nearest whole number");
+}
+
+static float calculate(ArithmeticOperator operation, float value1, float value2) {
+  switch (operation) {
+  case ArithmeticOperator::Subtract:
+    return value1 - value2;
+  case ArithmeticOperator::Multiply:
+    return value1 * value2;
+  case ArithmeticOperator::Divide:
+    return value1 / value2; // by zero as floats do it: infinite, or not a number
+  case ArithmeticOperator::Add:
+    break;
+  }
+  return value1 + value2;
+}
+
+static void run(const VariableModifyEffect& effect, ScenarioHandler& handler) {
+  const float value1 = handler.ResolveFloat(effect.value1);
+  const float value2 = handler.ResolveFloat(effect.value2);
+  const float result = calculate(effect.operation, value1, value2);
+  handler.SetFloatVariable(effect.result, effect.round ? std::round(result) : result); // halves away from zero
+}
+
+EFFECT(VariableModify, "Variables", "Calculates with two values. Division is written with a colon")
+
+}
