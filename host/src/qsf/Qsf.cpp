@@ -15,6 +15,7 @@
 #include "qsf/message/MessageSystem.h"
 #include "qsf/plugin/PluginSystem.h"
 #include "qsf/prototype/PrototypeManager.h"
+#include "qsf/window/WindowApplication.h"
 
 #include <cassert>
 
@@ -55,6 +56,7 @@ struct Qsf::Systems {
   std::unique_ptr<PrototypeManager> prototypeManager;
   std::unique_ptr<LocalizationSystem> localizationSystem;
   std::unique_ptr<InputSystem> inputSystem;
+  std::unique_ptr<WindowApplication> windowApplication;
   std::unique_ptr<LayerManager> layerManager;
   std::unique_ptr<Map> mainMap;
   std::unique_ptr<PluginSystem> pluginSystem;
@@ -77,6 +79,7 @@ Qsf::Qsf() : mSystems(std::make_unique<Systems>()) {
   systems.prototypeManager = std::make_unique<PrototypeManager>();
   systems.localizationSystem = std::make_unique<LocalizationSystem>();
   systems.inputSystem = std::make_unique<InputSystem>();
+  systems.windowApplication = std::make_unique<WindowApplication>();
   systems.layerManager = std::make_unique<LayerManager>();
   systems.mainMap = std::make_unique<Map>();
   systems.pluginSystem = std::make_unique<PluginSystem>();

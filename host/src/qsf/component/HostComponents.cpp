@@ -1,8 +1,19 @@
 #include "qsf/component/HostComponents.h"
 
+#include "qsf/action/ActionComponent.h"
+#include "qsf/action/WaitAction.h"
+#include "qsf/component/CameraComponent.h"
 #include "qsf/component/LinkComponent.h"
+#include "qsf/component/MapPartComponents.h"
+#include "qsf/component/MeshAnimationComponent.h"
+#include "qsf/component/MeshComponent.h"
 #include "qsf/component/MetadataComponent.h"
+#include "qsf/component/MovableComponent.h"
 #include "qsf/component/TransformComponent.h"
+#include "qsf/game/EquipmentComponent.h"
+#include "qsf/game/TimeOfDayComponent.h"
+#include "qsf/physics/BulletCollisionComponent.h"
+#include "qsf/physics/PhysicsWorldComponent.h"
 #include "qsf/reflection/ClassRegistry.h"
 
 namespace qsf {
@@ -14,16 +25,21 @@ void declareBases() {
   camp::Class::declare<Object>("qsf::Object");
   camp::Class::declare<Prototype>("qsf::Prototype");
   Component::declareCamp();
+  Action::declareCamp();
 }
+
+template <class... Classes> void declareAll() { (ClassRegistry::declareOnce<Classes>(), ...); }
 
 }
 
 void declareHostClasses() {
   static const bool basesDeclared = (declareBases(), true);
   static_cast<void>(basesDeclared);
-  ClassRegistry::declareOnce<TransformComponent>();
-  ClassRegistry::declareOnce<MetadataComponent>();
-  ClassRegistry::declareOnce<LinkComponent>();
+  declareAll<TransformComponent, MetadataComponent, LinkComponent, MovableComponent, ActionComponent, MeshComponent,
+             MeshAnimationComponent, BulletCollisionComponent, PhysicsWorldComponent, CameraComponent,
+             game::TimeOfDayComponent, game::EquipmentComponent, TerrainComponent, StreetCrossingComponent,
+             StreetSectionComponent, LightComponent, ParticlesComponent>();
+  declareAll<WaitAction, IdleAction>();
 }
 
 }

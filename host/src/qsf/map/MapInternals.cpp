@@ -1,6 +1,7 @@
 #include "qsf/map/MapInternals.h"
 
 #include "qsf/component/LinkComponent.h"
+#include "qsf/physics/BulletCollisionComponent.h"
 
 namespace qsf {
 
@@ -40,6 +41,9 @@ void Map::Internals::removeComponent(Component& component) {
   if (component.getId() == LinkComponent::COMPONENT_ID) static_cast<LinkComponent&>(component).detach();
 }
 
-void Map::Internals::onEntityMoved(Entity& entity) { spatial.move(entity); }
+void Map::Internals::onEntityMoved(Entity& entity) {
+  spatial.move(entity);
+  if (auto* collision = entity.getComponent<BulletCollisionComponent>()) collision->onEntityMoved();
+}
 
 }

@@ -1,0 +1,2 @@
+#pragma once
+#include "qsf/window/RenderWindow.h"

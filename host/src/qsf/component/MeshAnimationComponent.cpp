@@ -1,0 +1,129 @@
+#include "qsf/component/MeshAnimationComponent.h"
+
+#include "em5/base/Jobs.h"
+#include "qsf/base/JsonFile.h"
+#include "qsf/log/LogSystem.h"
+
+#include <stdexcept>
+
+namespace qsf {
+
+namespace {
+
+const Time DEFAULT_LENGTH = Time::fromMicroseconds(1000000);
+
+/// Animations without a JSON file of their own are real ones of the game, whose length a headless host doesn't know.
+Time readLength(const BaseAsset& asset) {
+  if (!asset.getFile().ends_with(".json")) return DEFAULT_LENGTH;
+  try {
+    const std::string file = asset.getFile();
+    const Json document = readJsonFile(file);
+    const JsonPlace length = JsonPlace(document, file).member("length");
+    if (!(length.asNumber() > 0)) length.fail("an animation's length is above 0 seconds");
+    return Time::fromSeconds(length.asNumber());
+  } catch (const std::exception& fault) {
+    logMessage(LogSystem::WARNING, std::string(fault.what()) + "; the animation is taken to last a second");
+    return DEFAULT_LENGTH;
+  }
+}
+
+}
+
+MeshAnimationChannel::MeshAnimationChannel(const AssetProxy& animation, Time length, Repeat repeat, Direction direction,
+                                           float speed)
+    : mAnimation(animation), mLength(length), mPosition(direction == Direction::REVERSE ? length : Time()),
+      mRepeat(repeat), mDirection(direction), mSpeed(speed > 0 ? speed : 1.0f) {}
+
+float MeshAnimationChannel::getOffset() const {
+  return static_cast<float>(mPosition.getSecondsAsDouble() / mLength.getSecondsAsDouble());
+}
+
+void MeshAnimationChannel::setOffset(float offset) {
+  const float clamped = offset > 0 ? std::min(offset, 1.0f) : 0.0f;
+  mPosition = Time::fromSeconds(static_cast<double>(clamped) * mLength.getSecondsAsDouble());
+}
+
+void MeshAnimationChannel::advance(Time timePassed) {
+  if (mFinished) return;
+  const Time step = Time::fromSeconds(timePassed.getSecondsAsDouble() * static_cast<double>(mSpeed));
+  const Time way = mDirection == Direction::FORWARD ? mLength - mPosition : mPosition;
+  if (step < way) {
+    mPosition = mDirection == Direction::FORWARD ? mPosition + step : mPosition - step;
+    return;
+  }
+  mFinished = mRepeat == Repeat::ONCE;
+  const Time over =
+      mFinished ? Time() : Time::fromMicroseconds((step - way).getMicroseconds() % mLength.getMicroseconds());
+  const bool atEnd = mFinished == (mDirection == Direction::FORWARD); // a finished one rests where it got to
+  const Time base = atEnd ? mLength : Time();
+  mPosition = mDirection == Direction::FORWARD ? base + over : base - over;
+}
+
+void MeshAnimationComponent::declareCamp() {
+  camp::Class::declare<MeshAnimationComponent>("qsf::MeshAnimationComponent")
+      .base<Component>()
+      .constructor1<Prototype*>()
+      .property("Animation", &MeshAnimationComponent::getAnimationName, &MeshAnimationComponent::setAnimationName);
+}
+
+std::shared_ptr<MeshAnimationChannel> MeshAnimationComponent::playAnimation(const AssetProxy& animation, bool looped,
+                                                                            bool reverse, float speed) {
+  const BaseAsset* asset = animation.getAsset();
+  if (!asset) return nullptr;
+  clearAnimation();
+  using Channel = MeshAnimationChannel;
+  mChannel =
+      std::make_shared<Channel>(animation, readLength(*asset), looped ? Channel::Repeat::LOOPED : Channel::Repeat::ONCE,
+                                reverse ? Channel::Direction::REVERSE : Channel::Direction::FORWARD, speed);
+  updateRegistration();
+  return mChannel;
+}
+
+std::shared_ptr<MeshAnimationChannel> MeshAnimationComponent::blendToAnimation(const AssetProxy& animation, bool looped,
+                                                                               Time /*blendTime*/, bool reverse,
+                                                                               float offset, float speed) {
+  std::shared_ptr<MeshAnimationChannel> channel = playAnimation(animation, looped, reverse, speed);
+  if (channel && offset > 0) channel->setOffset(offset);
+  return channel;
+}
+
+void MeshAnimationComponent::clearAnimation() {
+  if (mChannel) mChannel->stop();
+  mChannel.reset();
+  updateRegistration();
+}
+
+bool MeshAnimationComponent::isAnimationPlaying(const AssetProxy& animation) const {
+  return mChannel && mChannel->getAnimation().getLocalAssetId() == animation.getLocalAssetId();
+}
+
+bool MeshAnimationComponent::onStartup() {
+  updateRegistration();
+  return true;
+}
+
+void MeshAnimationComponent::onShutdown() { mJob.unregister(); }
+
+std::string MeshAnimationComponent::getAnimationName() const {
+  return mChannel ? mChannel->getAnimation().getLocalAssetName() : std::string();
+}
+
+void MeshAnimationComponent::setAnimationName(const std::string& name) {
+  if (name.empty()) return clearAnimation();
+  if (!playAnimation(AssetProxy(name)))
+    throw std::invalid_argument("no mounted project has an animation \"" + name + "\"");
+}
+
+void MeshAnimationComponent::updateRegistration() {
+  if (!isRunning() || !mChannel) return mJob.unregister();
+  if (!mJob.isRegistered())
+    mJob.registerAt(em5::Jobs::SIMULATION_LOGIC, [this](const JobArguments& arguments) { update(arguments); });
+}
+
+void MeshAnimationComponent::update(const JobArguments& arguments) {
+  if (!isActive() || !mChannel) return;
+  mChannel->advance(arguments.getTimePassed());
+  if (mChannel->isFinished()) clearAnimation();
+}
+
+}

@@ -1,0 +1,15 @@
+#include "qsf/component/MeshComponent.h"
+
+#include "qsf/reflection/CampTypes.h"
+
+namespace qsf {
+
+void MeshComponent::declareCamp() {
+  camp::Class::declare<MeshComponent>("qsf::MeshComponent")
+      .base<Component>()
+      .constructor1<Prototype*>()
+      .property("Mesh", &MeshComponent::getMesh, &MeshComponent::setMesh)
+      .property("Material", &MeshComponent::getMaterial, &MeshComponent::setMaterial);
+}
+
+}
