@@ -115,7 +115,7 @@ std::string grouped(double value) {
   if (std::isnan(value)) return "-";
   std::string digits = fmt::format("{:.0f}", value);
   for (std::ptrdiff_t i = static_cast<std::ptrdiff_t>(digits.size()) - 3; i > 0; i -= 3)
-    digits.insert(static_cast<std::size_t>(i), " ");
+    digits.insert(static_cast<std::size_t>(i), 1, ' ');
   return digits;
 }
 
