@@ -1,7 +1,25 @@
 #include "game_plugin/plugin/CampClasses.h"
 
+#include "game_plugin/component/OpenHouseComponent.h"
+#include "game_plugin/component/ScenarioCommandableComponent.h"
+
 namespace script {
 
-std::vector<const camp::Class*> declareCampClasses() { return {}; }
+namespace {
+
+template <class T> const camp::Class* declareOnce() {
+  static const bool declared = (T::declareCamp(), true);
+  static_cast<void>(declared);
+  return &camp::classByType<T>();
+}
+
+}
+
+std::vector<const camp::Class*> declareCampClasses() {
+  return {
+      declareOnce<ScenarioCommandableComponent>(),
+      declareOnce<OpenHouseComponent>(),
+  };
+}
 
 }

@@ -96,6 +96,8 @@ public:
   void AddToEntityList(const std::string& name, std::uint64_t id);
   /// Number of ids that ResolveEntityList gives, without the copy; creates a missing list as it does.
   std::size_t GetEntityListSize(const Argument& argument);
+  /// Whether ResolveEntityList gives that id, without the copy; creates a missing list as it does.
+  bool IsInEntityList(const Argument& argument, std::uint64_t id);
   void RemoveFromEntityList(const std::string& name, std::uint64_t id);
   void ClearEntityList(const Argument& name, bool removeList = false);
   void ClearEntityList(const std::string& name, bool removeList = false);

@@ -85,6 +85,13 @@ std::size_t ScenarioHandler::GetEntityListSize(const Argument& argument) {
   return store.value(Locate(argument, info.text, store)).size();
 }
 
+bool ScenarioHandler::IsInEntityList(const Argument& argument, std::uint64_t id) {
+  const ArgumentText& info = argument.info();
+  if (info.ids) return std::find(info.ids->begin(), info.ids->end(), id) != info.ids->end();
+  Store<EntityList>& store = EntityListsOf(info.isGlobal);
+  return store.value(Locate(argument, info.text, store)).contains(id);
+}
+
 bool ScenarioHandler::SplitVecInXYZ(const Argument& argument, float& x, float& y, float& z) {
   return SplitVecInXYZ(argument.text(), x, y, z);
 }

@@ -2,6 +2,14 @@
 
 namespace script {
 
-EMPTY_CONDITION_GROUP(ComponentsAndVariablesConditions)
+// The entries in the order in which they are asked; each stands in a file of its name.
+#define MANIFEST(ENTRY)                                                                                                \
+  ENTRY(ComponentPropertyContainsString)                                                                               \
+  ENTRY(ComponentPropertyMatchsString)                                                                                 \
+  ENTRY(CompareComponentPropertyToFloatVariable)                                                                       \
+  ENTRY(ActionPlanIsEmpty)                                                                                             \
+  ENTRY(CompareEntityListSizes)                                                                                        \
+  ENTRY(CompareEntityListSizeWithValue)
+CONDITION_GROUP_CHAIN(ComponentsAndVariablesConditions, MANIFEST)
 
 }

@@ -4,6 +4,24 @@ namespace script {
 
 // The entries in the order in which they are asked; each stands in a file of its name.
 #define MANIFEST(ENTRY)                                                                                                \
+  ENTRY(CanBeTowed)                                                                                                    \
+  ENTRY(IsSirenEnabled)                                                                                                \
+  ENTRY(ObjectIsBurning)                                                                                               \
+  ENTRY(SquadPersonInValidState)                                                                                       \
+  ENTRY(SquadVehicleInValidState)                                                                                      \
+  ENTRY(IsAnimationCurrentlyPlaying)                                                                                   \
+  ENTRY(HasParent)                                                                                                     \
+  ENTRY(UnitsInArea)                                                                                                   \
+  ENTRY(DistanceToUnit)                                                                                                \
+  ENTRY(UnitIsSelected)                                                                                                \
+  ENTRY(HasEquipment)                                                                                                  \
+  ENTRY(HasName)                                                                                                       \
+  ENTRY(CurrentActionPriorityMaximum)                                                                                  \
+  ENTRY(EntityListHasSize)                                                                                             \
+  ENTRY(IsUnitInSensorArea)                                                                                            \
+  ENTRY(IsAnyEntityInSensorArea)                                                                                       \
+  ENTRY(DoorHasState)                                                                                                  \
+  ENTRY(IsOpenHouse)                                                                                                   \
   ENTRY(Timer)                                                                                                         \
   ENTRY(CompareValues)
 CONDITION_GROUP_CHAIN(ScenarioConditions_Brill, MANIFEST)

@@ -4,15 +4,21 @@
 
 namespace script {
 
-/// The list-out convention: copies the in list, clears the out list, adds each id whose entity exists and passes the
-/// test, and answers whether the out list holds anything. As the in list is copied first, both may be the same list,
-/// which is then filtered in place. The out list exists afterwards, also if nothing passed.
+/// Copies the in list, clears the out list and adds each id whose entity exists and passes the test. As the in list is
+/// copied first, both may be the same list, which is then filtered in place.
 template <class Test>
-bool filterIntoList(ScenarioHandler& handler, const Argument& in, const Argument& out, Test&& passes) {
+void writePassingToList(ScenarioHandler& handler, const Argument& in, const Argument& out, Test&& passes) {
   const EntityIds ids = handler.ResolveEntityList(in);
   handler.ClearEntityList(out);
   for (const std::uint64_t id : ids)
     if (qsf::Entity* entity = findEntity(id); entity && passes(*entity)) handler.AddToEntityList(out, id);
+}
+
+/// The list-out convention: writePassingToList, and the answer whether the out list holds anything. The out list exists
+/// afterwards, also if nothing passed.
+template <class Test>
+bool filterIntoList(ScenarioHandler& handler, const Argument& in, const Argument& out, Test&& passes) {
+  writePassingToList(handler, in, out, std::forward<Test>(passes));
   return handler.GetEntityListSize(out) != 0;
 }
 

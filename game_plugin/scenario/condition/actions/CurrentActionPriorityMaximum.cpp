@@ -1,0 +1,39 @@
+#include "game_plugin/scenario/ParameterReaders.h"
+#include "game_plugin/scenario/shared/ListOut.h"
+
+#include "qsf/action/ActionComponent.h"
+
+namespace script {
+
+struct CurrentActionPriorityMaximumCondition : DefaultCondition {
+  Argument entityList;
+  Argument compareValue;
+  Argument entityListOut;
+};
+
+static void read(CurrentActionPriorityMaximumCondition& condition, const Tokens& tokens) {
+  condition.entityList =
+      readStringParameter(tokens, 1, "EntitiesToCheck", "EntityList", "EntityList which should be checked");
+  condition.entityListOut = readStringParameter(
+      tokens, 2, "no_list", "EntityListOut",
+      "All the entities which passed the checks are written to this list. Notice that the list is cleared before. BUT "
+      "EntityList and EntityList[out] can be the same - this will remove units that dont match this criteria");
+  condition.compareValue = readStringParameter(
+      tokens, 3, "1", "CompareValue",
+      "If it is higher then this value, the entity will not pass the check.<br>200->blocked action these shouldnt be "
+      "interupted<br>120->is a good value as it is higher then Move and TurnUnit action");
+}
+
+static bool test(const CurrentActionPriorityMaximumCondition& condition, ScenarioHandler& handler) {
+  return filterIntoList(handler, condition.entityList, condition.entityListOut, [&](const qsf::Entity& entity) {
+    const auto* actions = entity.getComponent<qsf::ActionComponent>();
+    if (!actions) return false;
+    if (!actions->getCurrentAction()) return true;
+    return !(static_cast<float>(actions->getCurrentPriority()) > handler.ResolveFloat(condition.compareValue));
+  });
+}
+
+CONDITION(CurrentActionPriorityMaximum, "General",
+          "True if at least entity has not a current action with a higher value")
+
+}

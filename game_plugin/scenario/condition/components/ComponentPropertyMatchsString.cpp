@@ -1,0 +1,22 @@
+#include "game_plugin/scenario/shared/ComponentProperty.h"
+
+namespace script {
+
+struct ComponentPropertyMatchsStringCondition : ComponentPropertyCondition {};
+
+static void read(ComponentPropertyMatchsStringCondition& condition, const Tokens& tokens) {
+  readPropertyAddress(condition, tokens);
+  readTextAndListOut(condition, tokens, 4);
+}
+
+static bool test(const ComponentPropertyMatchsStringCondition& condition, ScenarioHandler& handler) {
+  return filterByProperty(condition, handler, [&](const camp::Value& value) {
+    return value.to<std::string>() == handler.ResolveString(condition.stringToCheck);
+  });
+}
+
+CONDITION(ComponentPropertyMatchsString, "Components",
+          "Returns true if the Components Value is exactly the value of \"StringToCheck\". Notice that bools are "
+          "represented by 0 and 1 and not by true and false")
+
+}

@@ -1,0 +1,27 @@
+#include "game_plugin/scenario/ParameterReaders.h"
+#include "game_plugin/scenario/ScenarioHandler.h"
+
+namespace script {
+
+struct CompareEntityListSizeWithValueCondition : DefaultCondition {
+  Argument entityList;
+  Argument value;
+  ComparisonOperator operatorText;
+};
+
+static void read(CompareEntityListSizeWithValueCondition& condition, const Tokens& tokens) {
+  condition.entityList = readStringParameter(tokens, 1, "", "EntityList", "Units that shall be checked");
+  condition.operatorText =
+      readStringParameter(tokens, 2, "==", "Operator", "String that we hope to find inside the Property-Value");
+  condition.value = readStringParameter(tokens, 3, "", "Value",
+                                        "Value which we compare the Unitlist size to - can also hold a variable");
+}
+
+static bool test(const CompareEntityListSizeWithValueCondition& condition, ScenarioHandler& handler) {
+  const float size = static_cast<float>(handler.GetEntityListSize(condition.entityList));
+  return condition.operatorText(size, handler.ResolveFloat(condition.value));
+}
+
+CONDITION(CompareEntityListSizeWithValue, "EntityLists", "Compares the size of one entitylist versus a value")
+
+}

@@ -1,0 +1,37 @@
+#include "game_plugin/component/OpenHouseComponent.h"
+#include "game_plugin/scenario/ParameterReaders.h"
+#include "game_plugin/scenario/ScenarioHandler.h"
+
+#include "qsf/Qsf.h"
+#include "qsf/map/Map.h"
+
+namespace script {
+
+struct IsOpenHouseCondition : DefaultCondition {
+  Argument entityList;
+  Argument entityListOut;
+};
+
+static void read(IsOpenHouseCondition& condition, const Tokens& tokens) {
+  condition.entityList =
+      readStringParameter(tokens, 1, "EntitiesToCheck", "EntityList", "List of entities that are checked");
+  condition.entityListOut = readStringParameter(
+      tokens, 2, "no_list", "EntityListOut", "If the condition is true it will also write the OpenHouse to this list");
+}
+
+/// Kept: ids are compared only, nobody looks for their entities. What is gone still finds the house that lists it.
+static bool test(const IsOpenHouseCondition& condition, ScenarioHandler& handler) {
+  const EntityIds ids = handler.ResolveEntityList(condition.entityList);
+  handler.ClearEntityList(condition.entityListOut);
+  const std::vector<qsf::Component*>& houses =
+      qsf::getMainMap().getComponentInstances(OpenHouseComponent::COMPONENT_ID);
+  for (const std::uint64_t id : ids)
+    for (const qsf::Component* house : houses)
+      if (static_cast<const OpenHouseComponent*>(house)->holdsEntity(id))
+        handler.AddToEntityList(condition.entityListOut, house->getEntityId());
+  return handler.GetEntityListSize(condition.entityListOut) != 0;
+}
+
+CONDITION(IsOpenHouse, "General", "Checks if the entity is linked to the openhouse or is the openhouse itself")
+
+}
