@@ -7,6 +7,7 @@
 #include "em5/component/FireComponent.h"
 #include "em5/component/HealthComponent.h"
 #include "em5/component/HelicopterComponent.h"
+#include "em5/component/MoveToDespawnComponent.h"
 #include "em5/component/PersonComponent.h"
 #include "em5/component/RoadVehicleComponent.h"
 #include "em5/component/TreeComponent.h"
@@ -31,6 +32,7 @@ void declareComponentClasses() {
   qsf::ClassRegistry::declareOnce<TreeComponent>();
   qsf::ClassRegistry::declareOnce<CommandableComponent>();
   qsf::ClassRegistry::declareOnce<FadeEffectComponent>();
+  qsf::ClassRegistry::declareOnce<MoveToDespawnComponent>();
 }
 
 }

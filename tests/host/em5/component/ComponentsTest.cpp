@@ -8,10 +8,12 @@
 #include "em5/component/HealthComponent.h"
 #include "em5/component/HelicopterComponent.h"
 #include "em5/component/Injuries.h"
+#include "em5/component/MoveToDespawnComponent.h"
 #include "em5/component/PersonComponent.h"
 #include "em5/component/RoadVehicleComponent.h"
 #include "em5/component/TreeComponent.h"
 #include "em5/component/VehicleComponent.h"
+#include "qsf/component/MovableComponent.h"
 #include "qsf/component/TransformComponent.h"
 #include "qsf/reflection/ClassRegistry.h"
 
@@ -226,6 +228,36 @@ TEST_F(ComponentsTest, AFadeMayDestroyItsOwner) {
   run(0.05);
   EXPECT_EQ(qsf::getMainMap().getEntityById(100), nullptr);
   run(0.1);
+}
+
+TEST_F(ComponentsTest, ADespawningEntityGoesToItsPlaceAndIsDestroyedThere) {
+  play();
+  add<qsf::MovableComponent>(100).setSpeed(10);
+  auto& despawn = add<em5::MoveToDespawnComponent>(100);
+  run(1);
+  EXPECT_EQ(text(despawn, "Despawning"), "0");
+  despawn.setPropertyByString("TargetPosition", "20 0 0");
+  run(1);
+  const qsf::Entity* entity = qsf::getMainMap().getEntityById(100);
+  ASSERT_TRUE(entity);
+  EXPECT_NEAR(entity->getComponent<qsf::TransformComponent>()->getPosition().x, 10, 1);
+  run(1.5);
+  EXPECT_EQ(qsf::getMainMap().getEntityById(100), nullptr);
+}
+
+TEST_F(ComponentsTest, AnEntityStaysWhenItsDespawningIsTakenOffOrInactive) {
+  play();
+  for (const std::uint64_t id : {100, 101}) {
+    add<qsf::MovableComponent>(id);
+    add<em5::MoveToDespawnComponent>(id).setTargetPosition({5, 0, 0});
+  }
+  qsf::getMainMap().getEntityById(100)->destroyComponentById(em5::MoveToDespawnComponent::COMPONENT_ID);
+  add<em5::MoveToDespawnComponent>(101).setActive(false);
+  add<em5::MoveToDespawnComponent>(101).setTargetPosition({std::nanf(""), 0, 0});
+  run(5);
+  EXPECT_TRUE(qsf::getMainMap().getEntityById(100));
+  EXPECT_TRUE(qsf::getMainMap().getEntityById(101));
+  EXPECT_EQ(add<em5::MoveToDespawnComponent>(101).getTargetPosition(), glm::vec3(5, 0, 0));
 }
 
 TEST_F(ComponentsTest, StateIsReadAndWrittenByReflection) {
