@@ -4,9 +4,14 @@
 
 #include "em5/game/HostSession.h"
 #include "qsf/Qsf.h"
+#include "qsf/action/ActionComponent.h"
+#include "qsf/action/WaitAction.h"
 #include "qsf/input/InputSystem.h"
+#include "qsf/map/Entity.h"
 
 #include <fmt/format.h>
+
+#include <limits>
 
 namespace tidemark::test {
 
@@ -47,6 +52,25 @@ Action mouseAction(WordCursor& words) {
   throw DirectiveError("behind 'mouse' stands press, release, wheel, over or at");
 }
 
+// Puts an action of that name in front of all others. It stands for whatever the game's own action of that name would
+// do.
+Action pushAction(WordCursor& words) {
+  const EntityReference reference = takeEntityReference(words);
+  const std::string name = words.take("the action's name");
+  std::int64_t priority = qsf::ActionComponent::DEFAULT_PRIORITY;
+  if (words.takeIf("priority")) priority = words.takeInteger("the priority");
+  if (priority < 0 || priority > std::numeric_limits<std::int32_t>::max())
+    throw DirectiveError("the priority is out of range");
+  return [=](TestSession& session) {
+    qsf::Entity& entity = session.findEntity(session.resolve(reference));
+    auto* actions = entity.getComponent<qsf::ActionComponent>();
+    if (!actions) throw NotThere(fmt::format("entity {} has no qsf::ActionComponent", entity.getId()));
+    auto action = std::make_unique<qsf::IdleAction>();
+    action->init(name);
+    actions->insertAction(std::move(action), static_cast<unsigned int>(priority), qsf::action::INSERT_BEFORE_CURRENT);
+  };
+}
+
 }
 
 std::optional<Action> readDeviceAction(WordCursor& words) {
@@ -54,7 +78,7 @@ std::optional<Action> readDeviceAction(WordCursor& words) {
   if (words.takeIf("release")) return keyboardAction(words, ButtonState::RELEASED);
   if (words.takeIf("mouse")) return mouseAction(words);
   if (words.peekKeyword("click")) throw DirectiveError("clicks on elements of documents are not available yet");
-  if (words.peekKeyword("push")) throw DirectiveError("pushed actions are not available yet");
+  if (words.takeIf("push")) return pushAction(words);
   return std::nullopt;
 }
 

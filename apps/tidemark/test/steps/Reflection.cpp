@@ -31,6 +31,7 @@ bool elementMatches(std::string_view expected, std::string_view found, std::opti
   const auto expectedNumber = parseNumber(expected), foundNumber = parseNumber(found);
   if (!expectedNumber || !foundNumber) return false;
   if (!within && parseInteger(expected) && parseInteger(found)) return *parseInteger(expected) == *parseInteger(found);
+  if (!within && parseId(expected) && parseId(found)) return *parseId(expected) == *parseId(found);
   return numbersMatch(*expectedNumber, *foundNumber, within);
 }
 

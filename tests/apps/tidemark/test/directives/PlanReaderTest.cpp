@@ -1,0 +1,182 @@
+#include "apps/tidemark/test/TestPlan.h"
+
+#include <gtest/gtest.h>
+
+namespace tidemark::test {
+
+namespace {
+
+TestPlan readGood(const std::string& text) {
+  PlanResult result = readPlan("some/test.script", text);
+  for (const PlanFault& fault : result.faults)
+    ADD_FAILURE() << fault.line << ": " << fault.text;
+  return std::move(result.plan);
+}
+
+PlanFault readFaulty(const std::string& text) {
+  const PlanResult result = readPlan("some/test.script", text);
+  EXPECT_EQ(result.faults.size(), 1u) << text;
+  return result.faults.empty() ? PlanFault{0, ""} : result.faults.front();
+}
+
+const std::string EXPECTATION = "$ @expect triggers 0\n";
+
+TEST(PlanReader, DefaultsAreThoseOfThePage) {
+  const TestPlan plan = readGood("$ @expect triggers 1\nInitNewTrigger();\n");
+  ASSERT_EQ(plan.projects.size(), 1u);
+  EXPECT_EQ(plan.projects[0].name, "test");
+  ASSERT_EQ(plan.projects[0].scripts.size(), 1u);
+  EXPECT_EQ(plan.projects[0].scripts[0].key, "main");
+  EXPECT_EQ(plan.projects[0].scripts[0].path, "main.script");
+  EXPECT_EQ(plan.projects[0].scripts[0].mode, "MAP_STARTUP_SIMULATION");
+  EXPECT_EQ(plan.projects[0].scripts[0].text, "$ @expect triggers 1\nInitNewTrigger();\n");
+  EXPECT_EQ(plan.mainMaps, std::vector<std::string>{"All"});
+  EXPECT_EQ(plan.map, "em5/map/test/empty");
+  EXPECT_EQ(plan.numberOfFrames(), 20u);
+}
+
+TEST(PlanReader, FileWithoutFinalLineFeedStaysSo) {
+  EXPECT_EQ(readGood(EXPECTATION + "Foo();").projects[0].scripts[0].text, EXPECTATION + "Foo();");
+}
+
+TEST(PlanReader, ScriptSectionsAreScriptsOfTheirOwn) {
+  const TestPlan plan = readGood(
+      EXPECTATION +
+      "A();\n$ @script sub/helper.v2.script MAP_STARTUP\nB();\n$ a comment\n$ @end\nC();\n$ @script none none\nD();");
+  const auto& scripts = plan.projects[0].scripts;
+  ASSERT_EQ(scripts.size(), 3u);
+  EXPECT_EQ(scripts[1].path, "sub/helper.v2.script");
+  EXPECT_EQ(scripts[1].key, "sub/helper.v2");
+  EXPECT_EQ(scripts[1].mode, "MAP_STARTUP");
+  EXPECT_EQ(scripts[1].text, "B();\n$ a comment\n");
+  EXPECT_EQ(scripts[2].mode, "");
+  EXPECT_EQ(scripts[2].key, "none");
+  EXPECT_EQ(scripts[2].text, "D();");
+}
+
+TEST(PlanReader, LinesOfMainKeepTheirNumbers) {
+  const TestPlan plan = readGood(EXPECTATION + "A();\n$ @script helper.script\nB();\n$ @end\nC();\n");
+  EXPECT_EQ(plan.projects[0].scripts[0].text, EXPECTATION + "A();\n$ @script helper.script\n\n$ @end\nC();\n");
+}
+
+TEST(PlanReader, DirectivesInsideAScriptSectionAreDirectives) {
+  const TestPlan plan = readGood("$ @script helper.script\nB();\n$ @expect in helper triggers 0\nC();\n");
+  EXPECT_EQ(plan.expectations.size(), 1u);
+  EXPECT_EQ(plan.projects[0].scripts[1].text, "B();\n$ @expect in helper triggers 0\nC();\n");
+}
+
+TEST(PlanReader, RawFilesHoldEveryLineUpToTheirEnd) {
+  const TestPlan plan = readGood(EXPECTATION + "$ @file a/b.json\n{\n$ @script no\n}\n$ @end\n");
+  ASSERT_EQ(plan.projects[0].files.size(), 1u);
+  EXPECT_EQ(plan.projects[0].files[0].path, "a/b.json");
+  EXPECT_EQ(plan.projects[0].files[0].text, "{\n$ @script no\n}\n");
+  EXPECT_EQ(plan.projects[0].scripts.size(), 1u);
+}
+
+TEST(PlanReader, SectionsBelongToTheModificationBeforeThem) {
+  const TestPlan plan =
+      readGood(EXPECTATION + "$ @mod other disabled\n$ @script o.script\nB();\n$ @mod third unmounted\n$ @file x\n1\n$ "
+                             "@end\n$ @mod test\n$ @script t.script\nC();\n");
+  ASSERT_EQ(plan.projects.size(), 3u);
+  EXPECT_EQ(plan.projects[0].scripts.size(), 2u);
+  EXPECT_FALSE(plan.projects[1].enabled);
+  EXPECT_TRUE(plan.projects[1].mounted);
+  EXPECT_EQ(plan.projects[1].scripts[0].key, "o");
+  EXPECT_TRUE(plan.projects[2].enabled);
+  EXPECT_FALSE(plan.projects[2].mounted);
+  EXPECT_EQ(plan.projects[2].files[0].text, "1\n");
+}
+
+TEST(PlanReader, SettingsAreRead) {
+  const TestPlan plan = readGood(EXPECTATION + "$ @mode MAP_STARTUP\n$ @maps a b\n$ @encoding cp1252\n$ @eol crlf\n$ "
+                                               "@map m\n$ @game campaign\n$ @editor\n$ @language de\n"
+                                               "$ @account Ada\n$ @seed 7\n$ @tick 0.1\n$ @for 3.2\n");
+  EXPECT_EQ(plan.projects[0].scripts[0].mode, "MAP_STARTUP");
+  EXPECT_EQ(plan.mainMaps, (std::vector<std::string>{"a", "b"}));
+  EXPECT_EQ(plan.encoding, TestPlan::Encoding::CODE_PAGE_1252);
+  EXPECT_EQ(plan.lineEnd, TestPlan::LineEnd::CARRIAGE_RETURN);
+  EXPECT_EQ(plan.map, "m");
+  EXPECT_EQ(plan.gameMode, em5::GameModeType::CAMPAIGN);
+  EXPECT_TRUE(plan.editor);
+  EXPECT_EQ(plan.language, "de");
+  EXPECT_EQ(plan.account, "Ada");
+  EXPECT_EQ(plan.seed, 7u);
+  EXPECT_EQ(plan.numberOfFrames(), 32u);
+}
+
+TEST(PlanReader, StepsGoByTimeAndEqualTimesByLine) {
+  const TestPlan plan = readGood("$ @at 0.5 expect triggers 0\n$ @at 0 pause\n$ @at 0.5 resume\n$ @at 0.501 restart\n");
+  ASSERT_EQ(plan.steps.size(), 4u);
+  EXPECT_EQ(plan.steps[0].text, "pause");
+  EXPECT_EQ(plan.steps[1].text, "expect triggers 0");
+  EXPECT_EQ(plan.steps[2].text, "resume");
+  EXPECT_EQ(plan.steps[3].text, "restart");
+}
+
+struct Fault {
+  const char* directive;
+  const char* text;
+};
+
+class FaultyDirective : public testing::TestWithParam<Fault> {};
+
+TEST_P(FaultyDirective, IsAnErrorWithItsLine) {
+  const PlanFault fault = readFaulty("\n" + EXPECTATION + GetParam().directive + "\n");
+  EXPECT_EQ(fault.line, 3);
+  EXPECT_NE(fault.text.find(GetParam().text), std::string::npos) << fault.text;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, FaultyDirective,
+    testing::Values(
+        Fault{"$ @expct x", "unknown directive"}, Fault{"$ @", "unknown directive"},
+        Fault{"$ @for", "the duration is missing"}, Fault{"$ @for soon", "'soon' is no number"},
+        Fault{"$ @for -1", "not between"}, Fault{"$ @for inf", "not between"}, Fault{"$ @for nan", "not between"},
+        Fault{"$ @tick 0", "not between"}, Fault{"$ @for 1 2", "unexpected word '2'"},
+        Fault{"$ @at 2 pause", "behind the end"}, Fault{"$ @at x pause", "is no number"},
+        Fault{"$ @at 0 jump", "unknown action 'jump'"}, Fault{"$ @at 0", "an action is missing"},
+        Fault{"$ @expect", "an expectation is missing"},
+        Fault{"$ @expect something", "unknown expectation 'something'"},
+        Fault{"$ @expect variable x", "an operator is missing"},
+        Fault{"$ @expect variable x = 1", "'=' is no operator"}, Fault{"$ @expect variable x == y", "'y' is no number"},
+        Fault{"$ @expect variable x == 1 within -1", "negative"},
+        Fault{"$ @expect variable x < 1 within 1", "goes with"},
+        Fault{"$ @expect variable x == 1 2", "unexpected word '2'"},
+        Fault{"$ @expect bool x == yes", "neither true nor false"}, Fault{"$ @expect list x", "behind a list's name"},
+        Fault{"$ @expect list x == a", "neither an id"}, Fault{"$ @expect list x size many", "is no id"},
+        Fault{"$ @expect no thing x", "none of variable"}, Fault{"$ @expect store things == a", "none of variables"},
+        Fault{"$ @expect trigger T", "it isn't told"}, Fault{"$ @expect trigger T sleepy", "'sleepy' is nothing"},
+        Fault{"$ @expect script s asleep", "neither running nor stopped"},
+        Fault{"$ @expect log LOUD x", "is no severity"},
+        Fault{"$ @expect log INFO", "the text of the log line is missing"},
+        Fault{"$ @expect log INFO x twice", "unexpected word 'twice'"},
+        Fault{"$ @expect log INFO x 2", "unexpected word '2'"}, Fault{"$ @expect log INFO x -1 times", "is no id"},
+        Fault{"$ @expect no other log above ANY", "other than ANY"},
+        Fault{"$ @expect no other log", "'above' is missing"},
+        Fault{"$ @expect after shutdown triggers 1", "expectation on the log"},
+        Fault{"$ @at 0 expect after shutdown log INFO x", "without @at"},
+        Fault{"$ @expect entity 100", "exists or missing is missing"},
+        Fault{"$ @expect 100 at 1 2", "the z value is missing"},
+        Fault{"$ @expect 100 thing == 1", "is no COMPONENT.PROPERTY"},
+        Fault{"$ @expect element doc e text == x", "not available yet"},
+        Fault{"$ @at 0 click doc e", "not available yet"}, Fault{"$ @at 0 emit m 1 2 3 4", "up to three filters"},
+        Fault{"$ @at 0 variable x 1", "where '=' stands"}, Fault{"$ @at 0 mouse jump", "behind 'mouse'"},
+        Fault{"$ @entity x", "is no id"}, Fault{"$ @entity 100 blue", "unexpected word 'blue'"},
+        Fault{"$ @entity 100 at 1 2", "the z value is missing"}, Fault{"$ @set 100 X 1", "is no COMPONENT.PROPERTY"},
+        Fault{"$ @script", "a path is missing"}, Fault{"$ @script ../x.script", "inside the project"},
+        Fault{"$ @script /x.script", "inside the project"}, Fault{"$ @script main.script", "already"},
+        Fault{"$ @mod em5", "base project"}, Fault{"$ @mod a/b", "is no name of a project"},
+        Fault{"$ @mod other asleep", "neither disabled"}, Fault{"$ @project nowhere", "there is no folder"},
+        Fault{"$ @encoding utf7", "is no encoding"}, Fault{"$ @eol lf", "is no line's end"},
+        Fault{"$ @game chess", "is no game mode"}, Fault{"$ @maps", "a map's name is missing"},
+        Fault{"$ @file a.json\n{}", "'$ @end' is missing"}, Fault{"$ @expect string x == \"open", "not closed"}));
+
+TEST(PlanReader, ATestWithoutExpectationIsAnError) {
+  EXPECT_NE(readFaulty("$ @for 2\nInitNewTrigger();\n").text.find("expects nothing"), std::string::npos);
+}
+
+TEST(PlanReader, AllFaultsAreTold) { EXPECT_EQ(readPlan("t", "$ @a\n$ @b\n" + EXPECTATION).faults.size(), 2u); }
+
+}
+
+}

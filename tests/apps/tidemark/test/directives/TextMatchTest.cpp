@@ -1,0 +1,44 @@
+#include "apps/tidemark/test/directives/TextMatch.h"
+
+#include <gtest/gtest.h>
+
+namespace tidemark::test {
+
+namespace {
+
+TEST(TextMatch, AMarkInADirectiveMatchesEitherEncoding) {
+  EXPECT_TRUE(textMatches("§score", "\xC2\xA7score"));
+  EXPECT_TRUE(textMatches("§score", "\xA7score"));
+  EXPECT_TRUE(textMatches("a§b§", "a\xA7"
+                                  "b\xC2\xA7"));
+  EXPECT_FALSE(textMatches("§score", "score"));
+  EXPECT_FALSE(textMatches("§score", "\xC2score"));
+}
+
+TEST(TextMatch, ABytePerEscapeMatchesItselfOnly) {
+  EXPECT_TRUE(textMatches("\xA7score", "\xA7score"));
+  EXPECT_FALSE(textMatches("\xA7score", "\xC2\xA7score"));
+}
+
+TEST(TextMatch, IsOfTheWholeText) {
+  EXPECT_TRUE(textMatches("", ""));
+  EXPECT_FALSE(textMatches("a", "ab"));
+  EXPECT_FALSE(textMatches("ab", "a"));
+}
+
+TEST(TextMatch, FindsAPart) {
+  EXPECT_TRUE(textContained("b§", "ab\xA7"
+                                  "c"));
+  EXPECT_TRUE(textContained("", "x"));
+  EXPECT_FALSE(textContained("bc", "ab c"));
+}
+
+TEST(TextMatch, TheMarkIsAByte) {
+  EXPECT_TRUE(holdsGlobalMark("x§"));
+  EXPECT_TRUE(holdsGlobalMark("\xA7"));
+  EXPECT_FALSE(holdsGlobalMark("x"));
+}
+
+}
+
+}
