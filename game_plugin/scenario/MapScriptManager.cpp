@@ -76,8 +76,7 @@ void MapScriptManager::LoadConfiguration(bool /*writeDocumentation*/) {
     for (const auto& mod : game->getModSystem().getMods())
       if (mod->isMounted() && mod->isEnabled()) ReadMod(*mod);
 
-  // A game program has its GUI from the start, its game only while a map is played; an editor has neither.
-  if (!hasGui())
+  if (!hasGame() || !hasGui()) // the editor
     mEditorJobProxy.registerAt(
         em5::Jobs::ANIMATION_VEHICLE, [this](const qsf::JobArguments& arguments) { EditorJob(arguments); },
         qsf::jobs::JobConfiguration(2));

@@ -9,7 +9,7 @@ namespace em5 {
 
 class OrderInfoManager;
 
-/// A game in progress. Made when a game starts on a map, destroyed when it has shut down; never there in the editor.
+/// What is played. A game program has one from its setup on, renewed when a map ends; the editor has none.
 class QSF_API Game : public qsf::UniqueInstanceTarget<Game> {
 public:
   Game();

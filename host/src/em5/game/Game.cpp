@@ -6,7 +6,7 @@
 
 namespace em5 {
 
-Game::Game() : mOrderInfoManager(std::make_unique<OrderInfoManager>()) { mOrderInfoManager->load(); }
+Game::Game() : mOrderInfoManager(std::make_unique<OrderInfoManager>()) {}
 
 Game::~Game() = default;
 

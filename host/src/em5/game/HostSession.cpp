@@ -7,6 +7,7 @@
 #include "em5/game/Game.h"
 #include "em5/gui/EmergencyGui.h"
 #include "em5/gui/HintHelper.h"
+#include "em5/order/OrderInfoManager.h"
 #include "em5/plugin/Plugin.h"
 #include "em5/settings/GameDebugGroup.h"
 #include "em5/settings/GameSettingsGroup.h"
@@ -56,6 +57,7 @@ struct HostSession::Internals {
 
   void start(const std::string& map);
   void end();
+  void renewGame();
   void dropGame();
   void switchMap(const std::string& map);
   void fulfilWishes();
@@ -89,7 +91,7 @@ void HostSession::Internals::start(const std::string& map) {
   BusyScope scope(busy);
   try {
     qsf.getJobManagers().setPaused(false);
-    if (isGame()) game = std::make_unique<Game>();
+    if (game) game->getOrderInfoManager().load();
     qsf.getMainMap().load(map);
     if (mapPreparation) mapPreparation(qsf.getMainMap());
     qsf.getMainMap().startup();
@@ -119,10 +121,17 @@ void HostSession::Internals::end() {
   dropGame();
 }
 
+/// A game program always has a game; between maps it is a fresh one that nobody plays.
+void HostSession::Internals::renewGame() {
+  if (!isGame()) return;
+  game.reset();
+  game = std::make_unique<Game>();
+}
+
 void HostSession::Internals::dropGame() {
   // The map goes first: its components may ask for the game until they are gone.
   qsf.getMainMap().clear();
-  game.reset();
+  renewGame();
 }
 
 void HostSession::Internals::switchMap(const std::string& map) {
@@ -201,6 +210,7 @@ void HostSession::startup() {
     if (mInternals->emergencyGui) return;
     mInternals->qsf.getLocalizationSystem().reload();
     mInternals->emergencyGui = std::make_unique<EmergencyGui>();
+    mInternals->renewGame();
   } else if (!mInternals->editor) {
     mInternals->qsf.getLocalizationSystem().reload();
     mInternals->editor = std::make_unique<qsf::editor::EditorApplication>();
