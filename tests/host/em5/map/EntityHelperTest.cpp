@@ -7,6 +7,7 @@
 #include "em5/component/HelicopterComponent.h"
 #include "em5/component/PersonComponent.h"
 #include "em5/component/VehicleComponent.h"
+#include "em5/map/MapHelper.h"
 #include "host/em5/SessionFixture.h"
 #include "qsf/component/LinkComponent.h"
 #include "qsf/component/TransformComponent.h"
@@ -48,6 +49,29 @@ TEST_F(EntityHelperTest, TellsTheKindsOfUnitsApart) {
   gangster.getEntity().getComponent<em5::PersonComponent>()->setGangsterFlag(true);
   check(gangster, "---G-");
   check(make<>(106), "-----");
+}
+
+TEST_F(EntityHelperTest, ThePrefabsAreWhatTheirNamesSay) {
+  struct Row {
+    const char* prefab;
+    const char* kinds; ///< squad vehicle, squad person, civilian, gangster, in a valid state, burnable
+  };
+  for (const Row& row : {Row{"fire_engine", "V---+-"}, Row{"ambulance", "V---+-"}, Row{"police_car", "V---+-"},
+                         Row{"tow_truck", "V---+-"}, Row{"helicopter", "V---+-"}, Row{"civil_car", "------"},
+                         Row{"firefighter", "-P--+-"}, Row{"paramedic", "-P--+-"}, Row{"police_officer", "-P--+-"},
+                         Row{"engineer", "-P--+-"}, Row{"civilian", "--C---"}, Row{"gangster", "---G--"},
+                         Row{"tree", "-----f"}, Row{"house", "-----f"}, Row{"barrel", "-----f"}, Row{"door", "------"},
+                         Row{"marker", "------"}, Row{"axe", "------"}, Row{"sensor", "------"}}) {
+    qsf::Entity* entity = em5::MapHelper(qsf::getMainMap())
+                              .createObjectByLocalPrefabAssetId(std::string("em5/prefab/test/") + row.prefab);
+    ASSERT_TRUE(entity) << row.prefab;
+    const em5::EntityHelper unit(*entity);
+    const std::string found = std::string(unit.isSquadVehicle() ? "V" : "-") + (unit.isSquadPerson() ? "P" : "-") +
+                              (unit.isCivilPerson() ? "C" : "-") + (unit.isGangsterPerson() ? "G" : "-") +
+                              (unit.isSquadUnitInValidState() ? "+" : "-") + (unit.isBurnable() ? "f" : "-");
+    EXPECT_EQ(found, row.kinds) << row.prefab;
+  }
+  EXPECT_EQ(em5::MapHelper(qsf::getMainMap()).createObjectByLocalPrefabAssetId("em5/prefab/test/nothing"), nullptr);
 }
 
 TEST_F(EntityHelperTest, APersonIsInAValidStateWhileItIsWellAndOutside) {
