@@ -17,9 +17,9 @@ public:
   GuiContext(const GuiContext&) = delete;
   GuiContext& operator=(const GuiContext&) = delete;
 
-  /// Cursor in 0 to 1, from the upper left corner of the window. The middle of the window until it is moved.
-  const glm::vec2& getNormalizedMouseCursorPosition() const { return mCursor; }
-  /// Clamped to the window; a coordinate that isn't a number leaves the cursor where it is.
+  /// Where the mouse device points: 0 to 1 over the window, from its upper left corner; the middle without a host.
+  glm::vec2 getNormalizedMouseCursorPosition() const;
+  /// Moves the mouse device there, clamped to the window; a coordinate that isn't a number stays as it was.
   void setNormalizedMouseCursorPosition(const glm::vec2& position);
 
   /// Living documents in the order of their making.
@@ -30,7 +30,6 @@ public:
 private:
   friend class GuiDocument;
   std::vector<GuiDocument*> mDocuments;
-  glm::vec2 mCursor{0.5f, 0.5f};
 };
 
 }

@@ -1,15 +1,39 @@
 #include "qsf/gui/GuiContext.h"
 
+#include "qsf/Qsf.h"
 #include "qsf/gui/GuiDocument.h"
+#include "qsf/input/InputSystem.h"
+#include "qsf/window/WindowApplication.h"
 
 #include <algorithm>
 #include <cmath>
 
 namespace qsf {
 
+namespace {
+
+glm::vec2 getWindowSize() {
+  const UniqueInstance<WindowApplication> application;
+  if (!application) return {1.0f, 1.0f};
+  const RenderWindow& window = application->getRenderWindow();
+  return {static_cast<float>(window.getWidth()), static_cast<float>(window.getHeight())};
+}
+
+}
+
+glm::vec2 GuiContext::getNormalizedMouseCursorPosition() const {
+  const Qsf* host = Qsf::instance();
+  if (!host) return {0.5f, 0.5f};
+  return glm::clamp(host->getInputSystem().getMouse().getPosition() / getWindowSize(), 0.0f, 1.0f);
+}
+
 void GuiContext::setNormalizedMouseCursorPosition(const glm::vec2& position) {
+  Qsf* host = Qsf::instance();
+  if (!host) return;
+  glm::vec2 cursor = getNormalizedMouseCursorPosition();
   for (int axis = 0; axis < 2; ++axis)
-    if (!std::isnan(position[axis])) mCursor[axis] = std::clamp(position[axis], 0.0f, 1.0f);
+    if (!std::isnan(position[axis])) cursor[axis] = std::clamp(position[axis], 0.0f, 1.0f);
+  host->getInputSystem().getMouse().setPosition(cursor * getWindowSize());
 }
 
 GuiDocument* GuiContext::findDocument(const std::string& name) const {

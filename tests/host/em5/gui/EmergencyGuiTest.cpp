@@ -3,6 +3,7 @@
 #include "em5/gui/HintHelper.h"
 #include "host/em5/SessionFixture.h"
 #include "qsf/base/CallRecorder.h"
+#include "qsf/input/InputSystem.h"
 
 #include <cmath>
 
@@ -47,13 +48,16 @@ TEST_F(EmergencyGuiTest, TheDebuggingWindowIsHiddenAtFirst) {
   EXPECT_EQ(gui.getGuiContext().findDocument("DebugGuiWindow"), window);
 }
 
-TEST(GuiContext, KeepsTheCursorInTheWindow) {
-  qsf::GuiContext context;
-  EXPECT_EQ(context.getNormalizedMouseCursorPosition(), glm::vec2(0.5f, 0.5f));
-  context.setNormalizedMouseCursorPosition({-1, 0.25f});
-  EXPECT_EQ(context.getNormalizedMouseCursorPosition(), glm::vec2(0, 0.25f));
-  context.setNormalizedMouseCursorPosition({0.75f, std::nanf("")});
-  EXPECT_EQ(context.getNormalizedMouseCursorPosition(), glm::vec2(0.75f, 0.25f));
+TEST_F(EmergencyGuiTest, TheCursorIsWhereTheMouseDevicePoints) {
+  open().startup();
+  qsf::GuiContext& context = qsf::UniqueInstance<em5::EmergencyGui>()->getGuiContext();
+  qsf::MouseDevice& mouse = session->getQsf().getInputSystem().getMouse();
+  mouse.setPosition({320, 540});
+  EXPECT_EQ(context.getNormalizedMouseCursorPosition(), glm::vec2(0.25f, 0.75f));
+  context.setNormalizedMouseCursorPosition({0.5f, 0.5f});
+  EXPECT_EQ(mouse.getPosition(), glm::vec2(640, 360));
+  context.setNormalizedMouseCursorPosition({-1, std::nanf("")});
+  EXPECT_EQ(context.getNormalizedMouseCursorPosition(), glm::vec2(0, 0.5f));
 }
 
 TEST(GuiContext, ForgetsDocumentsThatAreGone) {
