@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <iterator>
 #include <limits>
 #include <string_view>
 
@@ -29,7 +30,11 @@ std::string plainName(const benchmark::BenchmarkReporter::Run& run) {
 Results::Results() : ConsoleReporter(OO_Tabular) {}
 
 void Results::ReportRuns(const std::vector<Run>& runs) {
-  ConsoleReporter::ReportRuns(runs);
+  std::vector<Run> medians;
+  std::copy_if(runs.begin(), runs.end(), std::back_inserter(medians), [](const Run& run) {
+    return run.error_occurred || (run.run_type == Run::RT_Aggregate && run.aggregate_name == "median");
+  });
+  if (!medians.empty()) ConsoleReporter::ReportRuns(medians);
   for (const Run& run : runs) {
     if (run.error_occurred) {
       mFailed = true;
@@ -37,7 +42,7 @@ void Results::ReportRuns(const std::vector<Run>& runs) {
     }
     if (run.run_type == Run::RT_Aggregate) continue;
     const std::string name = plainName(run);
-    mTimes[name].push_back(run.real_accumulated_time / static_cast<double>(run.iterations) * 1e9);
+    mTimes[name].push_back(run.cpu_accumulated_time / static_cast<double>(run.iterations) * 1e9);
     for (const auto& [counterName, counter] : run.counters)
       mCounters[name][counterName] = counter;
   }
@@ -72,7 +77,11 @@ std::string Table::text(Style style) const {
       result += column == 0 ? fmt::format("{}{:<{}} ", separator, mRows[i][column], widths[column])
                             : fmt::format("{}{:>{}} ", separator, mRows[i][column], widths[column]);
     }
-    result += style == Style::Markdown ? "|\n" : "\n";
+    if (style == Style::Markdown)
+      result += "|";
+    else
+      result.pop_back();
+    result += "\n";
     if (i == 0 && style == Style::Markdown) {
       for (std::size_t column = 0; column < widths.size(); ++column)
         result += column == 0 ? "|---" : "|--:";

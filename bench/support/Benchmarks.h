@@ -13,7 +13,7 @@ public:
   Results();
   void ReportRuns(const std::vector<Run>& runs) override;
 
-  /// Nanoseconds for one iteration; NaN if the benchmark didn't run or failed.
+  /// Nanoseconds of processor time for one iteration; NaN if the benchmark didn't run or failed.
   double nanoseconds(const std::string& name) const;
   /// A counter that the benchmark set, from its last run; NaN if it didn't.
   double counter(const std::string& name, const std::string& counterName) const;
