@@ -15,7 +15,25 @@ namespace script {
   ENTRY(WriteStringvarToEntityList)                                                                                    \
   ENTRY(EnableFreeplayEvents)                                                                                          \
   ENTRY(StartEvent)                                                                                                    \
-  ENTRY(AddFreeplayEventPool)
+  ENTRY(AddFreeplayEventPool)                                                                                          \
+  ENTRY(PickUnitsFromEntityList)                                                                                       \
+  ENTRY(PickClosestUnitsFromEntityList)                                                                                \
+  ENTRY(AddUnitsFromTypeToEntityList)                                                                                  \
+  ENTRY(ClearEntityIdList)                                                                                             \
+  ENTRY(AddSelectionToEntityIdList)                                                                                    \
+  ENTRY(RemoveInvalidEntitiesFromList)                                                                                 \
+  ENTRY(GetNextEntryFromEntityList)                                                                                    \
+  ENTRY(GetEntityChildWithDescription)                                                                                 \
+  ENTRY(GetEquipmentEntitesFromEntityList)                                                                             \
+  ENTRY(SetTransform)                                                                                                  \
+  ENTRY(RotateObject)                                                                                                  \
+  ENTRY(SetEntityPositionToPositionUnderMouse)                                                                         \
+  ENTRY(SpawnObject)                                                                                                   \
+  ENTRY(DestroyComponent)                                                                                              \
+  ENTRY(CreateComponent)                                                                                               \
+  ENTRY(LinkEntityToParent)                                                                                            \
+  ENTRY(UnlinkFromParent)                                                                                              \
+  ENTRY(SetName)
 EFFECT_GROUP_CHAIN(ScenarioEffects_Brill, MANIFEST)
 
 }

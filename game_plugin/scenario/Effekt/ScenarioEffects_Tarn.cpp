@@ -9,7 +9,21 @@ namespace script {
   ENTRY(SetLocalVariableGlobal)                                                                                        \
   ENTRY(SetLocalEntityListGlobal)                                                                                      \
   ENTRY(SetStringVariableToValue)                                                                                      \
-  ENTRY(DoLogEntry)
+  ENTRY(DoLogEntry)                                                                                                    \
+  ENTRY(AddEntityToEntityList)                                                                                         \
+  ENTRY(GetSizeOfEntityList)                                                                                           \
+  ENTRY(GetEntitiesOutOfEntityList)                                                                                    \
+  ENTRY(GetAllEntitiesWithComponent)                                                                                   \
+  ENTRY(RemoveAllEntitiesWithComponent)                                                                                \
+  ENTRY(RemoveAllEntitiesWithoutComponent)                                                                             \
+  ENTRY(GetAllEntitiesWithName)                                                                                        \
+  ENTRY(RemoveAllEntitiesWithName)                                                                                     \
+  ENTRY(SetLocalTransform)                                                                                             \
+  ENTRY(GetTransform)                                                                                                  \
+  ENTRY(DestroyObject)                                                                                                 \
+  ENTRY(ActivateComponent)                                                                                             \
+  ENTRY(SetVariableFromComponent)                                                                                      \
+  ENTRY(FadeInOut)
 EFFECT_GROUP_CHAIN(ScenarioEffects_Tarn, MANIFEST)
 
 }

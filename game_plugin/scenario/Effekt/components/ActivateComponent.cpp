@@ -1,0 +1,37 @@
+#include "game_plugin/scenario/Log.h"
+#include "game_plugin/scenario/ParameterReaders.h"
+#include "game_plugin/scenario/shared/ListOut.h"
+#include "game_plugin/scenario/shared/Reflection.h"
+
+namespace script {
+
+struct ActivateComponentEffect : DefaultEffect {
+  Argument component;
+  Argument entityList;
+  bool activate = true;
+};
+
+static void read(ActivateComponentEffect& effect, const Tokens& tokens) {
+  effect.component = readStringParameter(tokens, 1, "no_component", "Component", "Class name of the component");
+  effect.entityList = readStringParameter(tokens, 2, "empty_list", "EntityList", "Entities that have it");
+  effect.activate = readBoolParameter(tokens, 3, true, "ActivateComponent", "true activates it, false deactivates it");
+}
+
+static void run(const ActivateComponentEffect& effect, ScenarioHandler& handler) {
+  for (const std::uint64_t id : handler.ResolveEntityList(effect.entityList)) {
+    const qsf::Entity* entity = findEntity(id);
+    if (!entity) {
+      logError("ActivateComponent::Entity " + std::to_string(id) + " was not found");
+      continue;
+    }
+    if (qsf::Component* component = findComponent(*entity, handler.ResolveString(effect.component)))
+      component->setActive(effect.activate);
+    else
+      logError("ActivateComponent::Component " + effect.component.text() + " was not found for entity " +
+               std::to_string(id));
+  }
+}
+
+EFFECT(ActivateComponent, "Components", "Activates or deactivates a component of entities")
+
+}

@@ -1,0 +1,43 @@
+#include "game_plugin/scenario/ParameterReaders.h"
+#include "game_plugin/scenario/shared/ComponentWalk.h"
+
+#include <camp/class.hpp>
+
+namespace script {
+
+struct LogAllComponentPropertiesEffect : DefaultEffect {
+  Argument entityList;
+  Argument component;
+};
+
+static void read(LogAllComponentPropertiesEffect& effect, const Tokens& tokens) {
+  effect.entityList = readStringParameter(tokens, 1, "no_list", "Component", "Units which has the Component");
+  effect.component = readStringParameter(tokens, 2, "qsf::MetaDataComponent", "Component", "The name of the Component");
+}
+
+static void logProperties(const camp::UserObject& object, const std::string& className) {
+  const camp::Class& metaclass = object.getClass();
+  logInfo("LogAllComponentProperties: " + className + " has " + std::to_string(metaclass.propertyCount()) +
+          " properties.");
+  for (std::size_t i = 0; i < metaclass.propertyCount(); ++i) {
+    const camp::Property& property = metaclass.property(i);
+    logInfo("Property with the id " + std::to_string(i) + " is called " + property.name());
+    // An empty array, for one, has no value to show; its line is left out.
+    tryReflected([&] { logInfo("Value is: " + property.get(object).to<std::string>()); });
+  }
+}
+
+static void run(const LogAllComponentPropertiesEffect& effect, ScenarioHandler& handler) {
+  const std::string& className = effect.component.text();
+  forEachComponent(handler, effect.entityList, className, reportMissing("LogComponentValue", className),
+                   [&](const qsf::Entity&, qsf::Component& component) {
+                     tryReflected([&] { logProperties(reflect(component), className); });
+                   });
+}
+
+EFFECT(LogAllComponentProperties, "Components",
+       "Prints all Property-Names from your Component to the log (which are connected to the "
+       "CampReflectionSystem).<br> It also shows the current values BUT only the first entry in case the property is "
+       "an Array")
+
+}

@@ -1,0 +1,36 @@
+#include "game_plugin/scenario/ParameterReaders.h"
+#include "game_plugin/scenario/shared/ArrayAccess.h"
+#include "game_plugin/scenario/shared/ComponentWalk.h"
+
+namespace script {
+
+struct WriteArrayEntriesIntoTheLogEffect : DefaultEffect {
+  Argument entityList;
+  Argument component;
+  Argument property;
+};
+
+static void read(WriteArrayEntriesIntoTheLogEffect& effect, const Tokens& tokens) {
+  effect.entityList =
+      readStringParameter(tokens, 1, "no_list", "EntityList", "Entity or entityList, which should be affected");
+  effect.component =
+      readStringParameter(tokens, 2, "no_component", "ComponentName", "Which component should be affected");
+  effect.property =
+      readStringParameter(tokens, 3, "no_var", "Property", "Which Property of the component should be affected");
+}
+
+static void run(const WriteArrayEntriesIntoTheLogEffect& effect, ScenarioHandler& handler) {
+  forEachComponent(handler, effect.entityList, effect.component.text(), passOver,
+                   [&](const qsf::Entity&, qsf::Component& component) {
+                     tryReflected([&] {
+                       const camp::UserObject object = reflect(component);
+                       const camp::ArrayProperty& array = requireArrayProperty(object, effect.property.text());
+                       for (std::size_t i = 0; i < array.size(object); ++i)
+                         logInfo(std::to_string(i) + ": " + array.get(object, i).to<std::string>());
+                     });
+                   });
+}
+
+EFFECT(WriteArrayEntriesIntoTheLog, "Components", "Writes all entries from your array property into the Log")
+
+}

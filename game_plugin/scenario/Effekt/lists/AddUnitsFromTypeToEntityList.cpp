@@ -1,0 +1,45 @@
+#include "game_plugin/scenario/ParameterReaders.h"
+#include "game_plugin/scenario/ScenarioHandler.h"
+#include "game_plugin/scenario/Truncation.h"
+
+#include <algorithm>
+
+namespace script {
+
+struct AddUnitsFromTypeToEntityListEffect : DefaultEffect {
+  Argument entityListOut;
+  Argument unitType;
+  bool deleteOldEntities = false;
+  Argument maximumNumber;
+  std::uint64_t centerUnit = ~std::uint64_t{0};
+  Argument radius;
+};
+
+static void read(AddUnitsFromTypeToEntityListEffect& effect, const Tokens& tokens) {
+  effect.entityListOut = readStringParameter(tokens, 1, "no_list", "EntityList[out]", "List that gets the units");
+  // Kept: the default is no unit type, as it lacks the final "s".
+  effect.unitType = readStringParameter(tokens, 2, "PlayerVehicle", "UnitType",
+                                        "PlayerVehicles, PlayerPersons, Civilian, Tree, Building, ObjectBurning, "
+                                        "ObjectBurnable, Gangster or InjuredPersons");
+  effect.deleteOldEntities =
+      readBoolParameter(tokens, 3, false, "Delete old entities", "Empties the list before units are added");
+  effect.maximumNumber =
+      readStringParameter(tokens, 4, "1", "MaxNumber", "How many units shall be added, chosen at random");
+  effect.centerUnit = readUInt64Parameter(tokens, 5, ~std::uint64_t{0}, "CenterUnit",
+                                          "Id of the entity round which units are looked for; without such an entity "
+                                          "the whole map counts");
+  effect.radius = readStringParameter(tokens, 6, "200", "Radius", "How far from it units may be");
+}
+
+static void run(const AddUnitsFromTypeToEntityListEffect& effect, ScenarioHandler& handler) {
+  if (effect.deleteOldEntities) handler.ClearEntityList(effect.entityListOut);
+  const float radius = handler.ResolveFloat(effect.radius);
+  const int number = truncateToInt(handler.ResolveFloat(effect.maximumNumber));
+  const std::string unitType = handler.ResolveString(effect.unitType);
+  handler.AddToEntityListByTypeInArea(effect.entityListOut, unitType, static_cast<std::uint32_t>(std::max(number, 0)),
+                                      effect.centerUnit, radius);
+}
+
+EFFECT(AddUnitsFromTypeToEntityList, "EntityLists", "Adds random units of a type, of an area or of the whole map")
+
+}

@@ -1,0 +1,43 @@
+#include "game_plugin/scenario/ParameterReaders.h"
+#include "game_plugin/scenario/shared/ClosestSearch.h"
+
+namespace script {
+
+struct PickClosestUnitsFromEntityListEffect : DefaultEffect {
+  Argument entityList;
+  Argument newEntityList;
+  bool clearNewList = true;
+  Argument maximumNumber;
+  Argument centerUnit;
+  bool addCenterToNewList = false; ///< for records made by tools; no parameter of a script sets it
+};
+
+static void read(PickClosestUnitsFromEntityListEffect& effect, const Tokens& tokens) {
+  effect.entityList = readStringParameter(tokens, 1, "no_list", "EntityList", "List from which units are picked");
+  effect.newEntityList =
+      readStringParameter(tokens, 2, "no_list", "NewEntityList", "List that gets the picked units; may be the same");
+  effect.clearNewList =
+      readBoolParameter(tokens, 3, true, "ClearNewList", "Empties the new list before units are added");
+  effect.maximumNumber = readStringParameter(tokens, 4, "1", "MaxNumber", "How many units shall be picked");
+  effect.centerUnit =
+      readStringParameter(tokens, 5, "empty_list", "Center Unit", "Unit to which the picked ones are closest");
+}
+
+static void run(const PickClosestUnitsFromEntityListEffect& effect, ScenarioHandler& handler) {
+  const EntityIds centers = handler.ResolveEntityList(effect.centerUnit);
+  const qsf::Entity* center = centers.empty() ? nullptr : findEntity(centers.front());
+  if (!center) return;
+  std::vector<std::uint64_t> candidates = existingIds(handler, effect.entityList);
+  std::erase(candidates, center->getId());
+  if (effect.clearNewList) handler.ClearEntityList(effect.newEntityList);
+  if (effect.addCenterToNewList) handler.AddToEntityList(effect.newEntityList, center->getId());
+  std::vector<std::uint64_t> picked;
+  pickClosest(handler, candidates, *center, effect.maximumNumber, picked);
+  for (const std::uint64_t id : picked)
+    handler.AddToEntityList(effect.newEntityList, id);
+}
+
+EFFECT(PickClosestUnitsFromEntityList, "EntityLists",
+       "Picks the units of a list that are closest to a unit, the closest first. The unit itself is not picked")
+
+}

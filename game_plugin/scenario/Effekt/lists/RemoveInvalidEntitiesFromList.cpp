@@ -1,0 +1,37 @@
+#include "game_plugin/scenario/ParameterReaders.h"
+#include "game_plugin/scenario/ScenarioHandler.h"
+#include "game_plugin/scenario/shared/EntityAccess.h"
+
+#include "em5/component/PersonComponent.h"
+#include "em5/map/EntityHelper.h"
+
+namespace script {
+
+struct RemoveInvalidEntitiesFromListEffect : DefaultEffect {
+  Argument entityList;
+};
+
+static void read(RemoveInvalidEntitiesFromListEffect& effect, const Tokens& tokens) {
+  effect.entityList = readStringParameter(tokens, 1, "no_list", "EntityList", "Name of the list");
+}
+
+static bool isInvalid(qsf::Entity* entity) {
+  if (!entity) return true;
+  const em5::EntityHelper helper(*entity);
+  if (helper.isBurning()) return true;
+  if (entity->getComponent<em5::PersonComponent>()) {
+    if (helper.isCivilPerson() && !helper.isCivilPersonInValidState()) return true;
+    if (helper.isSquadPerson() && !helper.isSquadUnitInValidState()) return true;
+  }
+  return !helper.isInMapBoundaries();
+}
+
+static void run(const RemoveInvalidEntitiesFromListEffect& effect, ScenarioHandler& handler) {
+  for (const std::uint64_t id : handler.ResolveEntityList(effect.entityList))
+    if (isInvalid(findEntity(id))) handler.RemoveFromEntityList(effect.entityList, id);
+}
+
+EFFECT(RemoveInvalidEntitiesFromList, "EntityLists",
+       "Removes entities that don't exist, burn, are outside of the map, or are persons who can't act")
+
+}
