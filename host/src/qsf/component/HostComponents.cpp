@@ -10,6 +10,7 @@
 #include "qsf/component/MetadataComponent.h"
 #include "qsf/component/MovableComponent.h"
 #include "qsf/component/TransformComponent.h"
+#include "qsf/game/BoneToBoneLinkComponent.h"
 #include "qsf/game/EquipmentComponent.h"
 #include "qsf/game/TimeOfDayComponent.h"
 #include "qsf/physics/BulletCollisionComponent.h"
@@ -38,7 +39,7 @@ void declareHostClasses() {
   declareAll<TransformComponent, MetadataComponent, LinkComponent, MovableComponent, ActionComponent, MeshComponent,
              MeshAnimationComponent, BulletCollisionComponent, PhysicsWorldComponent, CameraComponent,
              game::TimeOfDayComponent, game::EquipmentComponent, TerrainComponent, StreetCrossingComponent,
-             StreetSectionComponent, LightComponent, ParticlesComponent>();
+             StreetSectionComponent, LightComponent, ParticlesComponent, game::BoneToBoneLinkComponent>();
   declareAll<WaitAction, IdleAction>();
 }
 

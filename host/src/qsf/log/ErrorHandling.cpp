@@ -3,12 +3,10 @@
 
 namespace qsf {
 
-void ErrorHandling::printToLog(const std::string& text, int level) {
-  logMessage(LogSystem::ERROR, text + " (error level " + std::to_string(level) + ")");
-}
+void ErrorHandling::printToLog(const std::string& text, int /*level*/) { logMessage(LogSystem::ERROR, text); }
 
 bool ErrorHandling::handleBreakOnAssert(const char* file, int line, const char* function) {
-  logMessage(LogSystem::ERROR, std::string("Assertion failed in ") + (function ? function : "an unknown function") +
+  logMessage(LogSystem::DEBUG, std::string("Assertion failed in ") + (function ? function : "an unknown function") +
                                    " at " + (file ? file : "an unknown file") + ":" + std::to_string(line));
   return false;
 }
