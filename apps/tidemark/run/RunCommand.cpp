@@ -42,7 +42,7 @@ void addChoice(CLI::App& command, const std::string& name, const Names<Value>& n
             return names.contains(choice) ? std::string() : fmt::format("'{}' is none of {}", choice, choices);
           },
           choices))
-      ->type_name("");
+      ->type_name("NAME");
 }
 
 void addOptions(CLI::App& command, RunOptions& options) {

@@ -29,7 +29,7 @@ public:
   struct Line {
     int severity;
     std::string message;
-    std::uint64_t frame; ///< frames that had run when it came
+    std::uint64_t frame; ///< the frame in which it came, or which ran last; 0 before the first
   };
 
   void add(int severity, std::string_view message, std::uint64_t frame);

@@ -34,8 +34,15 @@ std::string colour(std::string_view code, const std::string& text) {
 void printResult(const TestResult& result) {
   if (result.passed()) return;
   fmt::print("{} {}\n", colour("31", "FAIL"), result.file);
-  for (const Failure& failure : result.failures)
+  std::vector<std::string> shown;
+  for (Failure failure : result.failures) {
+    // Failures of one moment have the same lines around them.
+    if (failure.log == shown && !shown.empty())
+      failure.log = {"(as above)"};
+    else
+      shown = failure.log;
     fmt::print("  {}", describeFailure(result.file, failure));
+  }
   std::fflush(stdout);
 }
 

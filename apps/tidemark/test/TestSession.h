@@ -85,7 +85,8 @@ private:
   std::unique_ptr<em5::HostSession> mHost;
   script::tooling::Tooling* mTooling = nullptr;
   std::size_t mNextStep = 0;
-  std::uint64_t mFrame = 0;
+  std::uint64_t mFrame = 0; ///< the one that runs, or ran last; 0 before the first
+  bool mCompleted = false;
   std::vector<Failure> mFailures;
 };
 

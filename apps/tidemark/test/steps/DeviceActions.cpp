@@ -1,13 +1,18 @@
 // Actions of the player: keys, mouse, orders.
 #include "apps/tidemark/test/TestSession.h"
+#include "apps/tidemark/test/steps/Reflection.h"
 #include "apps/tidemark/test/steps/Steps.h"
 
 #include "em5/game/HostSession.h"
+#include "em5/gui/EmergencyGui.h"
 #include "qsf/Qsf.h"
 #include "qsf/action/ActionComponent.h"
 #include "qsf/action/WaitAction.h"
+#include "qsf/component/CameraComponent.h"
 #include "qsf/input/InputSystem.h"
 #include "qsf/map/Entity.h"
+#include "qsf/reflection/PropertyText.h"
+#include "qsf/window/WindowApplication.h"
 
 #include <fmt/format.h>
 
@@ -40,6 +45,36 @@ Action mouseButtonAction(WordCursor& words, ButtonState state) {
   };
 }
 
+// Turns the camera to the place and puts the cursor on it, for the GUI and for the device.
+void pointAt(TestSession& session, const glm::vec3& place) {
+  const qsf::UniqueInstance<qsf::WindowApplication> application;
+  qsf::RenderWindow& window = application->getRenderWindow();
+  qsf::CameraComponent* camera = window.getCameraComponent();
+  if (!camera) throw NotThere("the map has no camera");
+  camera->lookAt(place);
+  glm::vec2 cursor;
+  if (!camera->project(place, window.getAspectRatio(), cursor)) throw NotThere("the camera can't see the place");
+  const glm::ivec2 pixel = window.getPixel(cursor);
+  session.host().getQsf().getInputSystem().getMouse().setPosition(glm::vec2(pixel));
+  if (const qsf::UniqueInstance<em5::EmergencyGui> gui; gui)
+    gui->getGuiContext().setNormalizedMouseCursorPosition(window.getNormalizedPosition(pixel));
+}
+
+Action pointAtEntity(WordCursor& words) {
+  const EntityReference reference = takeEntityReference(words);
+  return [reference](TestSession& session) {
+    const qsf::Entity& entity = session.findEntity(session.resolve(reference));
+    pointAt(session, qsf::vectorFromText(readProperty(entity, {"qsf::TransformComponent", "Position"})));
+  };
+}
+
+Action pointAtPlace(WordCursor& words) {
+  const double x = words.takeNumber("the x value");
+  const double y = words.takeNumber("the y value");
+  const double z = words.takeNumber("the z value");
+  return [place = glm::vec3(x, y, z)](TestSession& session) { pointAt(session, place); };
+}
+
 Action mouseAction(WordCursor& words) {
   if (words.takeIf("press")) return mouseButtonAction(words, ButtonState::PRESSED);
   if (words.takeIf("release")) return mouseButtonAction(words, ButtonState::RELEASED);
@@ -47,8 +82,8 @@ Action mouseAction(WordCursor& words) {
     const auto steps = static_cast<float>(words.takeNumber("the wheel's steps"));
     return [steps](TestSession& session) { session.host().getQsf().getInputSystem().getMouse().moveWheel(steps); };
   }
-  if (words.peekKeyword("over") || words.peekKeyword("at"))
-    throw DirectiveError("mouse over and mouse at are not available yet");
+  if (words.takeIf("over")) return pointAtEntity(words);
+  if (words.takeIf("at")) return pointAtPlace(words);
   throw DirectiveError("behind 'mouse' stands press, release, wheel, over or at");
 }
 
