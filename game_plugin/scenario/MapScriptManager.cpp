@@ -54,10 +54,7 @@ MapScriptManager::~MapScriptManager() {
   DoShutdown();
   for (ScenarioHandler* handler : mLeftRunning)
     ScenarioHandler::Retire(handler);
-  for (MapScriptEntry* entry : mScriptEntries)
-    ScenarioHandler::Retire(std::exchange(entry->handler, nullptr));
-  while (!mScriptEntries.empty())
-    RemoveEntry(mScriptEntries.size() - 1);
+  ForgetScripts();
   if (theManager == this) theManager = nullptr;
 }
 
@@ -71,7 +68,7 @@ MapScriptManager& MapScriptManager::Replace(bool writeDocumentation) {
 void MapScriptManager::LoadConfiguration(bool /*writeDocumentation*/) {
   logInfo("***** MapscriptManager started succesfully *****");
   logInfo("");
-  mScriptEntries.clear();
+  ForgetScripts();
   if (em5::Plugin* game = em5::Plugin::getInstance())
     for (const auto& mod : game->getModSystem().getMods())
       if (mod->isMounted() && mod->isEnabled()) ReadMod(*mod);
@@ -177,6 +174,13 @@ void MapScriptManager::DoShutdown() {
     if (mScriptEntries[i]->mode == ScriptMode::Temporary) RemoveEntry(i);
   }
   logInfo("DoShutdown Finished");
+}
+
+void MapScriptManager::ForgetScripts() {
+  while (!mScriptEntries.empty()) {
+    ScenarioHandler::Retire(mScriptEntries.back()->handler);
+    RemoveEntry(mScriptEntries.size() - 1);
+  }
 }
 
 void MapScriptManager::RemoveEntry(std::size_t index) {

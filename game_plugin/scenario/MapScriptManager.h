@@ -93,6 +93,8 @@ private:
   void StartScript(MapScriptEntry& entry);
   /// Takes the entry off the list; what it was running has been stopped.
   void RemoveEntry(std::size_t index);
+  /// Stops and removes all entries.
+  void ForgetScripts();
   void EditorJob(const qsf::JobArguments& arguments);
   void OnGameStartupFinished();
 

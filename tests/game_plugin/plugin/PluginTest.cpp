@@ -1,0 +1,71 @@
+#include "game_plugin/plugin/Plugin.h"
+
+#include "em5/game/Game.h"
+#include "game_plugin/ModuleFixture.h"
+#include "qsf/log/FaultCounter.h"
+
+#include <stdexcept>
+
+extern "C" qsf::Plugin* CreatePluginInstance_tidemark_new();
+
+using namespace script;
+
+namespace {
+
+using PluginTest = ModuleTest;
+
+TEST_F(PluginTest, TellsWhoItIs) {
+  const std::unique_ptr<qsf::Plugin> plugin(CreatePluginInstance_tidemark_new());
+  ASSERT_NE(plugin, nullptr);
+  EXPECT_EQ(Plugin::Get(), plugin.get());
+  EXPECT_STREQ(plugin->getName(), "map change Plugin");
+  EXPECT_STREQ(plugin->getVendor(), "BrillTarn");
+  EXPECT_STREQ(plugin->getDescription(),
+               "plugin offers all needed classes and methodes, which are necessary for a Tidemark");
+}
+
+TEST_F(PluginTest, TheManagerLivesFromStartupToShutdown) {
+  EXPECT_EQ(MapScriptManager::Get(), nullptr);
+  load();
+  EXPECT_NE(MapScriptManager::Get(), nullptr);
+  session.reset();
+  EXPECT_EQ(MapScriptManager::Get(), nullptr);
+  EXPECT_EQ(count(2, "Start Shutdown of Tidemark Plugin"), 1);
+  EXPECT_EQ(count(2, "Tidemark Plugin was shutdown succesfully"), 1);
+}
+
+TEST_F(PluginTest, AnInstallationThatFailsTellsWhyAndStartsNothing) {
+  open();
+  auto plugin = std::make_unique<Plugin>(
+      +[]() -> std::vector<const camp::Class*> { throw std::runtime_error("a class is there twice"); });
+  EXPECT_EQ(session->getQsf().getPluginSystem().addPlugin(std::move(plugin)), nullptr);
+  EXPECT_TRUE(logged(4, "Failed to install the plugin 'map change Plugin'. Exception caught: a class is there twice"));
+  EXPECT_EQ(MapScriptManager::Get(), nullptr);
+}
+
+TEST_F(PluginTest, StartsAnewInTheNextSession) {
+  load();
+  session.reset();
+  EXPECT_EQ(Plugin::Get(), nullptr);
+  load();
+  EXPECT_NE(Plugin::Get(), nullptr);
+  EXPECT_NE(MapScriptManager::Get(), nullptr);
+}
+
+TEST_F(PluginTest, TheEditorsReloadReadsTheListAnew) {
+  load(em5::HostSession::Kind::EDITOR);
+  EXPECT_TRUE(manager().GetScriptEntries().empty());
+  addScript("a", "EDITOR_STARTUP", "");
+  write("mod", "x64/tidemark/MapScript.json",
+        "{\"MapScripts\": {\"a\": {\"Path\": \"a.script\", \"Mode\": \"EDITOR_STARTUP\", \"Maps\": [\"All\"]}}}");
+  emit("script::ForceHotReload_EditorOnly");
+  EXPECT_EQ(manager().GetScriptEntries().size(), 1u);
+}
+
+TEST_F(PluginTest, TheEditorsReloadDoesNothingInAGame) {
+  start();
+  emit("script::ForceHotReload_EditorOnly");
+  EXPECT_EQ(count(2, "***** MapscriptManager started succesfully *****"), 1);
+}
+
+}

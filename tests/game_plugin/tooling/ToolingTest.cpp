@@ -1,0 +1,134 @@
+#include "game_plugin/tooling/Tooling.h"
+
+#include "game_plugin/ModuleFixture.h"
+
+#include "game_plugin/scenario/JsonStore.h"
+
+extern "C" script::tooling::Tooling* GetTidemarkTooling();
+
+using namespace script;
+using namespace script::tooling;
+
+namespace {
+
+class ToolingTest : public ModuleTest {
+protected:
+  Tooling& tooling = *GetTidemarkTooling();
+  const std::string text =
+      "InitNewTrigger(\"first\",true,true);\nInitConditions(1);\n!CompareValues(\"v\",\"==\",\"1\");\n"
+      "InitEffects();\nVariableModify(\"n\",\"+\",\"1\",\"n\");\nIf();\nThen();\nThenEnd();\n"
+      "InitNewTrigger(\"second\",false,false);\n";
+};
+
+TEST_F(ToolingTest, ShowsNothingWithoutAManager) {
+  EXPECT_TRUE(tooling.getScripts().empty());
+  EXPECT_TRUE(tooling.getTriggers(0).empty());
+  EXPECT_TRUE(tooling.getNames(std::nullopt, StoreKind::Variables).empty());
+  EXPECT_EQ(tooling.getVariable(0, "a"), std::nullopt);
+  EXPECT_FALSE(tooling.setVariable(0, "a", 1));
+}
+
+TEST_F(ToolingTest, ShowsScriptsAndTriggers) {
+  addScript("main", "MAP_STARTUP", text);
+  start();
+  run(0.1);
+  ASSERT_EQ(tooling.getScripts().size(), 1u);
+  const ScriptView script = tooling.getScripts()[0];
+  EXPECT_EQ(script.key + "|" + script.project + "|" + script.path + "|" + script.mode,
+            "main|mod|" + scriptPath("main") + "|MAP_STARTUP");
+  EXPECT_TRUE(script.running);
+  EXPECT_EQ(script.time, qsf::Time::fromSeconds(0.1));
+  const std::vector<TriggerView> triggers = tooling.getTriggers(0);
+  ASSERT_EQ(triggers.size(), 2u);
+  EXPECT_EQ(triggers[0].globalName, "mod/main.script/first");
+  EXPECT_EQ(triggers[0].timesFired, 2u);
+  EXPECT_EQ(triggers[0].fulfilledConditions, 1u);
+  EXPECT_EQ(triggers[0].requiredConditions, 1);
+  EXPECT_EQ(triggers[0].numberOfBlocks, 1u);
+  ASSERT_EQ(triggers[0].conditions.size(), 1u);
+  EXPECT_EQ(triggers[0].conditions[0].name, "CompareValues");
+  EXPECT_FALSE(triggers[0].conditions[0].expected);
+  EXPECT_EQ(triggers[0].conditions[0].line, 3u);
+  ASSERT_EQ(triggers[0].effects.size(), 2u);
+  EXPECT_EQ(triggers[0].effects[1].name, "UseConditionalBlock");
+  EXPECT_FALSE(triggers[1].active);
+  EXPECT_EQ(triggers[1].line, 9u);
+}
+
+TEST_F(ToolingTest, ReadingMakesNoEntry) {
+  addScript("main", "MAP_STARTUP", "");
+  start();
+  EXPECT_EQ(tooling.getVariable(0, "a"), std::nullopt);
+  EXPECT_EQ(tooling.getString(0, "a"), std::nullopt);
+  EXPECT_EQ(tooling.getList(0, "a"), std::nullopt);
+  EXPECT_EQ(tooling.getBool(0, "a"), std::nullopt);
+  EXPECT_EQ(tooling.getStringList(0, "a"), std::nullopt);
+  EXPECT_EQ(tooling.getJson(0, "a", "b"), std::nullopt);
+  for (const StoreKind kind : {StoreKind::Variables, StoreKind::Strings, StoreKind::Lists, StoreKind::Bools,
+                               StoreKind::Jsons, StoreKind::StringLists})
+    EXPECT_TRUE(tooling.getNames(0, kind).empty());
+}
+
+TEST_F(ToolingTest, SetsWhereAScriptWould) {
+  addScript("main", "MAP_STARTUP", "");
+  start();
+  const std::string global = "\xA7g";
+  EXPECT_TRUE(tooling.setVariable(0, "a", 1.5f));
+  EXPECT_TRUE(tooling.setVariable(0, global, 2));
+  EXPECT_TRUE(tooling.setString(0, "s", "text"));
+  EXPECT_TRUE(tooling.setBool(0, "b", true));
+  EXPECT_TRUE(tooling.setList(0, "l", {3, 4}));
+  EXPECT_TRUE(tooling.setList(0, "l", {5}));
+  EXPECT_TRUE(tooling.setList(0, "empty", {}));
+  EXPECT_EQ(tooling.getVariable(0, "a"), 1.5f);
+  EXPECT_EQ(tooling.getVariable(std::nullopt, global), 2);
+  EXPECT_EQ(tooling.getVariable(0, global), std::nullopt);
+  EXPECT_EQ(tooling.getString(0, "s"), "text");
+  EXPECT_EQ(tooling.getBool(0, "b"), true);
+  EXPECT_EQ(tooling.getList(0, "l"), std::vector<std::uint64_t>{5});
+  EXPECT_EQ(tooling.getList(0, "empty"), std::vector<std::uint64_t>{});
+  EXPECT_FALSE(tooling.setVariable(1, "a", 1));
+}
+
+TEST_F(ToolingTest, JsonValuesAreFoundByPath) {
+  addScript("main", "MAP_STARTUP", "");
+  start();
+  boost::property_tree::ptree tree;
+  tree.put("a.b", "c");
+  entry(0).handler->SetJsonVariable("j", tree);
+  EXPECT_EQ(tooling.getJson(0, "j", "a.b"), "c");
+  EXPECT_EQ(tooling.getJson(0, "j", "a.x"), std::nullopt);
+  EXPECT_EQ(tooling.getNames(0, StoreKind::Jsons), std::vector<std::string>{"j"});
+}
+
+TEST_F(ToolingTest, AReloadInAGameStartsTheMapAndKeepsTheCounts) {
+  addScript("main", "MAP_STARTUP", text);
+  start();
+  run(0.1);
+  write("mod", "x64/tidemark/main.script", "InitNewTrigger(\"new\",false,false);\n" + text);
+  tooling.reload();
+  ASSERT_TRUE(tooling.getScripts()[0].running);
+  ASSERT_EQ(tooling.getTriggers(0).size(), 3u);
+  EXPECT_EQ(tooling.getTriggers(0)[0].timesFired, 0u);
+  EXPECT_EQ(tooling.getTriggers(0)[1].timesFired, 2u);
+  run(0.05);
+  EXPECT_EQ(tooling.getTriggers(0)[1].timesFired, 3u);
+}
+
+TEST_F(ToolingTest, CountsBeginAnewWithTheHost) {
+  addScript("main", "MAP_STARTUP", text);
+  start();
+  run(0.1);
+  session.reset();
+  start();
+  EXPECT_EQ(tooling.getTriggers(0)[0].timesFired, 0u);
+}
+
+TEST_F(ToolingTest, AReloadInTheEditorGoesByItsMessage) {
+  load(em5::HostSession::Kind::EDITOR);
+  tooling.reload();
+  EXPECT_EQ(count(2, "***** MapscriptManager started succesfully *****"), 2);
+  EXPECT_EQ(session->getQsf().getMessageSystem().getEmittedCount("script::ForceHotReload_EditorOnly"), 1u);
+}
+
+}
