@@ -48,6 +48,7 @@ private:
   bool startAction(Action& action);
   void stopAction(Action& action);
   void updateRegistration();
+  std::string describeCurrent() const;
 
   ActionPlan mPlan;
   std::vector<std::unique_ptr<Action>> mRetired; // one of them may be running right now

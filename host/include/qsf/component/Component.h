@@ -46,6 +46,7 @@ protected:
 
 private:
   friend class Prototype;
+  std::string describe() const;
   Prototype* mPrototype;
   mutable StringHash mId;
   bool mActive = true;

@@ -1,6 +1,7 @@
 #include "qsf/action/ActionComponent.h"
 
 #include "em5/base/Jobs.h"
+#include "qsf/log/FaultCounter.h"
 #include "qsf/log/LogSystem.h"
 #include "qsf/reflection/ClassRegistry.h"
 
@@ -107,14 +108,14 @@ void ActionComponent::update(const JobArguments& arguments) {
   Action* current = getCurrentAction();
   if (!current) return mJob.unregister();
   if (!isActive()) return;
-  try {
-    const Clock clock(arguments.getTimePassed(), ++mUpdates);
-    if (!startAction(*current) || current->updateAction(clock) == action::RESULT_DONE) removeAction(current);
-  } catch (const std::exception& fault) {
-    logMessage(LogSystem::ERROR, "Fault in an action of entity " + std::to_string(getEntityId()) + ": " + fault.what());
-    removeAction(current);
-  }
+  const Clock clock(arguments.getTimePassed(), ++mUpdates);
+  bool isDone = true;
+  callGuarded([&] { isDone = !startAction(*current) || current->updateAction(clock) == action::RESULT_DONE; },
+              [&] { return describeCurrent(); });
+  if (isDone) removeAction(current);
 }
+
+std::string ActionComponent::describeCurrent() const { return "an action of entity " + std::to_string(getEntityId()); }
 
 bool ActionComponent::startAction(Action& action) {
   if (!action.mStarted) action.mStarted = action.onStartup();

@@ -1,6 +1,6 @@
 #include "qsf/component/Component.h"
 
-#include "qsf/log/LogSystem.h"
+#include "qsf/log/FaultCounter.h"
 #include "qsf/map/Entity.h"
 
 #include <cassert>
@@ -36,26 +36,20 @@ void Component::setActive(bool active) {
 
 bool Component::startup(bool /*withParents*/) {
   if (mRunning || !mPrototype->isStarted()) return mRunning;
-  try {
-    mRunning = true; // while it starts, too: what it calls may ask
-    mRunning = onStartup();
-  } catch (const std::exception& fault) {
-    mRunning = false;
-    logMessage(LogSystem::ERROR, "Component " + getCampClass().name() + " of entity " + std::to_string(getEntityId()) +
-                                     " did not start: " + fault.what());
-  }
-  return mRunning;
+  mRunning = true; // while it starts, too: what it calls may ask
+  bool started = false;
+  callGuarded([&] { started = onStartup(); }, [&] { return "the start of " + describe(); });
+  return mRunning = started;
 }
 
 void Component::shutdown() {
   if (!mRunning) return;
   mRunning = false;
-  try {
-    onShutdown();
-  } catch (const std::exception& fault) {
-    logMessage(LogSystem::ERROR, "Component " + getCampClass().name() + " of entity " + std::to_string(getEntityId()) +
-                                     " did not shut down: " + fault.what());
-  }
+  callGuarded([&] { onShutdown(); }, [&] { return "the shutdown of " + describe(); });
+}
+
+std::string Component::describe() const {
+  return "component " + getCampClass().name() + " of entity " + std::to_string(getEntityId());
 }
 
 }

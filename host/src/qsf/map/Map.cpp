@@ -75,8 +75,8 @@ std::unique_ptr<Entity> Map::takeOffMap(std::uint64_t id) {
   const std::vector<Component*> components = entity->getComponents();
   for (Component* component : components)
     mInternals->removeComponent(*component);
+  entity->mOnMap = false; // before the shutdown, which may make components that nobody is to find any more
   shutDownComponents(*entity);
-  entity->mOnMap = false;
   return entity;
 }
 

@@ -10,10 +10,17 @@ namespace qsf {
 
 namespace {
 
+bool isComponentClass(const camp::Class& metaclass) {
+  if (metaclass == camp::classByType<Component>()) return true;
+  for (std::size_t i = 0; i < metaclass.baseCount(); ++i)
+    if (isComponentClass(metaclass.base(i))) return true;
+  return false;
+}
+
 std::vector<std::string> componentNames() {
   std::vector<std::string> names;
   for (const camp::Class* metaclass : ClassRegistry::getClasses())
-    names.push_back(metaclass->name());
+    if (isComponentClass(*metaclass)) names.push_back(metaclass->name());
   return names;
 }
 
