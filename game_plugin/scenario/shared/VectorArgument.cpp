@@ -35,7 +35,8 @@ glm::quat rotationFromDegrees(const glm::vec3& degrees) {
 }
 
 std::string vectorToText(const glm::vec3& vector) {
-  return floatToText(vector.x) + " " + floatToText(vector.y) + " " + floatToText(vector.z);
+  const glm::vec3 plain = vector + 0.0f; // minus zero, which conversions of angles leave behind, is just zero
+  return floatToText(plain.x) + " " + floatToText(plain.y) + " " + floatToText(plain.z);
 }
 
 }
