@@ -3,52 +3,87 @@
 #include "game_plugin/scenario/TextConversion.h"
 
 #include <functional>
-#include <unordered_set>
 
 namespace script {
 
+// Records outlive static destruction, and so do their texts: nothing here is ever destroyed.
+ArgumentText** ArgumentTexts::sBlocks = nullptr;
+
 namespace {
 
-struct TextHash {
-  using is_transparent = void;
-  std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>()(text); }
-  std::size_t operator()(const std::unique_ptr<ArgumentText>& text) const { return (*this)(text->text); }
-};
-struct TextEqual {
-  using is_transparent = void;
-  static std::string_view view(std::string_view text) { return text; }
-  static std::string_view view(const std::unique_ptr<ArgumentText>& text) { return text->text; }
-  template <class A, class B> bool operator()(const A& a, const B& b) const { return view(a) == view(b); }
-};
-using TextPool = std::unordered_set<std::unique_ptr<ArgumentText>, TextHash, TextEqual>;
-
-std::unique_ptr<ArgumentText> classify(std::string_view text) {
-  auto info = std::make_unique<ArgumentText>();
-  info->text = text;
-  info->isNumber = textToFloat(info->text, info->number);
-  info->isGlobal = isGlobalName(text);
-  info->isVariableReference = text.find("svar(") != std::string_view::npos;
-  if (info->isVariableReference) {
-    info->referencedName = std::string_view(info->text).substr(5);
-    info->isReferenceGlobal = isGlobalName(info->referencedName);
-  }
+void classify(ArgumentText& info, std::string_view text) {
+  info.text = text;
+  info.isNumber = textToFloat(info.text, info.number);
+  info.isGlobal = isGlobalName(text);
+  info.isVariableReference = text.find("svar(") != std::string_view::npos;
+  info.isReferenceGlobal = info.isVariableReference && isGlobalName(info.referencedName());
   std::vector<std::uint64_t> ids;
-  if (textToIds(info->text, ids)) info->ids = std::make_unique<std::vector<std::uint64_t>>(std::move(ids));
-  return info;
+  if (textToIds(info.text, ids)) info.ids = std::make_unique<std::vector<std::uint64_t>>(std::move(ids));
 }
 
-const ArgumentText* intern(std::string_view text) {
-  static TextPool& pool = *new TextPool; // records outlive static destruction
-  auto found = pool.find(text);
-  if (found == pool.end()) found = pool.insert(classify(text)).first;
-  return found->get();
-}
+/// Open addressing from a text's hash to its number; half full at most.
+class NumberTable {
+public:
+  static constexpr std::uint32_t EMPTY = ~0u;
+
+  /// The place of the text: the one that holds its number, or the empty one where it belongs.
+  std::uint32_t& find(std::string_view text, std::size_t hash) {
+    for (std::size_t at = hash & (mSlots.size() - 1);; at = (at + 1) & (mSlots.size() - 1)) {
+      Slot& slot = mSlots[at];
+      if (slot.number == EMPTY) {
+        slot.hash = static_cast<std::uint32_t>(hash);
+        return slot.number;
+      }
+      if (slot.hash == static_cast<std::uint32_t>(hash) && ArgumentTexts::get(slot.number).text == text)
+        return slot.number;
+    }
+  }
+  void makeRoom(std::size_t used) {
+    if (used * 2 < mSlots.size()) return;
+    std::vector<Slot> old(mSlots.size() * 2);
+    old.swap(mSlots);
+    for (const Slot& slot : old)
+      if (slot.number != EMPTY) {
+        std::size_t at = slot.hash & (mSlots.size() - 1);
+        while (mSlots[at].number != EMPTY)
+          at = (at + 1) & (mSlots.size() - 1);
+        mSlots[at] = slot;
+      }
+  }
+
+private:
+  struct Slot {
+    std::uint32_t hash = 0;
+    std::uint32_t number = EMPTY;
+  };
+  std::vector<Slot> mSlots = std::vector<Slot>(1024);
+};
 
 }
 
-Argument::Argument(std::string_view text) : mText(intern(text)) {
-  mEpoch = mText->isNumber ? LITERAL_EPOCH : NO_EPOCH;
-  mSlot = std::bit_cast<std::uint32_t>(mText->number);
+std::uint32_t ArgumentTexts::intern(std::string_view text) {
+  static NumberTable& numbers = *new NumberTable;
+  static std::vector<ArgumentText*>& blocks = *new std::vector<ArgumentText*>;
+  static std::uint32_t used = 0;
+
+  const std::size_t hash = std::hash<std::string_view>()(text) & 0xFFFFFFFFu;
+  std::uint32_t& number = numbers.find(text, hash);
+  if (number != NumberTable::EMPTY) return number;
+  if (used % BLOCK_SIZE == 0) {
+    blocks.push_back(new ArgumentText[BLOCK_SIZE]);
+    sBlocks = blocks.data();
+  }
+  const std::uint32_t made = used++;
+  classify(sBlocks[made / BLOCK_SIZE][made % BLOCK_SIZE], text);
+  number = made;
+  numbers.makeRoom(used);
+  return made;
+}
+
+Argument::Argument(std::string_view text) : mText(ArgumentTexts::intern(text)) {
+  const ArgumentText& meaning = info();
+  mEpoch = meaning.isNumber ? LITERAL_EPOCH : NO_EPOCH;
+  mSlot = std::bit_cast<std::uint32_t>(meaning.number);
 }
 
 }

@@ -20,9 +20,23 @@ struct ArgumentText {
   bool isNumber = false;                           ///< the whole text reads as a float
   bool isGlobal = false;                           ///< as a name, it carries the global mark
   bool isVariableReference = false;                ///< it holds "svar("
-  std::string_view referencedName;                 ///< the text from its sixth character on, if isVariableReference
   bool isReferenceGlobal = false;                  ///< referencedName carries the global mark
   std::unique_ptr<std::vector<std::uint64_t>> ids; ///< set if every blank-separated piece reads as an id
+
+  /// The name that a variable reference refers to: the text from its sixth character on.
+  std::string_view referencedName() const { return std::string_view(text).substr(5); }
+};
+
+/// All distinct texts. They are found by number, so that an argument is small.
+class ArgumentTexts {
+public:
+  /// The number of a text, classified at its first use.
+  static std::uint32_t intern(std::string_view text);
+  static const ArgumentText& get(std::uint32_t number) { return sBlocks[number / BLOCK_SIZE][number % BLOCK_SIZE]; }
+
+private:
+  static constexpr std::uint32_t BLOCK_SIZE = 1024;
+  static ArgumentText** sBlocks;
 };
 
 /// A parameter of a record: the raw token text, resolved anew at each use through ScenarioHandler. It remembers where
@@ -35,9 +49,9 @@ public:
   Argument(const char* text) : Argument(std::string_view(text)) {}
 
   /// The raw text, as entries use it that don't resolve a parameter.
-  const std::string& text() const { return mText->text; }
-  operator const std::string&() const { return mText->text; }
-  const ArgumentText& info() const { return *mText; }
+  const std::string& text() const { return info().text; }
+  operator const std::string&() const { return text(); }
+  const ArgumentText& info() const { return ArgumentTexts::get(mText); }
 
   friend bool operator==(const Argument& a, std::string_view b) { return a.text() == b; }
   friend bool operator==(const Argument& a, const char* b) { return a.text() == b; }
@@ -50,10 +64,10 @@ private:
   static constexpr std::uint32_t LITERAL_EPOCH = 0;
   static constexpr std::uint32_t NO_EPOCH = ~0u;
 
-  const ArgumentText* mText;
+  std::uint32_t mText;
   mutable std::uint32_t mEpoch;
   mutable std::uint32_t mSlot = 0;
 };
-static_assert(sizeof(Argument) == 16, "records are many; an argument stays small");
+static_assert(sizeof(Argument) == 12, "records are many; an argument stays small");
 
 }

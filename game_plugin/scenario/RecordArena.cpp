@@ -26,4 +26,13 @@ void* RecordArena::allocate(std::size_t size, std::size_t alignment) {
   return place;
 }
 
+std::string_view RecordArena::store(std::string_view first, std::string_view second, std::string_view third) {
+  const std::size_t size = first.size() + second.size() + third.size();
+  char* text = static_cast<char*>(allocate(size, 1));
+  char* at = text;
+  for (const std::string_view part : {first, second, third})
+    at = std::copy(part.begin(), part.end(), at);
+  return {text, size};
+}
+
 }

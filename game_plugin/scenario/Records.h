@@ -1,4 +1,6 @@
 #pragma once
+#include "game_plugin/scenario/RecordList.h"
+
 #include "qsf/base/Ids.h"
 #include "qsf/base/StringHash.h"
 #include "qsf/base/Time.h"
@@ -38,8 +40,8 @@ struct DefaultEffect {
   std::string_view description() const;
 };
 
-using Conditions = std::vector<DefaultCondition*>;
-using Effects = std::vector<DefaultEffect*>;
+using Conditions = RecordList<DefaultCondition>;
+using Effects = RecordList<DefaultEffect>;
 
 /// One `If`: all conditions must hold for the then effects to run, otherwise the else effects do.
 struct ConditionalBlock {
@@ -48,28 +50,29 @@ struct ConditionalBlock {
   Effects elseEffects;
 };
 
-/// A trigger of a script. The conditions, effects and blocks are fixed after the load; the running fields change.
+/// A trigger of a script. The conditions, effects and blocks are fixed after the load; the running fields change. What
+/// a tick reads stands in front. There is no list of negative effects: the loader reads them as effects like the
+/// others.
 struct ScenarioTrigger {
-  std::string name = "trigger1"; ///< local name
-  qsf::Time lastTimeActive;      ///< document time of the last firing or switching on
-  bool active = true;            ///< running: the trigger is evaluated
-  bool looped = false;           ///< running: stays active after firing
-  bool initialActive = true;     ///< from the text; copied at each start of the handler
+  qsf::Time lastTimeActive;  ///< document time of the last firing or switching on
+  bool active = true;        ///< running: the trigger is evaluated
+  bool looped = false;       ///< running: stays active after firing
+  bool initialActive = true; ///< from the text; copied at each start of the handler
   bool initialLooped = false;
+  std::uint32_t multiplayerMode = 0;     ///< 0 host only, 1 evaluated everywhere and run on the host, 2 everywhere
   std::int32_t requiredConditions = -1;  ///< how many conditions must hold
   std::uint32_t fulfilledConditions = 0; ///< how many held at the last evaluation
-  std::uint32_t multiplayerMode = 0;     ///< 0 host only, 1 evaluated everywhere and run on the host, 2 everywhere
   Conditions conditions;
   Effects effects;
-  Effects negativeEffects; ///< never filled, never run; kept because copies carry it
-  std::vector<ConditionalBlock*> conditionalBlocks;
   std::uint32_t globalNameHash = qsf::UNINITIALIZED_STRING_HASH;
-  std::uint32_t player = 0;     ///< player on whose behalf the trigger fired; 0 on the host
   std::uint32_t line = 0;       ///< line of InitNewTrigger
   std::uint64_t timesFired = 0; ///< since the load; tools show it
+  RecordList<ConditionalBlock> conditionalBlocks;
+  std::string_view name = "trigger1"; ///< local name; a view like globalName, whose end it is
+  std::string_view globalName;        ///< load prefix, `/`, local name; the text is the arena's
   std::uint64_t target = qsf::UNINITIALIZED_ID;
   std::vector<std::uint64_t> callers; ///< entities that a client sent along
-  std::string globalName;             ///< load prefix, `/`, local name
+  std::uint32_t player = 0;           ///< player on whose behalf the trigger fired; 0 on the host
 };
 
 /// A parsed script. Made by the parser, owned by the script's entry in MapScriptManager and kept for good.

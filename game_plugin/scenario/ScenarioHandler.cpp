@@ -159,7 +159,7 @@ std::uint32_t ScenarioHandler::GetTriggerHash(const std::string& localName) cons
 
 std::string ScenarioHandler::GetTriggerName(std::uint32_t hash) const {
   const ScenarioTrigger* trigger = mDocument ? mDocument->findTrigger(hash) : nullptr;
-  return trigger ? trigger->name : std::string();
+  return trigger ? std::string(trigger->name) : std::string();
 }
 
 std::pair<ScenarioHandler*, ScenarioTrigger> ScenarioHandler::FindTriggerGlobally(std::uint32_t hash) {
@@ -187,8 +187,8 @@ bool ScenarioHandler::SetGlobalTriggerActiv(const std::string& globalName, bool 
 void ScenarioHandler::PrintTriggerInfo(std::uint32_t hash) const {
   const auto [handler, trigger] = FindTriggerGlobally(hash);
   if (handler)
-    logInfo("Local Name: \"" + trigger.name + "\" Global Name: \"" + trigger.globalName + "\" Stringhash: \"" +
-            std::to_string(hash) + "\"");
+    logInfo("Local Name: \"" + std::string(trigger.name) + "\" Global Name: \"" + std::string(trigger.globalName) +
+            "\" Stringhash: \"" + std::to_string(hash) + "\"");
 }
 
 std::string ScenarioHandler::GlobalMark() const { return std::string(mDocument ? mDocument->globalMark() : "\xA7"); }

@@ -10,6 +10,7 @@
 
 #include <boost/property_tree/ptree_fwd.hpp>
 
+#include <bit>
 #include <memory>
 #include <string>
 #include <utility>
@@ -75,7 +76,11 @@ public:
   // Resolution: what a parameter means now. Reading a missing name appends it to its store, empty.
 
   /// A number literal, or a variable.
-  float ResolveFloat(const Argument& argument);
+  float ResolveFloat(const Argument& argument) {
+    if (argument.mEpoch == Argument::LITERAL_EPOCH) return std::bit_cast<float>(argument.mSlot);
+    if (argument.mEpoch == variables.epoch()) return variables.value(argument.mSlot);
+    return SearchFloat(argument);
+  }
   float ResolveFloat(const std::string& text);
   /// The text itself, or the string variable of `svar(name`. The reference holds until that variable is erased or
   /// assigned.
@@ -88,7 +93,12 @@ public:
   bool SplitVecInXYZ(const Argument& argument, float& x, float& y, float& z);
   bool SplitVecInXYZ(const std::string& text, float& x, float& y, float& z);
 
-  void SetFloatVariable(const Argument& name, float value);
+  void SetFloatVariable(const Argument& name, float value) {
+    if (name.mEpoch == variables.epoch())
+      variables.value(name.mSlot) = value;
+    else
+      SearchAndSetFloat(name, value);
+  }
   void SetFloatVariable(const std::string& name, float value);
   void SetStringVariable(const std::string& name, const std::string& value);
 
@@ -136,6 +146,8 @@ private:
   void TickTrigger(ScenarioTrigger& trigger);
   void Fire(ScenarioTrigger& trigger);
   void FireOnClient(ScenarioTrigger& trigger, const std::vector<std::uint64_t>& callers, std::uint64_t target);
+  float SearchFloat(const Argument& argument);
+  void SearchAndSetFloat(const Argument& name, float value);
   template <class Value>
   static std::size_t Locate(const Argument& argument, std::string_view name, Store<Value>& store);
 

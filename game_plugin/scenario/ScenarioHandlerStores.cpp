@@ -8,7 +8,6 @@
 #include "qsf/base/Random.h"
 
 #include <algorithm>
-#include <bit>
 
 namespace script {
 
@@ -34,9 +33,7 @@ std::size_t ScenarioHandler::Locate(const Argument& argument, std::string_view n
   return argument.mSlot;
 }
 
-float ScenarioHandler::ResolveFloat(const Argument& argument) {
-  if (argument.mEpoch == Argument::LITERAL_EPOCH) return std::bit_cast<float>(argument.mSlot);
-  if (argument.mEpoch == variables.epoch()) return variables.value(argument.mSlot);
+float ScenarioHandler::SearchFloat(const Argument& argument) {
   const ArgumentText& info = argument.info();
   if (info.isNumber) return info.number;
   Store<float>& store = VariablesOf(info.isGlobal);
@@ -54,7 +51,7 @@ const std::string& ScenarioHandler::ResolveString(const Argument& argument) {
   const ArgumentText& info = argument.info();
   if (!info.isVariableReference) return info.text;
   Store<std::string>& store = StringVariablesOf(info.isReferenceGlobal);
-  return store.value(Locate(argument, info.referencedName, store));
+  return store.value(Locate(argument, info.referencedName(), store));
 }
 
 std::string ScenarioHandler::ResolveString(const std::string& text) {
@@ -110,13 +107,11 @@ bool ScenarioHandler::SplitVecInXYZ(const std::string& text, float& x, float& y,
   return true;
 }
 
-void ScenarioHandler::SetFloatVariable(const Argument& name, float value) {
+void ScenarioHandler::SearchAndSetFloat(const Argument& name, float value) {
   // A name that reads as a number is stored all the same; no use of it will ever see the entry.
-  Store<float>& store = VariablesOf(name.info().isGlobal);
-  if (name.info().isNumber)
-    store.value(store.findOrAppend(name.text())) = value;
-  else
-    store.value(Locate(name, name.text(), store)) = value;
+  const ArgumentText& info = name.info();
+  Store<float>& store = VariablesOf(info.isGlobal);
+  store.value(info.isNumber ? store.findOrAppend(info.text) : Locate(name, info.text, store)) = value;
 }
 
 void ScenarioHandler::SetFloatVariable(const std::string& name, float value) {

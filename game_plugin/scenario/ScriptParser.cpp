@@ -58,13 +58,7 @@ public:
   }
 
   void finish() {
-    for (ScenarioTrigger& trigger : mDocument.triggers) {
-      // A count above the number of conditions stays, and such a trigger never fires; scripts park triggers that way.
-      if (trigger.requiredConditions <= 0)
-        trigger.requiredConditions = static_cast<std::int32_t>(trigger.conditions.size());
-      trigger.conditions.shrink_to_fit();
-      trigger.effects.shrink_to_fit();
-    }
+    closeTrigger();
     mDocument.triggers.shrink_to_fit();
   }
 
@@ -114,15 +108,16 @@ private:
   }
 
   void beginTrigger() {
+    closeTrigger();
     ScenarioTrigger trigger;
-    trigger.name = readStringParameter(mTokens, 1, "Trigger_1", "TriggerName", "");
+    const std::string_view name = readStringParameter(mTokens, 1, "Trigger_1", "TriggerName", "");
+    trigger.globalName = RecordArena::store(mPrefix, "/", name);
+    trigger.name = trigger.globalName.substr(mPrefix.size() + 1);
     trigger.active = trigger.initialActive = readBoolParameter(mTokens, 2, true, "Active", "");
     trigger.looped = trigger.initialLooped = readBoolParameter(mTokens, 3, false, "Looped", "");
     trigger.multiplayerMode =
         toMultiplayerMode(readStringParameter(mTokens, 4, "MP_Trigger_Runs_On_Hostside", "MultiplayerMode", ""));
     trigger.line = mLine;
-    trigger.globalName.reserve(mPrefix.size() + 1 + trigger.name.size());
-    trigger.globalName.append(mPrefix).append("/").append(trigger.name);
     const qsf::StringHash hash(trigger.globalName);
     trigger.globalNameHash = hash.getHash();
     if (const qsf::Qsf* host = qsf::Qsf::instance())
@@ -132,57 +127,88 @@ private:
     // The section stays: only the first trigger of a file begins in its conditions.
   }
 
+  /// Gives the last trigger what its lines have made. Until then they are collected here, so that the lists take no
+  /// more memory than they need.
+  void closeTrigger() {
+    if (mDocument.triggers.empty()) return;
+    closeBlock();
+    ScenarioTrigger& trigger = mDocument.triggers.back();
+    trigger.conditions = Conditions(mTriggerConditions);
+    trigger.effects = Effects(mTriggerEffects);
+    trigger.conditionalBlocks = RecordList<ConditionalBlock>(mBlocks);
+    mTriggerConditions.clear();
+    mTriggerEffects.clear();
+    mBlocks.clear();
+    // A count above the number of conditions stays, and such a trigger never fires; scripts park triggers that way.
+    if (trigger.requiredConditions <= 0)
+      trigger.requiredConditions = static_cast<std::int32_t>(trigger.conditions.size());
+  }
+
+  void closeBlock() {
+    if (mBlocks.empty()) return;
+    ConditionalBlock& block = *mBlocks.back();
+    block.conditions = Conditions(mBlockConditions);
+    block.thenEffects = Effects(mThenEffects);
+    block.elseEffects = Effects(mElseEffects);
+    mBlockConditions.clear();
+    mThenEffects.clear();
+    mElseEffects.clear();
+  }
+
   void beginConditions() {
     if (mTokens.size() > 1 && !mTokens[1].empty()) {
       const int count = readIntParameter(mTokens, 1, -1, "", "");
-      if (count != -1) lastTrigger().requiredConditions = count;
+      if (count != -1) {
+        checkTrigger();
+        mDocument.triggers.back().requiredConditions = count;
+      }
     }
     mReadingConditions = true;
   }
 
   void beginBlock() {
-    ConditionalBlock* block = RecordArena::create<ConditionalBlock>();
+    checkTrigger();
+    closeBlock();
     mInBlock = mReadingConditions = true;
     mInElse = false;
-    ScenarioTrigger& trigger = lastTrigger();
-    trigger.conditionalBlocks.push_back(block);
+    mBlocks.push_back(RecordArena::create<ConditionalBlock>());
     const Tokens tokens{"UseConditionalBlock", std::to_string(mDocument.triggers.size() - 1),
-                        std::to_string(trigger.conditionalBlocks.size() - 1)};
+                        std::to_string(mBlocks.size() - 1)};
     if (DefaultEffect* effect = mEffects.create(tokens)) {
       effect->line = mLine;
-      trigger.effects.push_back(effect);
+      mTriggerEffects.push_back(effect);
     }
   }
 
   void readCondition(bool negated) {
     DefaultCondition* condition = mConditions.create(mTokens);
     if (!condition) return;
+    checkTrigger();
     condition->line = mLine;
     condition->expected = !negated;
-    (mInBlock ? lastBlock().conditions : lastTrigger().conditions).push_back(condition);
+    (mInBlock ? mBlockConditions : mTriggerConditions).push_back(condition);
   }
 
   void readEffect() {
     DefaultEffect* effect = mEffects.create(mTokens);
     if (!effect) return;
+    checkTrigger();
     effect->line = mLine;
-    if (!mInBlock)
-      lastTrigger().effects.push_back(effect);
-    else
-      (mInElse ? lastBlock().elseEffects : lastBlock().thenEffects).push_back(effect);
+    (!mInBlock ? mTriggerEffects : mInElse ? mElseEffects : mThenEffects).push_back(effect);
   }
 
-  ScenarioTrigger& lastTrigger() {
+  /// What a line makes belongs to the last trigger; without one the script can't be used.
+  void checkTrigger() const {
     if (mDocument.triggers.empty()) throw std::out_of_range("invalid vector<T> subscript");
-    return mDocument.triggers.back();
   }
-  /// A block is open only while its trigger is the last.
-  ConditionalBlock& lastBlock() { return *lastTrigger().conditionalBlocks.back(); }
 
   ScriptDocument& mDocument;
   const std::string& mPrefix;
   ScenarioConditions mConditions{nullptr};
   ScenarioEffects mEffects{nullptr};
+  std::vector<DefaultCondition*> mTriggerConditions, mBlockConditions;
+  std::vector<DefaultEffect*> mTriggerEffects, mThenEffects, mElseEffects;
+  std::vector<ConditionalBlock*> mBlocks; ///< of the last trigger
   Tokens mTokens;
   std::string mClean;
   std::uint32_t mLine = 0;

@@ -75,7 +75,6 @@ TEST(ScriptParser, ANewTriggerGoesOnInTheSectionOfTheLastOne) {
 TEST(ScriptParser, NegativeEffectsAreEffects) {
   const auto document = parse("InitNewTrigger(\"a\");\nInitNegativEffects();\nReturn();");
   EXPECT_EQ(names(document->triggers[0].effects), std::vector<std::string>{"Return"});
-  EXPECT_TRUE(document->triggers[0].negativeEffects.empty());
 }
 
 TEST(ScriptParser, ABlockBecomesAnEffectWhereTheIfStood) {
