@@ -3,6 +3,7 @@
 #include "qsf/component/LinkComponent.h"
 #include "qsf/game/TimeOfDayComponent.h"
 #include "qsf/map/LayerManager.h"
+#include "qsf/math/EulerAngles.h"
 #include "qsf/physics/PhysicsWorldComponent.h"
 #include "qsf/prototype/PrototypeManager.h"
 
@@ -41,7 +42,8 @@ TEST_F(MapFileTest, EntitiesComeWithPlacementAndComponents) {
                  {"id": 101}]})"));
   const qsf::Entity& entity = *map.getEntityById(100);
   EXPECT_EQ(glm::vec3(1, 2.5, -3), positionOf(entity));
-  EXPECT_NEAR(0.7071f, entity.getComponent<qsf::TransformComponent>()->getRotation().y, 1e-4);
+  EXPECT_EQ(qsf::EulerAngles::eulerToQuaternion(glm::vec3(90, 0, 0) * 0.017453292f, 17),
+            entity.getComponent<qsf::TransformComponent>()->getRotation());
   EXPECT_EQ("A", entity.getComponent<qsf::MetadataComponent>()->getName());
   EXPECT_EQ("B", entity.getComponent<qsf::MetadataComponent>()->getDescription());
   EXPECT_TRUE(entity.isHidden());
