@@ -16,8 +16,13 @@ std::string makeTemporaryDirectory();
 /// Whether results, or messages, are read by a person.
 bool outputIsTerminal();
 bool errorsAreTerminal();
-/// From now on a request to end the program (Ctrl-C, a build server's stop) is only noted, so that it can clean up.
-void catchInterrupts();
+/// Which requests to end the program are noted instead of obeyed.
+enum class Requests {
+  KEYBOARD, ///< Ctrl-C
+  ALL       ///< also that of a build server; for programs that look at isInterrupted() all the time
+};
+/// From now on the first such request is only noted, so that the program can clean up; the second ends it.
+void catchInterrupts(Requests requests);
 bool isInterrupted();
 
 /// How a child process has ended.

@@ -71,7 +71,7 @@ private:
 };
 
 void playFrames(em5::HostSession& session, const RunOptions& options) {
-  platform::catchInterrupts();
+  platform::catchInterrupts(platform::Requests::KEYBOARD);
   const qsf::Time tick = qsf::Time::fromSeconds(options.tick);
   const auto frames = static_cast<std::uint64_t>(std::llround(options.seconds / options.tick));
   const Pacer pacer(options.pace);

@@ -69,7 +69,7 @@ void writeJUnit(const std::string& path, const std::vector<TestResult>& results)
 
 int runTests(const Options& options) {
   const std::vector<std::string> files = selectTests(options);
-  platform::catchInterrupts();
+  platform::catchInterrupts(platform::Requests::ALL);
   TestScheduler scheduler({options.jobs, std::chrono::milliseconds(static_cast<std::int64_t>(options.limit * 1000))});
   std::size_t done = 0;
   const std::vector<TestResult> results = scheduler.run(files, [&](const TestResult& result) {

@@ -43,7 +43,7 @@ struct Step {
   std::optional<Expectation> expectation;
 };
 
-/// A world directive: `@entity` or `@set`.
+/// A part of a world directive, `@entity` or `@set`.
 struct WorldLine {
   int line = 0;
   std::string text;
@@ -90,8 +90,9 @@ struct TestPlan {
   double tick = 0.05;    ///< seconds
   double duration = 1.0; ///< seconds
   int durationLine = 0;
-  std::vector<WorldLine> world;
-  std::vector<Step> steps; ///< by time; equal times in the order of the lines
+  std::vector<WorldLine> entities; ///< make the entities
+  std::vector<WorldLine> world;    ///< set what they and others have; in the order of the lines
+  std::vector<Step> steps;         ///< by time; equal times in the order of the lines
   std::vector<Expectation> expectations;
 
   std::uint64_t framesUntil(double seconds) const;

@@ -84,13 +84,17 @@ void TestSession::startHost() {
 // another map.
 void TestSession::prepareMap() {
   if (mHost->getQsf().getMainMap().getLocalAssetName() != mPlan.map) return;
-  for (const WorldLine& line : mPlan.world) {
-    try {
-      line.action(*this);
-    } catch (const std::exception& fault) {
-      fail(line.line, fault.what(), line.text);
-      throw Aborted();
-    }
+  for (const std::vector<WorldLine>* lines : {&mPlan.entities, &mPlan.world})
+    for (const WorldLine& line : *lines)
+      place(line);
+}
+
+void TestSession::place(const WorldLine& line) {
+  try {
+    line.action(*this);
+  } catch (const std::exception& fault) {
+    fail(line.line, fault.what(), line.text);
+    throw Aborted();
   }
 }
 

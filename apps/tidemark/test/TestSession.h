@@ -72,6 +72,7 @@ private:
   void runHost();
   void startHost();
   void prepareMap();
+  void place(const WorldLine& line);
   void runSteps(std::uint64_t frame);
   void runStep(const Step& step);
   void check(const Expectation& expectation);

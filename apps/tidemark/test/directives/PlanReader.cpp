@@ -243,9 +243,12 @@ bool PlanReader::readGameSetting(const Directive& directive, WordCursor& words) 
 
 bool PlanReader::readStep(const Directive& directive, WordCursor& words) {
   TestPlan& plan = mResult.plan;
-  if (directive.name == "entity" || directive.name == "set") {
-    Action action = directive.name == "set" ? readSetDirective(words) : readEntityDirective(words);
-    plan.world.push_back({directive.line, directive.text, std::move(action)});
+  if (directive.name == "entity") {
+    EntityDirective entity = readEntityDirective(words);
+    plan.entities.push_back({directive.line, directive.text, std::move(entity.make)});
+    plan.world.push_back({directive.line, directive.text, std::move(entity.equip)});
+  } else if (directive.name == "set") {
+    plan.world.push_back({directive.line, directive.text, readSetDirective(words)});
   } else if (directive.name == "expect") {
     Expectation expectation = readExpectation(words);
     expectation.line = directive.line;

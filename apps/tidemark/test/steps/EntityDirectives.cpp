@@ -77,32 +77,35 @@ EntityPlan takeEntity(WordCursor& words) {
   return plan;
 }
 
-qsf::Entity& makeEntity(qsf::Map& map, const EntityPlan& plan) {
+void makeEntity(qsf::Map& map, const EntityPlan& plan) {
   if (map.getEntityById(plan.id)) throw DirectiveError(fmt::format("the map has an entity {} already", plan.id));
   if (plan.prefab.empty()) {
     qsf::Entity* entity = map.createEntity(plan.id);
     if (!entity) throw DirectiveError(fmt::format("no entity can be made with the id {}", plan.id));
     addComponent(*entity, TRANSFORM);
     addComponent(*entity, METADATA);
-    return *entity;
+    return;
   }
   const std::string asset =
       plan.prefab.find('/') == std::string::npos ? std::string(TEST_PREFABS) + plan.prefab : plan.prefab;
-  if (qsf::Entity* entity = map.createObjectByLocalPrefabAssetId(qsf::StringHash(asset), plan.id)) return *entity;
-  throw DirectiveError(fmt::format("there is no prefab '{}'", asset));
+  if (!map.createObjectByLocalPrefabAssetId(qsf::StringHash(asset), plan.id))
+    throw DirectiveError(fmt::format("there is no prefab '{}'", asset));
 }
 
 }
 
-Action readEntityDirective(WordCursor& words) {
+EntityDirective readEntityDirective(WordCursor& words) {
   const EntityPlan plan = takeEntity(words);
-  return [plan](TestSession& session) {
-    qsf::Entity& entity = makeEntity(session.host().getQsf().getMainMap(), plan);
+  EntityDirective directive;
+  directive.make = [plan](TestSession& session) { makeEntity(session.host().getQsf().getMainMap(), plan); };
+  directive.equip = [plan](TestSession& session) {
+    qsf::Entity& entity = session.findEntity(plan.id);
     for (const Addition& addition : plan.additions) {
       addComponent(entity, addition.component);
       if (!addition.property.empty()) writeProperty(entity, {addition.component, addition.property}, addition.value);
     }
   };
+  return directive;
 }
 
 Action readSetDirective(WordCursor& words) {

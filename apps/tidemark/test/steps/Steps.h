@@ -10,7 +10,12 @@ namespace tidemark::test {
 /// words.
 Action readAction(WordCursor& words);
 Expectation readExpectation(WordCursor& words);
-Action readEntityDirective(WordCursor& words);
+/// All entities are made before any gets its components and properties, so that these may name each other.
+struct EntityDirective {
+  Action make;
+  Action equip;
+};
+EntityDirective readEntityDirective(WordCursor& words);
 Action readSetDirective(WordCursor& words);
 
 /// The parts of readExpectation by theme; each returns nothing if the next word isn't its own.
