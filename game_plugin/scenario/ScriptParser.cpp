@@ -8,6 +8,7 @@
 
 #include "qsf/Qsf.h"
 #include "qsf/base/StringHashManager.h"
+#include "qsf/log/FaultCounter.h"
 
 #include <fstream>
 #include <memory>
@@ -247,7 +248,11 @@ ScriptDocument* ScriptParser::parseText(std::string_view text, const std::string
     reader.readLines(text);
     reader.finish();
   } catch (const std::exception& fault) {
-    logError("The script \"" + name + "\" can't be used, line " + std::to_string(reader.line()) + ": " + fault.what());
+    const std::string message =
+        "The script \"" + name + "\" can't be used, line " + std::to_string(reader.line()) + ": " + fault.what();
+    logError(message);
+    // The program's exit code tells of it.
+    if (const qsf::Qsf* host = qsf::Qsf::instance()) host->getFaultCounter().add(message);
     document = std::make_unique<ScriptDocument>();
   }
   return document.release();

@@ -313,6 +313,13 @@ TEST_F(Program, RunPrintsTheTableAndWritesTheReport) {
   EXPECT_EQ(report["scripts"][0]["stores"]["variables"][0]["value"], 3.0);
 }
 
+TEST_F(Program, AScriptThatCannotBeUsedMakesTheRunFail) {
+  writeProject([this](const auto& name, const auto& text) { return write(name, text); }, "Timer(\"1\");\n" + BEAT);
+  const Outcome outcome = run({"run", folder(), "--seconds", "1"});
+  EXPECT_EQ(outcome.code, 1) << outcome.output;
+  EXPECT_NE(outcome.output.find("1 fault, the last: The script"), std::string::npos) << outcome.output;
+}
+
 TEST_F(Program, EqualRunsGiveEqualOutput) {
   writeProject([this](const auto& name, const auto& text) { return write(name, text); },
                BEAT + "SetVariableRandom(\"1\", \"1000\", \"die\");\nDoLogEntry(\"INFO\", \"die\");\n");
