@@ -9,4 +9,5 @@ jobs=${3:-2}
 mkdir -p "$build/corpus" "$build/crashes"
 export ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
 "$build/bin/fuzz_parser" "$build/corpus" tests/scripts examples -fork="$jobs" -max_total_time="$seconds" -max_len=4096 \
-  -rss_limit_mb=2048 -dict=fuzz/script.dict -artifact_prefix="$build/crashes/"
+  -rss_limit_mb=2048 -dict=fuzz/script.dict -artifact_prefix="$build/crashes/" 2>&1 |
+  grep --line-buffered -vE '^ *NEW_FUNC'
