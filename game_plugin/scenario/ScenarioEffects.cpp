@@ -6,7 +6,33 @@
 #include "game_plugin/scenario/ScenarioHandler.h"
 #include "game_plugin/scenario/UseConditionalBlockEffect.h"
 
+#include <algorithm>
+#include <stdexcept>
+#include <string>
+
 namespace script {
+
+/// How deep handwritten block calls have led into each other, and what they have cost. Blocks of `If` lines don't nest,
+/// but a handwritten line may call a block from a block, itself included.
+struct ScenarioEffects::Nesting {
+  static constexpr std::uint32_t MAXIMUM_DEPTH = 100;
+  static constexpr std::size_t MAXIMUM_RECORDS = 1'000'000;
+
+  std::uint32_t depth = 0;
+  std::size_t records = 0; ///< conditions and effects of the blocks that were called from blocks
+
+  /// Throws std::runtime_error when the calls would not come to an end in reasonable time.
+  void enter(std::size_t blockRecords) {
+    if (++depth > MAXIMUM_DEPTH)
+      throw std::runtime_error("conditional blocks call each other more than " + std::to_string(MAXIMUM_DEPTH) +
+                               " levels deep");
+    if (depth > 1) records += blockRecords + 1;
+    if (records > MAXIMUM_RECORDS)
+      throw std::runtime_error("conditional blocks that call each other have run more than " +
+                               std::to_string(MAXIMUM_RECORDS) + " lines");
+  }
+  void leave() { --depth; }
+};
 
 extern const EffectEntry SendHintEffectEntry;
 extern const EffectEntry ShowDebuggingGuiEffectEntry;
@@ -47,6 +73,11 @@ DefaultEffect* ScenarioEffects::create(const Tokens& tokens) const {
 }
 
 std::uint32_t ScenarioEffects::run(const Effects& effects, std::uint32_t triggerHash) const {
+  Nesting nesting;
+  return runList(effects, triggerHash, nesting);
+}
+
+std::uint32_t ScenarioEffects::runList(const Effects& effects, std::uint32_t triggerHash, Nesting& nesting) const {
   for (const DefaultEffect* effect : effects) {
     const EffectEntry& entry = *effect->entry;
     switch (entry.kind) {
@@ -56,7 +87,7 @@ std::uint32_t ScenarioEffects::run(const Effects& effects, std::uint32_t trigger
       mHandler->PrintTriggerInfo(triggerHash);
       break;
     case EffectKind::UseConditionalBlock:
-      if (runBlock(*effect) == 1) return 1;
+      if (runBlock(*effect, nesting) == 1) return 1;
       break;
     case EffectKind::Ordinary:
       if (entry.run)
@@ -70,15 +101,18 @@ std::uint32_t ScenarioEffects::run(const Effects& effects, std::uint32_t trigger
   return 0;
 }
 
-std::uint32_t ScenarioEffects::runBlock(const DefaultEffect& effect) const {
+std::uint32_t ScenarioEffects::runBlock(const DefaultEffect& effect, Nesting& nesting) const {
   const auto& use = static_cast<const UseConditionalBlockEffect&>(effect);
   // Only a handwritten line can name indices that don't exist; the fault then ends the tick of this script.
   const ScenarioTrigger& trigger = mHandler->GetDocument()->triggers.at(static_cast<std::size_t>(use.triggerIndex));
   const ConditionalBlock& block = *trigger.conditionalBlocks.at(static_cast<std::size_t>(use.blockIndex));
+  nesting.enter(block.conditions.size() + std::max(block.thenEffects.size(), block.elseEffects.size()));
   std::uint32_t fulfilled = 0;
   const bool holds = mHandler->GetConditions().evaluate(
       qsf::Time::ZERO, block.conditions, static_cast<std::uint32_t>(block.conditions.size()), fulfilled, nullptr);
-  return run(holds ? block.thenEffects : block.elseEffects, trigger.globalNameHash);
+  const std::uint32_t result = runList(holds ? block.thenEffects : block.elseEffects, trigger.globalNameHash, nesting);
+  nesting.leave();
+  return result;
 }
 
 }

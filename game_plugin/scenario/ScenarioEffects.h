@@ -28,7 +28,8 @@ public:
   DefaultEffect* create(const Tokens& tokens) const;
 
   /// Runs the effects in order. 1 if a `Return` ended the list, also one inside a block, else 0. Also ends, with 1,
-  /// when an effect has stopped the script that runs it.
+  /// when an effect has stopped the script that runs it. Throws when handwritten block calls lead into each other
+  /// without end, or to a block that doesn't exist.
   std::uint32_t run(const Effects& effects, std::uint32_t triggerHash) const;
 
   std::vector<const EffectGroup*> groupsInCreationOrder() const;
@@ -37,7 +38,9 @@ public:
   static EffectGroup::Chain ownEntries();
 
 private:
-  std::uint32_t runBlock(const DefaultEffect& effect) const;
+  struct Nesting;
+  std::uint32_t runList(const Effects& effects, std::uint32_t triggerHash, Nesting& nesting) const;
+  std::uint32_t runBlock(const DefaultEffect& effect, Nesting& nesting) const;
 
   ScenarioEffects_Brill mBrill;
   ScenarioEffects_Tarn mTarn;

@@ -113,6 +113,21 @@ TEST(ScenarioHandler, AHandwrittenBlockIndexThatDoesNotExistFaultsTheTick) {
   EXPECT_THROW(negative.tick(), std::out_of_range);
 }
 
+TEST(ScenarioHandler, HandwrittenBlocksThatCallEachOtherEndTheTick) {
+  const LogCapture log;
+  Script loop(
+      "InitNewTrigger(\"t\",true,true);\nInitEffects();\nIf();\nThen();\nUseConditionalBlock(0,0);\nThenEnd();");
+  EXPECT_THROW(loop.tick(), std::runtime_error);
+  EXPECT_THROW(loop.tick(), std::runtime_error) << "the counts start anew in each tick";
+  std::string tree = "InitNewTrigger(\"t\");\nInitEffects();\n";
+  for (int i = 0; i < 30; ++i)
+    tree += "If();\nThen();\nUseConditionalBlock(0," + std::to_string(i + 1) + ");\nUseConditionalBlock(0," +
+            std::to_string(i + 1) + ");\nThenEnd();\n";
+  tree += "If();\nThen();\nThenEnd();\n";
+  Script wide(tree);
+  EXPECT_THROW(wide.tick(), std::runtime_error);
+}
+
 TEST(ScenarioHandler, RetiringInsideATickEndsItAtOnce) {
   const LogCapture log;
   auto* handler = new ScenarioHandler(std::make_shared<GlobalStores>());
