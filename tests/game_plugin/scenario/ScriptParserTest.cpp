@@ -138,7 +138,9 @@ TEST(ScriptParser, ConditionsThatMakeNoRecordDontFaultBeforeTheFirstTrigger) {
 TEST(ScriptParser, SurvivesLongLinesNulBytesAndMissingLineFeeds) {
   const LogCapture log;
   std::string text = "InitNewTrigger(\"" + std::string(10'000'000, 'x') + "\");\n";
-  text += std::string("Foo\0Bar();\n", 11) + std::string(1'000'000, '(') + "\nInitNewTrigger(\"last\");";
+  text.append("Foo\0Bar();\n", 11);
+  text.append(1'000'000, '(');
+  text.append("\nInitNewTrigger(\"last\");");
   const auto document = parse(text);
   ASSERT_EQ(document->triggers.size(), 2u);
   EXPECT_EQ(document->triggers[0].name.size(), 10'000'000u);
