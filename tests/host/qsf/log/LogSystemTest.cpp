@@ -106,6 +106,7 @@ TEST(LogMessage, WithoutAHostGoesNowhere) { EXPECT_NO_THROW(qsf::logMessage(LogS
 TEST(ErrorHandling, LogsFaultsAsTheyStandAndNeverBreaks) {
   qsf::Qsf host;
   Lines lines;
+  host.getLogSystem().setThreshold(LogSystem::TRACE);
   host.getLogSystem().addListener(into(lines));
   qsf::ErrorHandling::printToLog("Something failed", 1);
   EXPECT_FALSE(qsf::ErrorHandling::handleBreakOnAssert("file.cpp", 7, "install"));
