@@ -1,6 +1,7 @@
 #include "apps/tidemark/run/RunCommand.h"
 
 #include "apps/tidemark/ExitCode.h"
+#include "apps/tidemark/NumberOption.h"
 #include "apps/tidemark/run/Runner.h"
 
 #include <CLI/CLI.hpp>
@@ -55,11 +56,11 @@ void addOptions(CLI::App& command, RunOptions& options) {
       ->type_name("NAME");
   command.add_option("--seconds", options.seconds, "How long to run, in simulated seconds")
       ->capture_default_str()
-      ->check(CLI::Range(0.0, LONGEST_RUN))
+      ->check(numberFrom(0.0, LONGEST_RUN))
       ->type_name("S");
   command.add_option("--tick", options.tick, "Length of a frame in seconds")
       ->capture_default_str()
-      ->check(CLI::Range(SHORTEST_TICK, LONGEST_RUN))
+      ->check(numberFrom(SHORTEST_TICK, LONGEST_RUN))
       ->type_name("S");
   command.add_flag_callback(
       "--realtime", [&options] { options.pace = RunOptions::Pace::REAL_TIME; },

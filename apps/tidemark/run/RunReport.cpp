@@ -31,8 +31,29 @@ StoreReport collectStores(const Tooling& tooling, std::optional<std::size_t> scr
   return stores;
 }
 
+constexpr std::size_t LONGEST_CELL = 80; // characters
+constexpr std::size_t MOST_ROWS = 200;   // of one table; the JSON report has all
+
+// A text as the table shows it: scripts may make names and values of any length, with control characters in them.
+std::string toCell(const std::string& text) {
+  std::string cell;
+  std::size_t characters = 0;
+  for (const char byte : text) {
+    const auto code = static_cast<unsigned char>(byte);
+    const bool continues = (code & 0xC0) == 0x80;
+    if (!continues && ++characters > LONGEST_CELL) return cell + "...";
+    cell += code < 0x20 || code == 0x7F ? '?' : byte;
+  }
+  return cell;
+}
+
 // Columns as wide as their widest cell; the last one isn't padded.
-std::string layOut(const std::vector<std::vector<std::string>>& rows, std::string_view indent) {
+std::string layOut(std::vector<std::vector<std::string>> rows, std::string_view indent) {
+  const std::size_t left = rows.size() > MOST_ROWS ? rows.size() - MOST_ROWS : 0;
+  rows.resize(rows.size() - left);
+  for (auto& row : rows)
+    for (std::string& cell : row)
+      cell = toCell(cell);
   std::vector<std::size_t> widths;
   for (const auto& row : rows) {
     widths.resize(std::max(widths.size(), row.size()));
@@ -45,6 +66,7 @@ std::string layOut(const std::vector<std::vector<std::string>>& rows, std::strin
     for (std::size_t i = 0; i < row.size(); ++i)
       text += row[i] + (i + 1 < row.size() ? std::string(widths[i] - displayWidth(row[i]) + 2, ' ') : "\n");
   }
+  if (left > 0) text += fmt::format("{}... and {} more, which --report FILE lists\n", indent, left);
   return text;
 }
 
@@ -55,7 +77,7 @@ std::string describeTriggers(const std::vector<TriggerView>& triggers) {
                     fmt::format("{}{}", trigger.active ? "active" : "inactive", trigger.looped ? ", looped" : ""),
                     fmt::format("{} of {}, {} needed", trigger.fulfilledConditions, trigger.conditions.size(),
                                 trigger.requiredConditions)});
-  return layOut(rows, "    ");
+  return layOut(std::move(rows), "    ");
 }
 
 std::string describeStores(const StoreReport& stores, std::string_view indent) {
@@ -68,7 +90,7 @@ std::string describeStores(const StoreReport& stores, std::string_view indent) {
     rows.push_back({"bool", name, value ? "true" : "false"});
   for (const auto& [name, ids] : stores.lists)
     rows.push_back({"list", name, ids.empty() ? "empty" : fmt::format("{}", fmt::join(ids, " "))});
-  return layOut(rows, indent);
+  return layOut(std::move(rows), indent);
 }
 
 Json storesToJson(const StoreReport& stores) {

@@ -1,6 +1,7 @@
 #include "apps/tidemark/test/TestCommand.h"
 
 #include "apps/tidemark/ExitCode.h"
+#include "apps/tidemark/NumberOption.h"
 #include "apps/tidemark/platform/Platform.h"
 #include "apps/tidemark/session/Installation.h"
 #include "apps/tidemark/test/Discovery.h"
@@ -127,7 +128,7 @@ void addTestCommand(CLI::App& app, int& exitCode) {
       ->type_name("N");
   command->add_option("--time-limit", options->limit, "Seconds of real time that a test may take")
       ->capture_default_str()
-      ->check(CLI::Range(0.1, 86400.0))
+      ->check(numberFrom(0.1, 86400.0))
       ->type_name("S");
   command->footer("Example:\n  tidemark test tests/scripts --filter variables --junit results.xml\n\nExit codes: 0 all "
                   "passed, 1 a test failed, 2 wrong usage, 3 a path cannot be read.");

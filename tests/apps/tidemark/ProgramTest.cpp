@@ -90,7 +90,12 @@ TEST_F(Program, WrongUsageIsTwo) {
                                                     {"test"},
                                                     {"test", "x", "--jobs", "0"},
                                                     {"run", ".", "--mode", "chess"},
+                                                    {"test", "x", "--time-limit", "nan"},
                                                     {"run", ".", "--tick", "0"},
+                                                    {"run", ".", "--tick", "inf"},
+                                                    {"run", ".", "--seconds", "nan"},
+                                                    {"run", ".", "--seconds", "-1"},
+                                                    {"run", ".", "--seconds", "ten"},
                                                     {"run", ".", "--log-level", "loud"}})
     EXPECT_EQ(run(arguments).code, 2);
 }
@@ -114,6 +119,26 @@ TEST_F(Program, FaultyProjectFilesNameFileAndPlace) {
   const Outcome map = run({"run", folder()});
   EXPECT_EQ(map.code, 3);
   EXPECT_NE(map.output.find("/map"), std::string::npos) << map.output;
+}
+
+TEST_F(Program, TheTableStaysReadable) {
+  write("project.json", "{\"name\": \"p\"}");
+  write("x64/tidemark/MapScript.json",
+        R"({"MapScripts": {"a": {"Path": "a.script", "Mode": "MAP_STARTUP", "Maps": ["All"]}}})");
+  std::string script = "InitNewTrigger(\"Long\");\nInitEffects();\nSetStringVariableToValue(\"text\", \"x\x1b[2J" +
+                       std::string(100'000, 'y') + "\");\n";
+  for (int i = 0; i < 500; ++i)
+    script += "InitNewTrigger(\"Trigger " + std::to_string(i) + "\");\n";
+  write("x64/tidemark/a.script", script);
+  const Outcome outcome =
+      run({"run", folder(), "--seconds", "0.1", "--log-level", "none", "--report", folder() + "/r.json"});
+  EXPECT_EQ(outcome.code, 0);
+  EXPECT_LT(outcome.output.size(), 30'000u);
+  EXPECT_EQ(outcome.output.find('\x1b'), std::string::npos);
+  EXPECT_NE(outcome.output.find("yyy..."), std::string::npos) << outcome.output;
+  EXPECT_NE(outcome.output.find("more, which --report FILE lists"), std::string::npos) << outcome.output;
+  const auto report = nlohmann::json::parse(readAll(folder() + "/r.json"));
+  EXPECT_EQ(report["scripts"][0]["triggers"].size(), 501u);
 }
 
 TEST_F(Program, UnknownMapIsTold) {

@@ -70,6 +70,8 @@ Project& ProjectManager::registerSingleProjectFromFileSystem(const std::string& 
   if (!fs::is_directory(folder, error))
     throw LoadError(directory, "", "a project is a folder with a project.json, and this is none");
   const std::string file = (folder / "project.json").string();
+  if (!fs::exists(file, error))
+    throw LoadError(file, "", "there is no such file; a project's folder has one, with at least {\"name\": \"...\"}");
   const std::string name = readProjectName(file);
   if (const Project* other = getProjectByName(name))
     throw LoadError(file, "/name",

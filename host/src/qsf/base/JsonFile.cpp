@@ -110,7 +110,10 @@ double JsonPlace::asNumber() const {
 }
 
 std::uint64_t JsonPlace::asId() const {
-  if (!mValue->is_number_unsigned()) fail("an id, a whole number from 0 on, is expected here, not " + mValue->dump());
+  // Only a number is shown as it stands: a value may be nested so deep that its text can't be built.
+  if (!mValue->is_number_unsigned())
+    fail("an id, a whole number from 0 on, is expected here, not " +
+         (mValue->is_number() ? mValue->dump() : mValue->type_name()));
   return mValue->get<std::uint64_t>();
 }
 

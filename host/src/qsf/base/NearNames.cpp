@@ -1,5 +1,6 @@
 #include "qsf/base/NearNames.h"
 
+#include <algorithm>
 #include <cctype>
 #include <numeric>
 
@@ -28,6 +29,14 @@ std::size_t editDistance(const std::string& left, const std::string& right) {
 /// `qsf::game::TimeOfDayComponent` and `TimeOfDayComponent` mean the same to a hurried author.
 std::string lastPart(const std::string& name) { return name.substr(name.find_last_of(":/") + 1); }
 
+/// `Transform` stands for `TransformComponent`: the rest of a long name is soon forgotten.
+bool isBeginningOf(const std::string& name, const std::string& candidate) {
+  constexpr std::size_t SHORTEST_BEGINNING = 3;
+  return name.size() >= SHORTEST_BEGINNING && name.size() < candidate.size() &&
+         std::equal(name.begin(), name.end(), candidate.begin(),
+                    [](char left, char right) { return lower(left) == lower(right); });
+}
+
 }
 
 std::string nearNamesHint(const std::string& name, const std::vector<std::string>& candidates) {
@@ -38,7 +47,9 @@ std::string nearNamesHint(const std::string& name, const std::vector<std::string
   for (const std::string& candidate : candidates) {
     if (candidate.size() > LONGEST_NAME) continue;
     const std::size_t distance =
-        std::min(editDistance(name, candidate), editDistance(lastPart(name), lastPart(candidate)));
+        isBeginningOf(lastPart(name), lastPart(candidate))
+            ? 1
+            : std::min(editDistance(name, candidate), editDistance(lastPart(name), lastPart(candidate)));
     if (distance <= std::max<std::size_t>(1, lastPart(name).size() / 3)) near.emplace_back(distance, candidate);
   }
   std::sort(near.begin(), near.end());

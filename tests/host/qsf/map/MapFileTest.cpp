@@ -76,6 +76,7 @@ TEST_F(MapFileTest, FaultsOfAnEntityNameThePlace) {
   expectEntityFault("{}", "\"id\" is missing");
   expectEntityFault(R"({"id": -5})", "/entities/0/id");
   expectEntityFault(R"({"id": 1.5})", "/entities/0/id");
+  expectEntityFault("{\"id\": " + std::string(1'000'000, '[') + std::string(1'000'000, ']') + "}", "not array");
   expectEntityFault(R"({"id": 18446744073709551615})", "/entities/0/id");
   expectEntityFault(R"({"id": 5}, {"id": 5})", "two entities with the id 5");
   expectEntityFault(R"({"id": 0}, {"id": 0})", "two entities with the id 0");
@@ -92,6 +93,7 @@ TEST_F(MapFileTest, UnknownNamesComeWithAHint) {
   mountBase();
   expectEntityFault(R"({"id": 5, "components": {"qsf::MovabelComponent": {}}})",
                     "did you mean \"qsf::MovableComponent\"");
+  expectEntityFault(R"({"id": 5, "components": {"qsf::Transform": {}}})", "did you mean \"qsf::TransformComponent\"");
   expectEntityFault(R"({"id": 5, "components": {"qsf::LinkComponent": {"ParentID": 5}}})", "did you mean \"ParentId\"");
   expectEntityFault(R"({"id": 5, "prefab": "em5/prefab/test/tre"})", "did you mean \"em5/prefab/test/tree\"");
   EXPECT_THROW(map.load("em5/map/test/empt"), qsf::LoadError);
