@@ -52,6 +52,21 @@ TEST_F(PluginTest, StartsAnewInTheNextSession) {
   EXPECT_NE(MapScriptManager::Get(), nullptr);
 }
 
+TEST_F(PluginTest, ASecondStartReplacesTheFirst) {
+  addScript("main", "MAP_STARTUP", "InitNewTrigger(\"t\",true,true);\nInitEffects();\nDoLogEntry(\"INFO\",\"tick\");");
+  start();
+  const Plugin* first = Plugin::Get();
+  ASSERT_NE(session->getQsf().getPluginSystem().addPlugin(std::make_unique<Plugin>()), nullptr);
+  EXPECT_NE(Plugin::Get(), first);
+  EXPECT_EQ(count(2, "***** MapscriptManager started succesfully *****"), 2);
+  EXPECT_EQ(entry(0).handler, nullptr) << "the new manager waits for the next start of a game";
+  run(0.1);
+  EXPECT_EQ(count(2, "tick"), 0);
+  session->startGame(EMPTY_MAP);
+  run(0.05);
+  EXPECT_EQ(count(2, "tick"), 1) << "one manager hears the start";
+}
+
 TEST_F(PluginTest, TheEditorsReloadReadsTheListAnew) {
   load(em5::HostSession::Kind::EDITOR);
   EXPECT_TRUE(manager().GetScriptEntries().empty());

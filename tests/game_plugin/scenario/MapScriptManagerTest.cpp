@@ -71,6 +71,22 @@ TEST_F(MapScriptManagerTest, ATemporaryScriptStartsOncePerScriptOfAnotherPath) {
   EXPECT_EQ(manager().GetScriptEntries().size(), 6u);
 }
 
+TEST_F(MapScriptManagerTest, ATemporaryScriptNeedsAnEntryOfAnotherPath) {
+  addScript("only", "MAP_STARTUP", "InitNewTrigger(\"t\");");
+  start();
+  manager().StartTemporaryScript(scriptPath("only"));
+  EXPECT_EQ(manager().GetScriptEntries().size(), 1u) << "the one entry has that very path";
+  EXPECT_FALSE(logged(2, "succesfully initialize new temproray Scenario"));
+}
+
+TEST_F(MapScriptManagerTest, WithoutAnyEntryNothingStarts) {
+  loadList("{\"MapScripts\": {}}");
+  session->startGame(EMPTY_MAP);
+  write("mod", "x64/tidemark/temporary.script", "InitNewTrigger(\"t\");");
+  manager().StartTemporaryScript(scriptPath("temporary"));
+  EXPECT_TRUE(manager().GetScriptEntries().empty());
+}
+
 TEST_F(MapScriptManagerTest, MultiplicationEndsAtABound) {
   addScript("a", "MAP_STARTUP", "");
   addScript("b", "MAP_STARTUP", "");

@@ -14,7 +14,11 @@ namespace {
 TEST(Vocabulary, UnknownBarTypesReadLikeTheFirst) {
   EXPECT_EQ(ToBarType("BAR_TYPE_FIRE"), 0);
   EXPECT_EQ(ToBarType("bar_type_fire"), 0);
+  EXPECT_EQ(ToBarType("BAR_TYPE_HEALTH"), 1);
+  EXPECT_EQ(ToBarType("BAR_TYPE_SMALL_HEALTH"), 2);
+  EXPECT_EQ(ToBarType("BAR_TYPE_LIFE"), 3);
   EXPECT_EQ(ToBarType("BAR_TYPE_DEATH"), 4);
+  EXPECT_EQ(ToBarType("BAR_TYPE_PROGRESS"), 5);
   EXPECT_EQ(ToBarType("_BAR_COUNT"), 6);
 }
 
@@ -47,23 +51,176 @@ TEST(Vocabulary, MovementModesLeaveOutSeven) {
 }
 
 TEST(Vocabulary, StatusIconsLeaveOutThirteen) {
-  EXPECT_EQ(ToStatusIcon("STATUS_ICON_ARSONIST"), 0);
-  EXPECT_EQ(ToStatusIcon("STATUS_ICON_GAPER"), 12);
-  EXPECT_EQ(ToStatusIcon("STATUS_ICON_GANGSTER_IN_VEHICLE"), 14);
-  EXPECT_EQ(ToStatusIcon("STATUS_ICON_WARBLERTWEET"), 30);
-  EXPECT_EQ(ToStatusIcon("_STATUS_ICON_COUNT"), 34);
+  const char* const icons[] = {"STATUS_ICON_ARSONIST",
+                               "STATUS_ICON_ATTACKED",
+                               "STATUS_ICON_BOMB",
+                               "STATUS_ICON_CHEMICAL_CONTAMINATION",
+                               "STATUS_ICON_CONDITION_RESCUE_AXE",
+                               "STATUS_ICON_CONDITION_RESCUE_DLK",
+                               "STATUS_ICON_CONDITION_RESCUE_HELI",
+                               "STATUS_ICON_DEAD",
+                               "STATUS_ICON_DEFECT",
+                               "STATUS_ICON_DEFECT_VEHICLE",
+                               "STATUS_ICON_EVENT_VARIOUS",
+                               "STATUS_ICON_FANATIC",
+                               "STATUS_ICON_GAPER",
+                               "STATUS_ICON_GANGSTER_IN_VEHICLE",
+                               "STATUS_ICON_GUNFIRE",
+                               "STATUS_ICON_HEAT_HAZARD",
+                               "STATUS_ICON_INFECTED",
+                               "STATUS_ICON_NPC",
+                               "STATUS_ICON_POSSIBLY_INFECTED",
+                               "STATUS_ICON_POSSIBLY_INFECTED_BUILDING",
+                               "STATUS_ICON_SEARCH",
+                               "STATUS_ICON_SEARCH_VARIOUS",
+                               "STATUS_ICON_RADIOACTIVE_CONTAMINATION",
+                               "STATUS_ICON_BIOLOGICAL_CONTAMINATION",
+                               "STATUS_ICON_SICK",
+                               "STATUS_ICON_SICK_CONTAGIOUS",
+                               "STATUS_ICON_SMOKE_POISONING",
+                               "STATUS_ICON_STAKE",
+                               "STATUS_ICON_TREE",
+                               "STATUS_ICON_WARBLERTWEET",
+                               "STATUS_ICON_WELL",
+                               "STATUS_ICON_WITCH",
+                               "STATUS_ICON_WRENCH",
+                               "_STATUS_ICON_COUNT"};
+  int expected = 0;
+  for (const char* icon : icons) {
+    EXPECT_EQ(ToStatusIcon(icon), expected) << icon;
+    expected += expected == 12 ? 2 : 1;
+  }
+  EXPECT_EQ(expected, 35);
   EXPECT_EQ(ToStatusIcon("status_icon_arsonist"), std::nullopt);
 }
 
 TEST(Vocabulary, MinimapIconsCountInTheirOrder) {
-  EXPECT_EQ(ToMinimapIcon("UNDEFINED"), 0);
-  EXPECT_EQ(ToMinimapIcon("HARBOR"), 17);
-  EXPECT_EQ(ToMinimapIcon("PING_PIN"), 56);
-  EXPECT_EQ(ToMinimapIcon("_MAX"), 58);
+  const char* const icons[] = {"UNDEFINED",
+                               "FIRE",
+                               "BUILDING_TRAPPED",
+                               "BUILDING_ON_FIRE",
+                               "CONTAMINATED_BIOLOGICAL",
+                               "VICTIM_INJURED_RED",
+                               "VICTIM_TRANSPORT",
+                               "UNIT_AMBULANCE",
+                               "UNIT_FIREFIGHTER",
+                               "UNIT_POLICE",
+                               "UNIT_TECH",
+                               "UNIT_AMBULANCE_DOG",
+                               "UNIT_VEHICLE_AMBULANCE",
+                               "UNIT_VEHICLE_FIREFIGHTER",
+                               "UNIT_VEHICLE_POLICE",
+                               "UNIT_VEHICLE_TECH",
+                               "UNIT_VEHICLE_FIREPLANE",
+                               "HARBOR",
+                               "BRIDGE",
+                               "DEFECT_VEHICLE",
+                               "BROKEN_TREE",
+                               "DANGEROUS_ANIMAL",
+                               "BOMB_OLD",
+                               "HQ",
+                               "GANGSTER",
+                               "SEARCH",
+                               "PEST_BUILDING",
+                               "BARRIER",
+                               "QUESTION_MARK",
+                               "EVENT",
+                               "UNIT_MEDIEVAL",
+                               "UNIT_VEHICLE_OTHER_PLAYER",
+                               "UNIT_OTHER_PLAYER",
+                               "POSSIBLY_PEST_BUILDING",
+                               "WELL",
+                               "GARDIST",
+                               "STAKE",
+                               "WARBLERTWEET",
+                               "ARSONIST",
+                               "FANATIC",
+                               "WITCH",
+                               "VICTIM_INJURED",
+                               "VICTIM_RESCUE_HELI",
+                               "VICTIM_RESCUE_DLK",
+                               "CONTAMINATION_CHEMICAL",
+                               "CONTAMINATION_NUCLEAR",
+                               "RESCUE_AXE",
+                               "GANGSTER_IN_CAR",
+                               "UNIT_POLICE_DOG",
+                               "SEARCH_VARIOUS",
+                               "PATH_DESTINATION",
+                               "DEAD",
+                               "BOMB",
+                               "DEFECT",
+                               "GAPER",
+                               "PING",
+                               "PING_PIN",
+                               "BLINK",
+                               "_MAX"};
+  int expected = 0;
+  for (const char* icon : icons)
+    EXPECT_EQ(ToMinimapIcon(icon), expected++) << icon;
+  EXPECT_EQ(expected, 59);
   EXPECT_EQ(ToMinimapIcon("Fire"), 0);
 }
 
 TEST(Vocabulary, InjuriesGiveTheHostsIds) {
+  const char* const injuries[] = {"BURN_3_GRADE",
+                                  "BURN_4_GRADE",
+                                  "BURN_OF_BREATH",
+                                  "SMOKE_POISONING",
+                                  "BROKEN_ARM",
+                                  "BROKEN_LEG",
+                                  "BROKEN_SKULL",
+                                  "BRAIN_BLEEDING",
+                                  "INNER_BLEEDING",
+                                  "LOST_LEG",
+                                  "WHIPLASH",
+                                  "GUN_SHOT_WOUND_LUNG",
+                                  "GUN_SHOT_WOUND_BODY",
+                                  "GUN_SHOT_WOUND_BODY_HARD",
+                                  "STAB_WOUND_LUNG",
+                                  "STAB_WOUND_BODY",
+                                  "STAB_WOUND_BODY_INNER_BLEEDING",
+                                  "BITE_WOUND",
+                                  "BITE_WOUND_BLEEDING",
+                                  "HEAD_BODY_LACERATION",
+                                  "ELECTRIC_SHOCK",
+                                  "SHOCK",
+                                  "WEAKNESS",
+                                  "WATER_FILLED_LUNG",
+                                  "HEARTATTACK",
+                                  "STROKE",
+                                  "CIRCULATORYCOLLAPSE",
+                                  "FOOD_POISONING",
+                                  "ALCOHOL_POISONING",
+                                  "LOW_BLOOD_PRESSURE",
+                                  "ANGINA_PECTORIS",
+                                  "SHORTAGE_OF_BREATH",
+                                  "COLLAPSED_LUNG",
+                                  "HYPOTHERMIA",
+                                  "AVIAN_INFLUENZA",
+                                  "AVIAN_INFLUENZA_INJURED",
+                                  "SWINE_INFLUENZA",
+                                  "SWINE_INFLUENZA_INJURED",
+                                  "HARD_ASTHMA",
+                                  "HARD_ASTHMA_INJURED",
+                                  "HYDROPHOBIA",
+                                  "HYDROPHOBIA_INJURED",
+                                  "CHEMICAL_CONTAMINATION",
+                                  "CHEMICAL_CONTAMINATION_SHORTAGE_OF_BREATH",
+                                  "CHEMICAL_CONTAMINATION_BREATH_BURN",
+                                  "RADIOACTIVE_CONTAMINATION",
+                                  "RADIOACTIVE_CONTAMINATION_ORGAN_BLEEDING",
+                                  "RADIOACTIVE_CONTAMINATION_ORGAN_FAILURE",
+                                  "PLAGUE_CONTAMINATION",
+                                  "PLAGUE_CONTAMINATION_TEST_POSITIV",
+                                  "PLAGUE_CONTAMINATION_TEST_NEGATIV",
+                                  "DROWNING_NORMAL"};
+  std::set<std::uint32_t> ids;
+  for (const char* injury : injuries) {
+    ASSERT_TRUE(ToInjury(injury).has_value()) << injury;
+    EXPECT_EQ(*ToInjury(injury), qsf::StringHash(injury).getHash()) << injury;
+    ids.insert(*ToInjury(injury));
+  }
+  EXPECT_EQ(ids.size(), 52u);
   EXPECT_EQ(ToInjury("BURN_3_GRADE"), em5::injury::BURN_3_GRADE.getHash());
   EXPECT_EQ(ToInjury("DROWNING_NORMAL"), em5::injury::DROWNING_NORMAL.getHash());
   EXPECT_EQ(ToInjury("COMMON_COLD"), std::nullopt);
@@ -78,6 +235,7 @@ TEST(Vocabulary, OnlyKnownGangsterLogicsPass) {
   EXPECT_EQ(ToGangsterLogic("em5::GangsterArsonist"), "em5::GangsterArsonist");
   EXPECT_EQ(ToGangsterLogic("em5::GangsterBlackoutFP"), "em5::GangsterBlackoutFP");
   EXPECT_EQ(ToGangsterLogic("em5::GangsterCivilArmedLogic"), "em5::GangsterCivilArmedLogic");
+  EXPECT_EQ(ToGangsterLogic("em5::GangsterAttackEveryoneLogic"), "em5::GangsterAttackEveryoneLogic");
   EXPECT_EQ(ToGangsterLogic("em5::GangsterBaseLogic"), "");
 }
 
