@@ -3,6 +3,7 @@
 #include "game_plugin/scenario/Store.h"
 
 #include <algorithm>
+#include <bit>
 
 namespace script {
 
@@ -14,32 +15,62 @@ std::uint32_t detail::nextStoreEpoch() {
   return epoch;
 }
 
+std::size_t EntityList::findSlot(std::uint64_t id) const {
+  const std::size_t mask = mSlots.size() - 1;
+  std::size_t slot = (id * 0x9E3779B97F4A7C15u >> 32) & mask;
+  while (mSlots[slot] != 0 && mIds[mSlots[slot] - 1] != id)
+    slot = (slot + 1) & mask;
+  return slot;
+}
+
+void EntityList::rebuildIndex() {
+  mSlots.assign(std::bit_ceil(mIds.size() * 4), 0);
+  for (std::size_t i = 0; i < mIds.size(); ++i)
+    mSlots[findSlot(mIds[i])] = static_cast<std::uint32_t>(i + 1);
+}
+
 bool EntityList::contains(std::uint64_t id) const {
-  if (mIds.size() <= SEARCH_LIMIT) return std::find(mIds.begin(), mIds.end(), id) != mIds.end();
-  return mMembers.contains(id);
+  if (mIsAscending) return std::binary_search(mIds.begin(), mIds.end(), id);
+  if (isIndexed()) return mSlots[findSlot(id)] != 0;
+  return std::find(mIds.begin(), mIds.end(), id) != mIds.end();
 }
 
 void EntityList::add(std::uint64_t id) {
+  if (mIsAscending && (mIds.empty() || id > mIds.back())) {
+    mIds.push_back(id);
+    return;
+  }
   if (contains(id)) return;
+  const bool fits = isIndexed() && (mIds.size() + 1) * 2 <= mSlots.size();
+  const std::size_t slot = fits ? findSlot(id) : 0;
   mIds.push_back(id);
-  if (mIds.size() == SEARCH_LIMIT + 1)
-    mMembers.insert(mIds.begin(), mIds.end());
-  else if (mIds.size() > SEARCH_LIMIT)
-    mMembers.insert(id);
+  mIsAscending = false;
+  if (fits)
+    mSlots[slot] = static_cast<std::uint32_t>(mIds.size());
+  else if (isIndexed())
+    rebuildIndex();
+}
+
+void EntityList::updateAfterRemoval() {
+  if (mIds.empty()) mIsAscending = true;
+  if (isIndexed()) rebuildIndex(); // those behind what went have moved up
 }
 
 void EntityList::remove(std::uint64_t id) {
-  if (!contains(id)) return;
-  mIds.erase(std::find(mIds.begin(), mIds.end(), id));
-  if (mIds.size() <= SEARCH_LIMIT)
-    mMembers.clear();
-  else
-    mMembers.erase(id);
+  const auto found = std::find(mIds.begin(), mIds.end(), id);
+  if (found == mIds.end()) return;
+  mIds.erase(found);
+  updateAfterRemoval();
+}
+
+void EntityList::removeAll(std::span<const std::uint64_t> sortedIds) {
+  std::erase_if(mIds, [=](std::uint64_t id) { return std::binary_search(sortedIds.begin(), sortedIds.end(), id); });
+  updateAfterRemoval();
 }
 
 void EntityList::clear() {
   mIds.clear();
-  if (!mMembers.empty()) mMembers.clear();
+  mIsAscending = true;
 }
 
 namespace {

@@ -1,7 +1,6 @@
 #pragma once
 #include <cstdint>
 #include <span>
-#include <unordered_set>
 #include <vector>
 
 namespace script {
@@ -15,13 +14,25 @@ public:
   /// Nothing happens if the list holds the id already.
   void add(std::uint64_t id);
   void remove(std::uint64_t id);
+  /// Removes many at once; they come in ascending order.
+  void removeAll(std::span<const std::uint64_t> sortedIds);
   /// Keeps its memory, since lists are filled anew in each tick.
   void clear();
 
 private:
   static constexpr std::size_t SEARCH_LIMIT = 32;
+  bool isIndexed() const { return !mIsAscending && mIds.size() > SEARCH_LIMIT; }
+  /// The slot that holds the id's index, or the free one where it belongs.
+  std::size_t findSlot(std::uint64_t id) const;
+  void rebuildIndex();
+  void updateAfterRemoval();
+
   std::vector<std::uint64_t> mIds;
-  std::unordered_set<std::uint64_t> mMembers; ///< filled beyond SEARCH_LIMIT ids
+  /// Whether each id is above the one before. The map gives ids that way, and most lists are filled from it: adding at
+  /// the end then needs no search.
+  bool mIsAscending = true;
+  /// Hash table of the ids' indices, from 1, with 0 for a free slot; at most half full. In use while isIndexed.
+  std::vector<std::uint32_t> mSlots;
 };
 
 /// A private copy of a list's ids, taken for one evaluation. Its memory is lent and goes back, so a tick allocates
