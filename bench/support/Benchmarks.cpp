@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <iterator>
 #include <limits>
+#include <memory>
 #include <string_view>
 
 namespace tidemark::bench {
@@ -109,8 +110,9 @@ int runAndPrint(int argc, char** argv, Table (*makeTable)(const Results& results
   benchmark::Initialize(&count, arguments.data());
   if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) return 2;
 
-  qsf::Qsf qsf;
-  qsf.getLogSystem().setThreshold(qsf::LogSystem::ERROR);
+  std::unique_ptr<qsf::Qsf> own; // unless the program has a host already
+  if (!qsf::Qsf::instance()) own = std::make_unique<qsf::Qsf>();
+  qsf::Qsf::instance()->getLogSystem().setThreshold(qsf::LogSystem::ERROR);
   Results results;
   benchmark::RunSpecifiedBenchmarks(&results);
   std::fflush(stdout);

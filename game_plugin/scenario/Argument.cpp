@@ -21,7 +21,7 @@ void classify(ArgumentText& info, std::string_view text) {
   if (textToIds(info.text, ids)) info.ids = std::make_unique<std::vector<std::uint64_t>>(std::move(ids));
 }
 
-/// Open addressing from a text's hash to its number; half full at most.
+/// Open addressing from a text's hash to its number; three quarters full at most.
 class NumberTable {
 public:
   static constexpr std::uint32_t EMPTY = ~0u;
@@ -39,7 +39,7 @@ public:
     }
   }
   void makeRoom(std::size_t used) {
-    if (used * 2 < mSlots.size()) return;
+    if (used * 4 < mSlots.size() * 3) return;
     std::vector<Slot> old(mSlots.size() * 2);
     old.swap(mSlots);
     for (const Slot& slot : old)

@@ -4,6 +4,8 @@
 
 #include <boost/lexical_cast.hpp>
 
+#include <stdexcept>
+
 namespace script {
 
 namespace {
@@ -32,8 +34,11 @@ T readParameter(const Tokens& tokens, int index, const T& defaultValue, std::str
     return defaultValue;
   }
   const std::size_t position = static_cast<std::size_t>(index);
-  if (position >= tokens.size() && !name.empty()) return defaultValue;
-  const std::string& token = tokens.at(position);
+  if (position >= tokens.size()) {
+    if (!name.empty()) return defaultValue;
+    throw std::out_of_range("invalid vector<T> subscript");
+  }
+  const std::string& token = tokens[position];
   if constexpr (std::is_same_v<T, std::string_view>) {
     return token;
   } else {

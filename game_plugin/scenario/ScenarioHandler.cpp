@@ -86,29 +86,38 @@ void ScenarioHandler::Update(const qsf::JobArguments& arguments) {
   }
   const RunningScope scope;
   mDocument->time += arguments.getTimePassed();
-  for (std::size_t i = 0; i < mDocument->triggers.size() && !mStopped; ++i)
-    TickTrigger(mDocument->triggers[i]);
+  bool isClient = isLocalPlayerClient();
+  for (std::size_t i = 0; i < mDocument->triggers.size() && !mStopped; ++i) {
+    ScenarioTrigger& trigger = mDocument->triggers[i];
+    if (!trigger.active) continue;
+    if (isClient && trigger.multiplayerMode != 2)
+      TickOnClient(trigger);
+    else if (Tick(trigger))
+      isClient = isLocalPlayerClient(); // effects may change whose machine this is
+  }
 }
 
-void ScenarioHandler::TickTrigger(ScenarioTrigger& trigger) {
-  if (!trigger.active) return;
-  const bool isClient = trigger.multiplayerMode != 2 && isLocalPlayerClient();
-  if (isClient && trigger.multiplayerMode == 0) return; // the host runs it
+/// Reads the trigger as it stands when its turn comes. Conditions can't change what is read here, so no copy is needed.
+bool ScenarioHandler::Holds(const ScenarioTrigger& trigger, std::uint32_t& fulfilled) const {
+  return mConditions.evaluate(mDocument->time - trigger.lastTimeActive, trigger.conditions,
+                              static_cast<std::uint32_t>(trigger.requiredConditions), fulfilled, &trigger);
+}
 
-  // What follows reads the trigger as it stood when its turn came. Conditions can't change its fixed part, so only what
-  // a client sends along needs a copy.
-  std::vector<std::uint64_t> callers;
-  if (isClient) callers = trigger.callers;
-  const std::uint64_t target = trigger.target;
-
+bool ScenarioHandler::Tick(ScenarioTrigger& trigger) {
   std::uint32_t fulfilled = 0;
-  if (mConditions.evaluate(mDocument->time - trigger.lastTimeActive, trigger.conditions,
-                           static_cast<std::uint32_t>(trigger.requiredConditions), fulfilled, &trigger)) {
-    if (isClient)
-      FireOnClient(trigger, callers, target);
-    else
-      Fire(trigger);
-  }
+  const bool fires = Holds(trigger, fulfilled);
+  if (fires) Fire(trigger);
+  trigger.fulfilledConditions = fulfilled;
+  return fires;
+}
+
+void ScenarioHandler::TickOnClient(ScenarioTrigger& trigger) {
+  if (trigger.multiplayerMode == 0) return; // the host runs it
+  // What is sent along is what the trigger held when its turn came.
+  const std::vector<std::uint64_t> callers = trigger.callers;
+  const std::uint64_t target = trigger.target;
+  std::uint32_t fulfilled = 0;
+  if (Holds(trigger, fulfilled)) FireOnClient(trigger, callers, target);
   trigger.fulfilledConditions = fulfilled;
 }
 

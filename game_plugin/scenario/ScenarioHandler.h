@@ -12,6 +12,7 @@
 
 #include <bit>
 #include <memory>
+#include <span>
 #include <string>
 #include <utility>
 #include <vector>
@@ -109,6 +110,8 @@ public:
   /// Whether ResolveEntityList gives that id, without the copy; creates a missing list as it does.
   bool IsInEntityList(const Argument& argument, std::uint64_t id);
   void RemoveFromEntityList(const std::string& name, std::uint64_t id);
+  /// Removes many ids, in ascending order, at the cost of one walk.
+  void RemoveFromEntityList(const std::string& name, std::span<const std::uint64_t> sortedIds);
   void ClearEntityList(const Argument& name, bool removeList = false);
   void ClearEntityList(const std::string& name, bool removeList = false);
   /// Adds `count` random entities of a unit type (see CheckUnitType) within range of the centre, or of the whole map if
@@ -143,7 +146,10 @@ public:
 private:
   class RunningScope;
 
-  void TickTrigger(ScenarioTrigger& trigger);
+  bool Holds(const ScenarioTrigger& trigger, std::uint32_t& fulfilled) const;
+  /// Returns whether the trigger fired.
+  bool Tick(ScenarioTrigger& trigger);
+  void TickOnClient(ScenarioTrigger& trigger);
   void Fire(ScenarioTrigger& trigger);
   void FireOnClient(ScenarioTrigger& trigger, const std::vector<std::uint64_t>& callers, std::uint64_t target);
   float SearchFloat(const Argument& argument);

@@ -3,6 +3,7 @@
 #include "game_plugin/scenario/ScenarioHandler.h"
 #include "game_plugin/scenario/TextConversion.h"
 #include "game_plugin/scenario/Vocabulary.h"
+#include "game_plugin/scenario/shared/RemainingIds.h"
 
 #include "qsf/Qsf.h"
 #include "qsf/base/Random.h"
@@ -140,6 +141,12 @@ void ScenarioHandler::RemoveFromEntityList(const std::string& name, std::uint64_
   if (index != store.NOT_FOUND) store.value(index).remove(id);
 }
 
+void ScenarioHandler::RemoveFromEntityList(const std::string& name, std::span<const std::uint64_t> sortedIds) {
+  Store<EntityList>& store = EntityListsOf(isGlobalName(name));
+  const std::size_t index = store.find(name);
+  if (index != store.NOT_FOUND) store.value(index).removeAll(sortedIds);
+}
+
 void ScenarioHandler::ClearEntityList(const Argument& name, bool removeList) {
   Store<EntityList>& store = EntityListsOf(name.info().isGlobal);
   if (!removeList && name.mEpoch == store.epoch())
@@ -166,13 +173,10 @@ void ScenarioHandler::ClearEntityList(const std::string& name, bool removeList) 
 
 void ScenarioHandler::AddToEntityListByTypeInArea(const std::string& name, const std::string& unitType,
                                                   std::uint32_t count, std::uint64_t centerId, float range) {
-  std::vector<std::uint64_t> candidates = findEntitiesOfUnitType(unitType, centerId, range);
-  for (std::uint32_t i = 0; i < count && !candidates.empty(); ++i) {
-    const std::size_t drawn =
-        static_cast<std::size_t>(qsf::Random::getRandomInt(0, static_cast<int>(candidates.size()) - 1));
-    const std::uint64_t id = candidates[drawn];
-    std::erase(candidates, id);
-    AddToEntityList(name, id);
+  RemainingIds candidates(findEntitiesOfUnitType(unitType, centerId, range));
+  for (std::uint32_t i = 0; i < count && candidates.size() > 0; ++i) {
+    const int drawn = qsf::Random::getRandomInt(0, static_cast<int>(candidates.size()) - 1);
+    AddToEntityList(name, candidates.take(static_cast<std::size_t>(drawn)));
   }
 }
 

@@ -12,20 +12,22 @@ constexpr float FARTHEST = 999999.0f;
 struct Candidate {
   std::uint64_t id;
   float distance;
+  std::size_t place; ///< in the list
 };
 
-/// Sorted once instead of searched anew for each pick; the order is the same.
-std::vector<Candidate> sortByDistance(std::span<const std::uint64_t> ids, const qsf::Entity& reference) {
+/// Whether a candidate comes behind another. Of equally close ones the first of the list comes first.
+bool isBehind(const Candidate& a, const Candidate& b) {
+  return a.distance != b.distance ? a.distance > b.distance : a.place > b.place;
+}
+
+std::vector<Candidate> measure(std::span<const std::uint64_t> ids, const qsf::Entity& reference) {
   std::vector<Candidate> candidates;
-  std::unordered_set<std::uint64_t> seen;
-  for (const std::uint64_t id : ids) {
-    const qsf::Entity* entity = findEntity(id);
-    if (!entity || !seen.insert(id).second) continue;
-    const float distance = distanceBetween(*entity, reference);
-    if (distance < FARTHEST) candidates.push_back({id, distance});
+  candidates.reserve(ids.size());
+  for (std::size_t i = 0; i < ids.size(); ++i) {
+    const qsf::Entity* entity = findEntity(ids[i]);
+    const float distance = entity ? distanceBetween(*entity, reference) : FARTHEST;
+    if (distance < FARTHEST) candidates.push_back({ids[i], distance, i});
   }
-  std::stable_sort(candidates.begin(), candidates.end(),
-                   [](const Candidate& a, const Candidate& b) { return a.distance < b.distance; });
   return candidates;
 }
 
@@ -40,9 +42,15 @@ std::vector<std::uint64_t> existingIds(ScenarioHandler& handler, const Argument&
 
 void pickClosest(ScenarioHandler& handler, std::span<const std::uint64_t> candidates, const qsf::Entity& reference,
                  const Argument& maximumNumber, std::vector<std::uint64_t>& picked) {
-  for (const Candidate& candidate : sortByDistance(candidates, reference)) {
+  // A heap gives the closest one after another; mostly few of many are wanted.
+  std::vector<Candidate> heap = measure(candidates, reference);
+  std::make_heap(heap.begin(), heap.end(), isBehind);
+  std::unordered_set<std::uint64_t> taken;
+  for (auto end = heap.end(); end != heap.begin(); --end) {
     if (static_cast<float>(picked.size()) == handler.ResolveFloat(maximumNumber)) return;
-    picked.push_back(candidate.id);
+    std::pop_heap(heap.begin(), end, isBehind);
+    const std::uint64_t closest = std::prev(end)->id;
+    if (taken.insert(closest).second) picked.push_back(closest);
   }
 }
 

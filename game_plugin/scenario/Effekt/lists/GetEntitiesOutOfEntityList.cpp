@@ -1,6 +1,7 @@
 #include "game_plugin/scenario/ParameterReaders.h"
 #include "game_plugin/scenario/ScenarioHandler.h"
 #include "game_plugin/scenario/shared/Placeholder.h"
+#include "game_plugin/scenario/shared/RemainingIds.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -23,15 +24,13 @@ static void run(const GetEntitiesOutOfEntityListEffect& effect, ScenarioHandler&
   if (isLeftAt(effect.entityList.text(), "no_list", "GetNumberOfEntitiesOutOfEntityListEffect::EntityList not found"))
     return;
   if (effect.number == -1) return;
-  EntityIds ids = handler.ResolveEntityList(effect.entityList);
+  RemainingIds left(handler.ResolveEntityList(effect.entityList).vector());
   handler.ClearEntityList(effect.entityList);
-  std::vector<std::uint64_t>& left = ids.vector();
   const int number = std::min(effect.number, static_cast<int>(left.size()));
   for (int i = 0; i < number; ++i) {
     // Kept: the draws come from the C library, unseeded, and stay the same in every run of the game.
     const std::size_t drawn = static_cast<std::size_t>(std::rand()) % left.size();
-    handler.AddToEntityList(effect.entityList, left[drawn]);
-    left.erase(left.begin() + static_cast<std::ptrdiff_t>(drawn));
+    handler.AddToEntityList(effect.entityList, left.take(drawn));
   }
 }
 

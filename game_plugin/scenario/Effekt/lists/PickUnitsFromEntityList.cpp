@@ -1,10 +1,13 @@
 #include "game_plugin/scenario/Log.h"
 #include "game_plugin/scenario/ParameterReaders.h"
 #include "game_plugin/scenario/shared/ClosestSearch.h"
+#include "game_plugin/scenario/shared/PlaceTree.h"
+#include "game_plugin/scenario/shared/RemainingIds.h"
 
 #include "qsf/base/Random.h"
 
 #include <cmath>
+#include <optional>
 
 namespace script {
 
@@ -64,15 +67,40 @@ Ids gatherCluster(const PickUnitsFromEntityListEffect& effect, ScenarioHandler& 
   return {};
 }
 
+/// Tells of most seeds that are in vain, without a walk over all units: with thousands of them, and a range in which
+/// too few stand, walking for each one would take minutes.
+class SeedFilter {
+public:
+  SeedFilter(const std::vector<glm::vec3>& places, float range, float wanted)
+      : mRange(range), mWanted(wanted), mCanBeReached(wanted >= 2 && wanted == std::floor(wanted)) {
+    if (mCanBeReached) mTree.emplace(places);
+  }
+  bool isInVain(const glm::vec3& place) const {
+    if (!mCanBeReached) return true; // a fraction or a negative number is no cluster's size
+    // The seed itself is always in the cluster, and counted here, too, if anything at its place would be.
+    const std::size_t own = mRange > 0 ? 1 : 0;
+    const std::size_t found = mTree->countCloser(place, mRange, static_cast<std::size_t>(mWanted) + own);
+    return static_cast<float>(1 + std::max(found, own) - own) < mWanted;
+  }
+
+private:
+  float mRange, mWanted;
+  bool mCanBeReached;
+  std::optional<PlaceTree> mTree;
+};
+
 /// A cluster round the first seed, drawn at random, that has one. Empty if none has.
 Ids findCluster(const PickUnitsFromEntityListEffect& effect, ScenarioHandler& handler, const Ids& all) {
   const std::vector<glm::vec3> places = placesOf(all);
-  Ids seeds = all;
-  while (!seeds.empty()) {
-    const std::size_t drawn = drawIndex(seeds.size());
-    Ids cluster = gatherCluster(effect, handler, all, places, seeds[drawn]);
+  RemainingIds seeds(all);
+  std::optional<SeedFilter> filter; // made when the first seed was in vain, which it seldom is
+  while (seeds.size() > 0) {
+    const std::uint64_t seed = seeds.take(drawIndex(seeds.size()));
+    if (filter && filter->isInVain(positionOf(*findEntity(seed)))) continue;
+    Ids cluster = gatherCluster(effect, handler, all, places, seed);
     if (!cluster.empty()) return cluster;
-    seeds.erase(seeds.begin() + static_cast<std::ptrdiff_t>(drawn));
+    if (!filter && all.size() > 1)
+      filter.emplace(places, handler.ResolveFloat(effect.range), handler.ResolveFloat(effect.maximumNumber));
   }
   return {};
 }

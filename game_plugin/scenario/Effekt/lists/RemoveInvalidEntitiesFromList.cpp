@@ -5,6 +5,8 @@
 #include "em5/component/PersonComponent.h"
 #include "em5/map/EntityHelper.h"
 
+#include <algorithm>
+
 namespace script {
 
 struct RemoveInvalidEntitiesFromListEffect : DefaultEffect {
@@ -27,8 +29,11 @@ static bool isInvalid(qsf::Entity* entity) {
 }
 
 static void run(const RemoveInvalidEntitiesFromListEffect& effect, ScenarioHandler& handler) {
-  for (const std::uint64_t id : handler.ResolveEntityList(effect.entityList))
-    if (isInvalid(findEntity(id))) handler.RemoveFromEntityList(effect.entityList, id);
+  EntityIds ids = handler.ResolveEntityList(effect.entityList);
+  std::vector<std::uint64_t>& invalid = ids.vector();
+  std::erase_if(invalid, [](std::uint64_t id) { return !isInvalid(findEntity(id)); });
+  std::sort(invalid.begin(), invalid.end());
+  handler.RemoveFromEntityList(effect.entityList, invalid);
 }
 
 EFFECT(RemoveInvalidEntitiesFromList, "EntityLists",

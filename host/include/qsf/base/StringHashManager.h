@@ -1,7 +1,10 @@
 #pragma once
 #include "qsf/base/StringHash.h"
 
+#include <cstddef>
+#include <memory>
 #include <unordered_map>
+#include <vector>
 
 namespace qsf {
 
@@ -14,7 +17,13 @@ public:
   std::string getStringByHash(StringHash hash) const;
 
 private:
-  std::unordered_map<StringHash, std::string> mTexts;
+  std::string_view keep(std::string_view text);
+
+  std::unordered_map<StringHash, std::string_view> mTexts;
+  // The texts, one behind the other: there are as many as triggers.
+  std::vector<std::unique_ptr<char[]>> mChunks;
+  char* mNext = nullptr;
+  std::size_t mLeft = 0;
 };
 
 }

@@ -33,7 +33,7 @@ public:
   /// Null while unlinked.
   LinkComponent* getParentLink() const { return mParent; }
   /// Direct children in the order in which they were linked. Changes as children come and go.
-  const std::vector<LinkComponent*>& getChildLinks() const { return mChildren; }
+  const std::vector<LinkComponent*>& getChildLinks() const;
 
   /// Relative to the parent. While unlinked, the value is kept and moves nothing.
   const glm::vec3& getLocalPosition() const { return mLocalPosition; }
@@ -47,6 +47,9 @@ public:
   void detach();
 
 private:
+  void closeGaps() const;
+  void addChild(LinkComponent& child);
+  void forgetChild(LinkComponent& child);
   bool isBelow(const LinkComponent& other) const;
   void leaveParent();
   void updateLocalTransform();
@@ -55,7 +58,10 @@ private:
 
   std::uint64_t mParentId = UNINITIALIZED_ID;
   LinkComponent* mParent = nullptr;
-  std::vector<LinkComponent*> mChildren;
+  // A child that leaves turns into null where it stood; the list is closed up when it is read or half of it is gone.
+  mutable std::vector<LinkComponent*> mChildren;
+  mutable std::size_t mNumberOfGaps = 0;
+  std::size_t mPlaceInParent = 0;
   glm::vec3 mLocalPosition{0, 0, 0};
   glm::quat mLocalRotation{1, 0, 0, 0};
   int mParentLinkType = 0;

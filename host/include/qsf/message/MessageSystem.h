@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <set>
 #include <memory>
 #include <unordered_map>
 #include <vector>
@@ -44,7 +45,7 @@ private:
 
   std::unordered_map<StringHash, std::vector<std::shared_ptr<detail::MessageListener>>> mListeners;
   std::unordered_map<StringHash, std::uint64_t> mEmitted;
-  std::vector<StringHash> mIdsWithEndedListeners;
+  std::set<StringHash> mIdsWithEndedListeners;
   int mDepth = 0;
   bool mTooDeep = false;
 };

@@ -42,7 +42,7 @@ void LinkComponent::setParentId(std::uint64_t parentId) {
   leaveParent();
   mParent = parent;
   mParentId = parentId;
-  parent->mChildren.push_back(this);
+  parent->addChild(*this);
   updateLocalTransform();
 }
 
@@ -65,8 +65,33 @@ void LinkComponent::onOwnerMoved() {
 
 void LinkComponent::detach() {
   leaveParent();
-  while (!mChildren.empty())
-    mChildren.back()->leaveParent();
+  const std::vector<LinkComponent*> children = getChildLinks();
+  for (LinkComponent* child : children)
+    child->leaveParent();
+}
+
+const std::vector<LinkComponent*>& LinkComponent::getChildLinks() const {
+  closeGaps();
+  return mChildren;
+}
+
+void LinkComponent::closeGaps() const {
+  if (mNumberOfGaps == 0) return;
+  std::erase(mChildren, nullptr);
+  mNumberOfGaps = 0;
+  for (std::size_t i = 0; i < mChildren.size(); ++i)
+    mChildren[i]->mPlaceInParent = i;
+}
+
+void LinkComponent::addChild(LinkComponent& child) {
+  child.mPlaceInParent = mChildren.size();
+  mChildren.push_back(&child);
+}
+
+void LinkComponent::forgetChild(LinkComponent& child) {
+  mChildren[child.mPlaceInParent] = nullptr;
+  ++mNumberOfGaps;
+  if (mNumberOfGaps * 2 > mChildren.size()) closeGaps();
 }
 
 bool LinkComponent::isBelow(const LinkComponent& other) const {
@@ -76,7 +101,7 @@ bool LinkComponent::isBelow(const LinkComponent& other) const {
 }
 
 void LinkComponent::leaveParent() {
-  if (mParent) mParent->mChildren.erase(std::find(mParent->mChildren.begin(), mParent->mChildren.end(), this));
+  if (mParent) mParent->forgetChild(*this);
   mParent = nullptr;
   mParentId = UNINITIALIZED_ID;
 }
@@ -104,7 +129,7 @@ void LinkComponent::updateChildren() {
     const LinkComponent* link = moved.back();
     moved.pop_back();
     const TransformComponent* parent = transformOf(*link);
-    for (LinkComponent* child : link->mChildren) {
+    for (LinkComponent* child : link->getChildLinks()) {
       if (TransformComponent* transform = transformOf(*child); transform && parent)
         transform->place(parent->getPosition() + parent->getRotation() * child->mLocalPosition,
                          parent->getRotation() * child->mLocalRotation);

@@ -26,7 +26,7 @@ struct JobManagers::Manager {
   StringHash id;
   bool isSimulation;
   std::vector<std::shared_ptr<detail::Job>> jobs;
-  bool hasEndedJobs = false;
+  std::size_t endedJobs = 0; ///< that still stand in the list
 };
 
 namespace {
@@ -81,17 +81,21 @@ void JobManagers::removeJob(detail::Job& job) {
   job.managers = nullptr;
   Manager* manager = findManager(job.managerId);
   if (!manager) return;
-  // A frame walks the jobs by index, so they leave the list behind it.
-  manager->hasEndedJobs = true;
-  if (!mRunning) removeEndedJobs();
+  // A frame walks the jobs by index, so they leave the list behind it, and one that runs still needs its function.
+  ++manager->endedJobs;
+  if (mRunning) return;
+  // The function goes at once, since a plug-in may be about to take its code away. The list is closed up when half of
+  // it is gone: a map that ends unregisters its jobs one by one.
+  const JobProxy::JobFunction function = std::exchange(job.function, {});
+  if (manager->endedJobs * 2 > manager->jobs.size()) removeEndedJobs();
 }
 
 void JobManagers::removeEndedJobs() {
   // Destroying a job's function may unregister further jobs, so the lists are whole again before any job goes.
   std::vector<std::shared_ptr<detail::Job>> ended;
   for (const auto& manager : mManagers) {
-    if (!manager->hasEndedJobs) continue;
-    manager->hasEndedJobs = false;
+    if (manager->endedJobs == 0) continue;
+    manager->endedJobs = 0;
     for (const auto& job : manager->jobs)
       if (!job->managers) ended.push_back(job);
     std::erase_if(manager->jobs, [](const auto& job) { return job->managers == nullptr; });

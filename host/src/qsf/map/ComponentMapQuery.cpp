@@ -11,11 +11,8 @@ std::vector<Component*> ComponentMapQuery::getAllInstancesById(StringHash compon
 std::vector<Component*> ComponentMapQuery::getInstancesInCircleById(StringHash componentId, const glm::vec3& center,
                                                                     float radius) const {
   if (!(radius >= 0)) return {};
-  std::vector<Component*> found =
-      mMap.getInternals().spatial.find(componentId, mMap.getComponentInstances(componentId), center, radius);
-  std::sort(found.begin(), found.end(),
-            [](const Component* left, const Component* right) { return left->getEntityId() < right->getEntityId(); });
-  return found;
+  Map::Internals& internals = mMap.getInternals();
+  return internals.spatial.find(componentId, internals.components, center, radius);
 }
 
 }

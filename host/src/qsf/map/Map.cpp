@@ -40,7 +40,8 @@ Entity* Map::getEntityById(std::uint64_t id) const {
 }
 
 Entity* Map::createEntity(std::uint64_t id) {
-  if (id == UNINITIALIZED_ID || isIdTaken(id)) return nullptr;
+  // Ids from the next one on were never used, so that the search is left to those that a map or a script names.
+  if (id == UNINITIALIZED_ID || (id < mNextId && isIdTaken(id))) return nullptr;
   if (id >= mNextId) mNextId = id + 1;
   auto entity = std::make_unique<Entity>(*this, id);
   Entity& made = *entity;
@@ -127,9 +128,7 @@ Entity* Map::createObjectByLocalPrefabAssetId(StringHash localPrefabAssetId, std
 }
 
 const std::vector<Component*>& Map::getComponentInstances(StringHash componentId) const {
-  static const std::vector<Component*> NONE;
-  const auto found = mInternals->components.find(componentId);
-  return found == mInternals->components.end() ? NONE : found->second;
+  return mInternals->components.get(componentId);
 }
 
 bool Map::isSimulating() const {

@@ -5,18 +5,6 @@
 
 namespace qsf {
 
-namespace {
-
-/// Where the component of that entity stands or would stand in its class's list.
-std::vector<Component*>::iterator placeOf(std::vector<Component*>& list, std::uint64_t entityId) {
-  // Ids mostly come in ascending order, so the end is tried first.
-  if (list.empty() || list.back()->getEntityId() < entityId) return list.end();
-  return std::lower_bound(list.begin(), list.end(), entityId,
-                          [](const Component* component, std::uint64_t id) { return component->getEntityId() < id; });
-}
-
-}
-
 void Map::Internals::reset() {
   components.clear();
   spatial.clear();
@@ -26,17 +14,12 @@ void Map::Internals::reset() {
 }
 
 void Map::Internals::addComponent(Component& component) {
-  std::vector<Component*>& list = components[component.getId()];
-  list.insert(placeOf(list, component.getEntityId()), &component);
+  components.add(component);
   spatial.add(component);
 }
 
 void Map::Internals::removeComponent(Component& component) {
-  const auto list = components.find(component.getId());
-  if (list == components.end()) return;
-  const auto place = placeOf(list->second, component.getEntityId());
-  if (place == list->second.end() || *place != &component) return;
-  list->second.erase(place);
+  if (!components.remove(component)) return;
   spatial.remove(component);
   if (component.getId() == LinkComponent::COMPONENT_ID) static_cast<LinkComponent&>(component).detach();
 }

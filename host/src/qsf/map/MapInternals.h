@@ -1,4 +1,5 @@
 #pragma once
+#include "qsf/map/ComponentIndex.h"
 #include "qsf/map/Layer.h"
 #include "qsf/map/Map.h"
 #include "qsf/map/SpatialIndex.h"
@@ -21,7 +22,7 @@ struct Layer::Resting {
 
 /// What the map keeps beside its entities.
 struct Map::Internals {
-  std::unordered_map<StringHash, std::vector<Component*>> components; // by class, each by ascending entity id
+  ComponentIndex components;
   SpatialIndex spatial;
   Ground ground;
   std::vector<std::unique_ptr<Layer>> layers; // by id, the base layer first

@@ -55,15 +55,17 @@ RayMapQueryResult RayMapQuery::getFirstHit(const Ray& ray, float maximumDistance
   RayMapQueryResult result = getGroundHit(ray, maximumDistance);
   const Entity* core = mMap.getCoreEntity();
   const auto* world = core ? core->getComponent<PhysicsWorldComponent>() : nullptr;
-  const float length = glm::length(ray.direction * maximumDistance) + glm::length(ray.origin);
+  // What lies behind the ground isn't asked for; a little more than the way there lets a box on it win.
+  const float reach = std::min(maximumDistance, result.distance * 1.01f + 1.0f);
+  const float length = glm::length(ray.direction * reach) + glm::length(ray.origin);
   if (!world || !std::isfinite(length)) return result;
   const btVector3 from = toBullet(ray.origin);
-  const btVector3 to = toBullet(ray.origin + ray.direction * maximumDistance);
+  const btVector3 to = toBullet(ray.origin + ray.direction * reach);
   btCollisionWorld::ClosestRayResultCallback callback(from, to);
   callback.m_collisionFilterGroup = COLLISION_ALL;
   callback.m_collisionFilterMask = COLLISION_PERSON | COLLISION_VEHICLE | COLLISION_OBJECT;
   world->getCollisionWorld().rayTest(from, to, callback);
-  const float distance = static_cast<float>(callback.m_closestHitFraction) * maximumDistance;
+  const float distance = static_cast<float>(callback.m_closestHitFraction) * reach;
   if (!callback.hasHit() || distance > result.distance) return result;
   result = {true, fromBullet(callback.m_hitPointWorld), distance, nullptr};
   result.entity =

@@ -89,15 +89,14 @@ void MessageSystem::addListener(const std::shared_ptr<detail::MessageListener>& 
 
 void MessageSystem::removeListener(detail::MessageListener& listener) {
   listener.system = nullptr;
-  mIdsWithEndedListeners.push_back(listener.message.getId());
+  mIdsWithEndedListeners.insert(listener.message.getId());
   if (mDepth == 0) removeEndedListeners();
 }
 
 void MessageSystem::removeEndedListeners() {
   // Destroying a function may unregister further listeners, so the lists are whole again before any function goes.
   std::vector<std::shared_ptr<detail::MessageListener>> ended;
-  const std::vector<StringHash> ids = std::move(mIdsWithEndedListeners);
-  mIdsWithEndedListeners.clear();
+  const std::set<StringHash> ids = std::exchange(mIdsWithEndedListeners, {}); // each once, however many have ended
   for (const StringHash id : ids) {
     auto& listeners = mListeners[id];
     for (const auto& listener : listeners)

@@ -2,6 +2,7 @@
 
 #include "qsf/map/Map.h"
 #include "qsf/physics/BulletCollisionComponent.h"
+#include "qsf/physics/TreeBroadphase.h"
 
 #include <btBulletCollisionCommon.h>
 
@@ -10,7 +11,7 @@ namespace qsf {
 struct PhysicsWorldComponent::World {
   btDefaultCollisionConfiguration configuration;
   btCollisionDispatcher dispatcher{&configuration};
-  btDbvtBroadphase broadphase;
+  TreeBroadphase broadphase;
   btCollisionWorld world{&dispatcher, &broadphase, &configuration};
 };
 

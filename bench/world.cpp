@@ -1,0 +1,289 @@
+// What scripts pay for the world: conditions and effects about areas, sensors and lists, on a map of 1 000 and of 50
+// 000 entities. In the first part eight persons stand round a unit and all others are out of range, so that the cost
+// should stay the same on both maps; a plain walk over all entities stands beside it. In the second part an entry works
+// on every entity of the map, and its cost for each of them should stay the same.
+#include "bench/support/Benchmarks.h"
+#include "game_plugin/scenario/ScenarioHandler.h"
+#include "game_plugin/scenario/ScriptParser.h"
+
+#include "em5/game/HostSession.h"
+#include "qsf/Qsf.h"
+#include "qsf/component/MetadataComponent.h"
+#include "qsf/component/TransformComponent.h"
+#include "qsf/job/JobArguments.h"
+#include "qsf/map/ComponentMapQuery.h"
+#include "qsf/map/RayMapQuery.h"
+#include "qsf/physics/BulletCollisionComponent.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <memory>
+
+namespace {
+
+using tidemark::bench::Results;
+using tidemark::bench::Table;
+
+constexpr std::int64_t COUNTS[] = {1'000, 50'000};
+constexpr std::uint64_t CENTER = 10; ///< a vehicle in the middle of the map
+constexpr std::uint64_t SENSOR = 11; ///< an area round it
+constexpr std::uint64_t MOVER = 12;  ///< a vehicle out of range, which moves
+constexpr std::uint64_t FIRST_NEAR = 20;
+constexpr std::uint64_t NUMBER_NEAR = 8;
+constexpr std::uint64_t FIRST_FAR = 1000;
+constexpr float RANGE = 100;
+constexpr float NEAREST_FAR = 250;
+constexpr const char* NEAR = "20 21 22 23 24 25 26 27";
+
+void spawn(qsf::Map& map, const char* prefab, std::uint64_t id, const glm::vec3& position) {
+  qsf::Entity* entity = map.createObjectByLocalPrefabAssetId(std::string("em5/prefab/test/") + prefab, id);
+  entity->getComponent<qsf::TransformComponent>()->setPosition(position);
+}
+
+/// Places all over the map but near the middle, in an order without order.
+std::vector<glm::vec3> makeFarPlaces(std::size_t count) {
+  std::vector<glm::vec3> places;
+  for (float x = -1000; x <= 1000; x += 8)
+    for (float z = -1000; z <= 1000; z += 8)
+      if (glm::length(glm::vec2(x, z)) > NEAREST_FAR) places.emplace_back(x, 0, z);
+  std::uint32_t random = 1;
+  for (std::size_t i = places.size() - 1; i > 0; --i) {
+    random = random * 1664525 + 1013904223;
+    std::swap(places[i], places[random % (i + 1)]);
+  }
+  places.resize(count);
+  return places;
+}
+
+void fill(qsf::Map& map, std::int64_t count) {
+  constexpr const char* PREFABS[] = {"civilian", "tree", "civil_car", "house"};
+  spawn(map, "police_car", CENTER, {0, 0, 0});
+  spawn(map, "sensor", SENSOR, {0, 0, 0});
+  spawn(map, "tow_truck", MOVER, {300, 20, 300});
+  for (std::uint64_t i = 0; i < NUMBER_NEAR; ++i)
+    spawn(map, "firefighter", FIRST_NEAR + i, {static_cast<float>(i) * 2 - 8, 0, 7});
+  std::uint64_t id = FIRST_FAR;
+  for (const glm::vec3& place : makeFarPlaces(static_cast<std::size_t>(count))) {
+    spawn(map, PREFABS[id % std::size(PREFABS)], id, place);
+    ++id;
+  }
+}
+
+/// The game that all benchmarks run in. Benchmarks of one size follow each other, so it is seldom made anew.
+class World {
+public:
+  World() : mSession(em5::HostSession::Options()) {
+    mSession.mountBaseProject(TIDEMARK_DATA_DIRECTORY "/em5");
+    mSession.startup();
+    mSession.setMapPreparation([this](qsf::Map& map) { fill(map, mCount); });
+  }
+  qsf::Map& of(std::int64_t count) {
+    if (mCount != count) {
+      mCount = count;
+      mSession.startGame("em5/map/test/empty");
+      // The first question about a class builds its grid.
+      qsf::ComponentMapQuery(qsf::getMainMap())
+          .getInstancesInCircleById(qsf::MetadataComponent::COMPONENT_ID, {0, 0, 0}, 1);
+    }
+    return qsf::getMainMap();
+  }
+
+private:
+  em5::HostSession mSession;
+  std::int64_t mCount = 0;
+};
+
+World* world = nullptr; ///< lives in main
+
+/// A script that runs in the world, a tick at a time.
+class Script {
+public:
+  explicit Script(const std::string& text) : mDocument(script::ScriptParser().parseText(text, "bench", "bench/world")) {
+    mHandler.SetDocument(mDocument.get());
+    mHandler.Start(script::StartKind::Realtime);
+  }
+  void tick() { mHandler.Update(mArguments); }
+  script::ScenarioHandler& handler() { return mHandler; }
+  bool isRead(std::size_t triggers) const { return mDocument->triggers.size() == triggers; }
+  std::uint64_t timesFired() const { return mDocument->triggers.back().timesFired; }
+
+private:
+  std::unique_ptr<script::ScriptDocument> mDocument;
+  script::ScenarioHandler mHandler{std::make_shared<script::GlobalStores>()};
+  qsf::JobArguments mArguments{qsf::Time::fromMilliseconds(50)};
+};
+
+struct Entry {
+  const char* name;
+  const char* lines; ///< the condition or effect that is measured
+  const char* list;  ///< list by whose size the result is proved
+  std::int64_t size; ///< its size; ALL: every far entity
+  bool isCondition = true;
+};
+constexpr std::int64_t ALL = -1;
+
+/// Entries for which only what is near counts.
+constexpr Entry LOCAL_ENTRIES[] = {
+    {"UnitsInArea, 8 in range", R"(UnitsInArea("10", "8", "100", "em5/prefab/test/firefighter", "==", "out");)", "out",
+     8},
+    {"IsAnyEntityInSensorArea, 8 inside", R"(IsAnyEntityInSensorArea("11", "em5::PersonComponent", "out");)", "out", 8},
+    {"IsUnitInSensorArea, 8 inside", R"(IsUnitInSensorArea("11", "near", "out");)", "out", 8},
+    {"DistanceToUnit, list of 8", R"(DistanceToUnit("10", "near", "100", "<", "out");)", "out", 8},
+    {"EntityHasComponent, list of 8", R"(EntityHasComponent("near", "em5::PersonComponent", "out");)", "out", 8},
+    {"PickClosestUnitsFromEntityList, 3 of 8", R"(PickClosestUnitsFromEntityList("near", "out", true, "3", "10");)",
+     "out", 3, false},
+    {"AddUnitsFromTypeToEntityList, 3 of 8",
+     R"(AddUnitsFromTypeToEntityList("out", "PlayerPersons", true, "3", "10", "100");)", "out", 3, false},
+    {"SetTransform, there and back",
+     "SetTransform(\"12\", true, \"300 20 300\");\nSetTransform(\"12\", true, \"500 20 -400\");", "near", 8, false},
+    {"SpawnObject and DestroyObject",
+     "ClearEntityIdList(\"out\");\nSpawnObject(\"em5/prefab/test/civilian\", \"out\", true, \"-400 0 "
+     "-404\");\nDestroyObject(\"out\");",
+     "out", 1, false},
+};
+
+/// Entries that work on every entity.
+constexpr Entry WHOLE_ENTRIES[] = {
+    {"GetAllEntitiesWithComponent", R"(GetAllEntitiesWithComponent("out", "qsf::BulletCollisionComponent");)", "", 0,
+     false},
+    {"EntityHasComponent", R"(EntityHasComponent("all", "qsf::MetadataComponent", "out");)", "out", ALL},
+    {"DistanceToUnit", R"(DistanceToUnit("10", "all", "200", ">", "out");)", "out", ALL},
+    {"IsUnitInSensorArea, none inside", R"(!IsUnitInSensorArea("11", "all", "out");)", "out", 0},
+    {"RemoveInvalidEntitiesFromList", R"(RemoveInvalidEntitiesFromList("all");)", "all", ALL, false},
+    {"RemoveAllEntitiesWithoutComponent", R"(RemoveAllEntitiesWithoutComponent("all", "qsf::TransformComponent");)",
+     "all", ALL, false},
+    {"PickClosestUnitsFromEntityList, 3", R"(PickClosestUnitsFromEntityList("all", "out", true, "3", "10");)", "out", 3,
+     false},
+    {"PickClosestUnitsFromEntityList, all", R"(PickClosestUnitsFromEntityList("all", "out", true, "99999", "10");)",
+     "out", ALL, false},
+    {"PickUnitsFromEntityList, no such cluster", R"(PickUnitsFromEntityList("all", "out", true, "900", "90");)", "out",
+     900, false},
+    {"AddEntityToEntityList", "ClearEntityIdList(\"out\");\nAddEntityToEntityList(\"all\", \"out\");", "out", ALL,
+     false},
+};
+
+std::string makeScript(const Entry& entry) {
+  // A second condition that never holds keeps the trigger from firing, so that a condition is measured alone.
+  return entry.isCondition
+             ? fmt::format("InitNewTrigger(\"T\",true,true);\nInitConditions();\n{}\n"
+                           "CompareValues(\"0\",\"==\",\"1\");\nInitEffects();\n",
+                           entry.lines)
+             : fmt::format("InitNewTrigger(\"T\",true,true);\nInitConditions();\nInitEffects();\n{}\n", entry.lines);
+}
+
+void run(benchmark::State& state, const Entry& entry) {
+  qsf::Map& map = world->of(state.range(0));
+  Script script(makeScript(entry));
+  script::ScenarioHandler& handler = script.handler();
+  for (std::uint64_t id = FIRST_NEAR; id < FIRST_NEAR + NUMBER_NEAR; ++id)
+    handler.AddToEntityList(std::string("near"), id);
+  for (std::int64_t i = 0; i < state.range(0); ++i)
+    handler.AddToEntityList(std::string("all"), FIRST_FAR + static_cast<std::uint64_t>(i));
+  for (auto _ : state) {
+    script.tick();
+    map.collectGarbage(); // as a frame's end does
+  }
+  const std::int64_t expected = entry.size == ALL ? state.range(0) : entry.size;
+  const auto size = static_cast<std::int64_t>(handler.ResolveEntityList(std::string(entry.list)).size());
+  if (!script.isRead(1) || (script.timesFired() == 0) != entry.isCondition || (*entry.list && size != expected))
+    state.SkipWithError("the entry did not do what is measured");
+}
+
+// The same questions to the host, without a script.
+
+void circleQuery(benchmark::State& state) {
+  const qsf::ComponentMapQuery query(world->of(state.range(0)));
+  std::size_t found = 0;
+  for (auto _ : state)
+    found = query.getInstancesInCircleById(qsf::MetadataComponent::COMPONENT_ID, {0, 0, 0}, RANGE).size();
+  if (found != NUMBER_NEAR + 2) state.SkipWithError("the query did not find what is measured"); // and centre and area
+}
+
+void linearWalk(benchmark::State& state) {
+  const qsf::Map& map = world->of(state.range(0));
+  std::size_t count = 0;
+  for (auto _ : state) {
+    std::vector<qsf::Component*> found;
+    for (qsf::Component* component : map.getComponentInstances(qsf::MetadataComponent::COMPONENT_ID)) {
+      const auto* transform = component->getEntity().getComponent<qsf::TransformComponent>();
+      if (!transform) continue;
+      const glm::vec3& position = transform->getPosition();
+      if (position.x * position.x + position.z * position.z <= RANGE * RANGE) found.push_back(component);
+    }
+    benchmark::DoNotOptimize(found.data());
+    count = found.size();
+  }
+  if (count != NUMBER_NEAR + 2) state.SkipWithError("the walk did not find what is measured");
+}
+
+void rayQuery(benchmark::State& state) {
+  const qsf::RayMapQuery query(world->of(state.range(0)));
+  const qsf::Ray ray{{-4, 40, -33}, glm::normalize(glm::vec3(0, -39, 40))};
+  const qsf::Entity* entity = nullptr;
+  for (auto _ : state)
+    entity = query.getFirstHit(ray).entity;
+  if (!entity || entity->getId() != FIRST_NEAR + 2) state.SkipWithError("the ray did not hit what is measured");
+}
+
+struct HostQuestion {
+  const char* name;
+  void (*function)(benchmark::State&);
+};
+constexpr HostQuestion HOST_QUESTIONS[] = {
+    {"circle query of the host, 10 in range", &circleQuery},
+    {"linear walk for the same", &linearWalk},
+    {"ray from the camera to a person", &rayQuery},
+};
+
+void registerAll() {
+  for (const std::int64_t count : COUNTS) {
+    const auto add = [count](const char* name, auto&& function) {
+      benchmark::RegisterBenchmark(name, function)->Arg(count)->Unit(benchmark::kMicrosecond);
+    };
+    for (const HostQuestion& question : HOST_QUESTIONS)
+      add(question.name, question.function);
+    for (const Entry& entry : LOCAL_ENTRIES)
+      add(entry.name, [&entry](benchmark::State& state) { run(state, entry); });
+    for (const Entry& entry : WHOLE_ENTRIES)
+      add(fmt::format("each: {}", entry.name).c_str(), [&entry](benchmark::State& state) { run(state, entry); });
+  }
+}
+
+Table makeTable(const Results& results) {
+  using tidemark::bench::grouped;
+  using tidemark::bench::oneDigit;
+  Table table({"entities on the map", grouped(COUNTS[0]), grouped(COUNTS[1]), "ratio"});
+  const auto nanoseconds = [&](const std::string& name, std::int64_t count) {
+    return results.nanoseconds(fmt::format("{}/{}", name, count));
+  };
+  const auto addLocal = [&](const std::string& name) {
+    const double few = nanoseconds(name, COUNTS[0]);
+    const double many = nanoseconds(name, COUNTS[1]);
+    table.add({name + ", ns", grouped(few), grouped(many), oneDigit(many / few)});
+  };
+  for (const HostQuestion& question : HOST_QUESTIONS)
+    addLocal(question.name);
+  for (const Entry& entry : LOCAL_ENTRIES)
+    addLocal(entry.name);
+  for (const Entry& entry : WHOLE_ENTRIES) {
+    const std::string name = fmt::format("each: {}", entry.name);
+    const double few = nanoseconds(name, COUNTS[0]) / static_cast<double>(COUNTS[0]);
+    const double many = nanoseconds(name, COUNTS[1]) / static_cast<double>(COUNTS[1]);
+    table.add({fmt::format("{} over all, ns each", entry.name), oneDigit(few), oneDigit(many), oneDigit(many / few)});
+  }
+  return table;
+}
+
+}
+
+int main(int argc, char** argv) {
+  World theWorld;
+  world = &theWorld;
+  registerAll();
+  // Benchmarks of one size stay together: another size means another map.
+  char inOrder[] = "--benchmark_enable_random_interleaving=false";
+  std::vector<char*> arguments(argv, argv + argc);
+  arguments.insert(arguments.begin() + 1, inOrder);
+  return tidemark::bench::runAndPrint(static_cast<int>(arguments.size()), arguments.data(), &makeTable);
+}
