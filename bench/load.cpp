@@ -1,8 +1,8 @@
 // What loading costs: from a file on disk to finished records, in lines a second, and the memory that stays, in bytes
 // per trigger. A trigger is the five lines of the tick benchmark, each with a variable of its own.
 #include "bench/support/Benchmarks.h"
-#include "game_plugin/scenario/Records.h"
-#include "game_plugin/scenario/ScriptParser.h"
+#include "game_plugin/scenario/language/ScriptParser.h"
+#include "game_plugin/scenario/records/Records.h"
 
 #include <fmt/format.h>
 

@@ -4,9 +4,9 @@
 //   idle    CompareValues("v_i","==","1") is false, a second condition stands behind it
 //   firing  CompareValues("v_i",">=","0") holds, VariableModify("v_i","+","1","v_i") runs, in each tick
 #include "bench/support/Benchmarks.h"
-#include "game_plugin/scenario/Records.h"
 #include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/ScriptParser.h"
+#include "game_plugin/scenario/language/ScriptParser.h"
+#include "game_plugin/scenario/records/Records.h"
 
 #include "qsf/job/JobArguments.h"
 

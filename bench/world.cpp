@@ -4,7 +4,7 @@
 // on every entity of the map, and its cost for each of them should stay the same.
 #include "bench/support/Benchmarks.h"
 #include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/ScriptParser.h"
+#include "game_plugin/scenario/language/ScriptParser.h"
 
 #include "em5/game/HostSession.h"
 #include "qsf/Qsf.h"

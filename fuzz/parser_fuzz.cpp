@@ -1,8 +1,8 @@
 // Fuzzes the script language: whatever bytes a file holds, reading it neither crashes nor hangs, and the tokeniser's
 // fast path agrees with the grammar on each line.
-#include "game_plugin/scenario/Records.h"
-#include "game_plugin/scenario/ScriptParser.h"
-#include "game_plugin/scenario/ScriptTokenizer.h"
+#include "game_plugin/scenario/language/ScriptParser.h"
+#include "game_plugin/scenario/language/ScriptTokenizer.h"
+#include "game_plugin/scenario/records/Records.h"
 
 #include "qsf/Qsf.h"
 #include "qsf/log/LogSystem.h"

@@ -1,9 +1,9 @@
 #include "game_plugin/plugin/Plugin.h"
 
 #include "game_plugin/plugin/Version.h"
-#include "game_plugin/scenario/FiringLedger.h"
 #include "game_plugin/scenario/Log.h"
-#include "game_plugin/scenario/MapScriptManager.h"
+#include "game_plugin/scenario/lifecycle/FiringLedger.h"
+#include "game_plugin/scenario/lifecycle/MapScriptManager.h"
 
 #include "em5/game/Game.h"
 #include "em5/gui/EmergencyGui.h"

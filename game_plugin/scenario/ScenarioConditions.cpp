@@ -1,8 +1,8 @@
 #include "game_plugin/scenario/ScenarioConditions.h"
 
-#include "game_plugin/scenario/EntryIndex.h"
 #include "game_plugin/scenario/Log.h"
-#include "game_plugin/scenario/ParameterReaders.h"
+#include "game_plugin/scenario/language/ParameterReaders.h"
+#include "game_plugin/scenario/records/EntryIndex.h"
 
 namespace script {
 

@@ -1,5 +1,5 @@
 #pragma once
-#include "game_plugin/scenario/EntryGroup.h"
+#include "game_plugin/scenario/records/EntryGroup.h"
 
 #include <memory>
 #include <vector>

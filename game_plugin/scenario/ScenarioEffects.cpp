@@ -1,10 +1,10 @@
 #include "game_plugin/scenario/ScenarioEffects.h"
 
-#include "game_plugin/scenario/EntryIndex.h"
 #include "game_plugin/scenario/Log.h"
 #include "game_plugin/scenario/ScenarioConditions.h"
 #include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/UseConditionalBlockEffect.h"
+#include "game_plugin/scenario/records/EntryIndex.h"
+#include "game_plugin/scenario/records/UseConditionalBlockEffect.h"
 
 #include <algorithm>
 #include <stdexcept>

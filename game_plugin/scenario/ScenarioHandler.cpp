@@ -1,9 +1,9 @@
 #include "game_plugin/scenario/ScenarioHandler.h"
 
-#include "game_plugin/scenario/JsonStore.h"
 #include "game_plugin/scenario/LocalPlayer.h"
 #include "game_plugin/scenario/Log.h"
-#include "game_plugin/scenario/MapScriptManager.h"
+#include "game_plugin/scenario/lifecycle/MapScriptManager.h"
+#include "game_plugin/scenario/stores/JsonStore.h"
 
 #include "em5/base/Jobs.h"
 

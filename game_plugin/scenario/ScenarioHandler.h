@@ -1,10 +1,10 @@
 #pragma once
-#include "game_plugin/scenario/Argument.h"
-#include "game_plugin/scenario/EntityList.h"
-#include "game_plugin/scenario/Records.h"
 #include "game_plugin/scenario/ScenarioConditions.h"
 #include "game_plugin/scenario/ScenarioEffects.h"
-#include "game_plugin/scenario/Store.h"
+#include "game_plugin/scenario/records/Records.h"
+#include "game_plugin/scenario/stores/Argument.h"
+#include "game_plugin/scenario/stores/EntityList.h"
+#include "game_plugin/scenario/stores/Store.h"
 
 #include "qsf/job/JobProxy.h"
 

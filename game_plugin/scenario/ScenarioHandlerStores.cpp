@@ -1,9 +1,9 @@
-#include "game_plugin/scenario/JsonStore.h"
 #include "game_plugin/scenario/Log.h"
 #include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/TextConversion.h"
-#include "game_plugin/scenario/Vocabulary.h"
+#include "game_plugin/scenario/language/TextConversion.h"
+#include "game_plugin/scenario/language/Vocabulary.h"
 #include "game_plugin/scenario/shared/RemainingIds.h"
+#include "game_plugin/scenario/stores/JsonStore.h"
 
 #include "qsf/Qsf.h"
 #include "qsf/base/Random.h"

@@ -1,7 +1,7 @@
 #include "game_plugin/tooling/Tooling.h"
 
-#include "game_plugin/scenario/JsonStore.h"
-#include "game_plugin/scenario/MapScriptManager.h"
+#include "game_plugin/scenario/lifecycle/MapScriptManager.h"
+#include "game_plugin/scenario/stores/JsonStore.h"
 
 #include "em5/game/Game.h"
 #include "em5/gui/EmergencyGui.h"

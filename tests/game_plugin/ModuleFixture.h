@@ -1,6 +1,6 @@
 #pragma once
 #include "game_plugin/plugin/Plugin.h"
-#include "game_plugin/scenario/MapScriptManager.h"
+#include "game_plugin/scenario/lifecycle/MapScriptManager.h"
 #include "host/em5/SessionFixture.h"
 
 #include "qsf/message/MessageSystem.h"

@@ -1,5 +1,5 @@
 #pragma once
-#include "game_plugin/scenario/ParameterReaders.h"
+#include "game_plugin/scenario/language/ParameterReaders.h"
 #include "game_plugin/scenario/shared/ComponentWalk.h"
 
 namespace script {

@@ -1,6 +1,6 @@
 #include "game_plugin/scenario/shared/VectorArgument.h"
 
-#include "game_plugin/scenario/TextConversion.h"
+#include "game_plugin/scenario/language/TextConversion.h"
 
 #include "qsf/math/EulerAngles.h"
 

@@ -1,4 +1,4 @@
-#include "AllocationCounter.h"
+#include "tests/game_plugin/scenario/AllocationCounter.h"
 
 #include <atomic>
 #include <cstdlib>
@@ -12,8 +12,7 @@ std::size_t getNumberOfAllocations() { return allocations; }
 
 void* operator new(std::size_t size) {
   ++allocations;
-  if (void* memory = std::malloc(size ? size : 1))
-    return memory;
+  if (void* memory = std::malloc(size ? size : 1)) return memory;
   throw std::bad_alloc();
 }
 void operator delete(void* memory) noexcept { std::free(memory); }

@@ -1,7 +1,7 @@
-#include "LogCapture.h"
-#include "game_plugin/scenario/ParameterReaders.h"
 #include "game_plugin/scenario/ScenarioConditions.h"
 #include "game_plugin/scenario/ScenarioEffects.h"
+#include "game_plugin/scenario/language/ParameterReaders.h"
+#include "tests/game_plugin/scenario/LogCapture.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #include "game_plugin/scenario/ScenarioHandler.h"
 
-#include "AllocationCounter.h"
-#include "LogCapture.h"
-#include "game_plugin/scenario/ScriptParser.h"
+#include "game_plugin/scenario/language/ScriptParser.h"
+#include "tests/game_plugin/scenario/AllocationCounter.h"
+#include "tests/game_plugin/scenario/LogCapture.h"
 
 #include "qsf/job/JobManagers.h"
 

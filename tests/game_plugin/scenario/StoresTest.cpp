@@ -1,5 +1,5 @@
-#include "game_plugin/scenario/JsonStore.h"
 #include "game_plugin/scenario/ScenarioHandler.h"
+#include "game_plugin/scenario/stores/JsonStore.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 
 #include "game_plugin/ModuleFixture.h"
 
-#include "game_plugin/scenario/JsonStore.h"
+#include "game_plugin/scenario/stores/JsonStore.h"
 
 extern "C" script::tooling::Tooling* GetTidemarkTooling();
 

@@ -1,4 +1,4 @@
-#include "game_plugin/scenario/ParameterReaders.h"
+#include "game_plugin/scenario/language/ParameterReaders.h"
 #include "game_plugin/scenario/shared/ComponentWalk.h"
 
 #include <camp/class.hpp>

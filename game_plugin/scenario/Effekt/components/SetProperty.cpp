@@ -1,4 +1,4 @@
-#include "game_plugin/scenario/TextConversion.h"
+#include "game_plugin/scenario/language/TextConversion.h"
 #include "game_plugin/scenario/shared/SetPropertyOfAll.h"
 
 #include <optional>

@@ -1,5 +1,5 @@
-#include "game_plugin/scenario/ParameterReaders.h"
 #include "game_plugin/scenario/ScenarioHandler.h"
+#include "game_plugin/scenario/language/ParameterReaders.h"
 
 #include "em5/gui/EmergencyGui.h"
 

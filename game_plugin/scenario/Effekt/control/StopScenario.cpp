@@ -1,7 +1,7 @@
 #include "game_plugin/scenario/Log.h"
-#include "game_plugin/scenario/MapScriptManager.h"
-#include "game_plugin/scenario/ParameterReaders.h"
-#include "game_plugin/scenario/ReadableFile.h"
+#include "game_plugin/scenario/language/ParameterReaders.h"
+#include "game_plugin/scenario/lifecycle/MapScriptManager.h"
+#include "game_plugin/scenario/lifecycle/ReadableFile.h"
 
 namespace script {
 

@@ -1,5 +1,5 @@
-#include "game_plugin/scenario/ParameterReaders.h"
-#include "game_plugin/scenario/UseConditionalBlockEffect.h"
+#include "game_plugin/scenario/language/ParameterReaders.h"
+#include "game_plugin/scenario/records/UseConditionalBlockEffect.h"
 
 namespace script {
 

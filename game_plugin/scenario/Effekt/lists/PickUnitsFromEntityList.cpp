@@ -1,5 +1,5 @@
 #include "game_plugin/scenario/Log.h"
-#include "game_plugin/scenario/ParameterReaders.h"
+#include "game_plugin/scenario/language/ParameterReaders.h"
 #include "game_plugin/scenario/shared/ClosestSearch.h"
 #include "game_plugin/scenario/shared/PlaceTree.h"
 #include "game_plugin/scenario/shared/RemainingIds.h"

@@ -1,5 +1,5 @@
 #include "game_plugin/scenario/Log.h"
-#include "game_plugin/scenario/ParameterReaders.h"
+#include "game_plugin/scenario/language/ParameterReaders.h"
 #include "game_plugin/scenario/shared/EntityAccess.h"
 #include "game_plugin/scenario/shared/VectorArgument.h"
 

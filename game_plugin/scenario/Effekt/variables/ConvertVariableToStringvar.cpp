@@ -1,6 +1,6 @@
-#include "game_plugin/scenario/ParameterReaders.h"
 #include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/TextConversion.h"
+#include "game_plugin/scenario/language/ParameterReaders.h"
+#include "game_plugin/scenario/language/TextConversion.h"
 
 namespace script {
 

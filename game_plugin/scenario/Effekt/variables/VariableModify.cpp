@@ -1,6 +1,6 @@
-#include "game_plugin/scenario/ParameterReaders.h"
 #include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/Vocabulary.h"
+#include "game_plugin/scenario/language/ParameterReaders.h"
+#include "game_plugin/scenario/language/Vocabulary.h"
 
 #include <cmath>
 

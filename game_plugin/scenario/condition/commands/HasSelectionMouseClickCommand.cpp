@@ -1,5 +1,5 @@
 #include "game_plugin/component/ScenarioCommandableComponent.h"
-#include "game_plugin/scenario/ParameterReaders.h"
+#include "game_plugin/scenario/language/ParameterReaders.h"
 #include "game_plugin/scenario/shared/ListOut.h"
 #include "game_plugin/scenario/shared/Placeholder.h"
 #include "game_plugin/scenario/shared/Selection.h"

@@ -1,5 +1,5 @@
-#include "game_plugin/scenario/MapScriptManager.h"
-#include "game_plugin/scenario/ParameterReaders.h"
+#include "game_plugin/scenario/language/ParameterReaders.h"
+#include "game_plugin/scenario/lifecycle/MapScriptManager.h"
 #include "game_plugin/scenario/shared/Placeholder.h"
 
 #include <algorithm>

@@ -1,5 +1,5 @@
 #pragma once
-#include "game_plugin/scenario/ParameterReaders.h"
+#include "game_plugin/scenario/language/ParameterReaders.h"
 #include "game_plugin/scenario/shared/ListOut.h"
 
 #include "em5/map/EntityHelper.h"

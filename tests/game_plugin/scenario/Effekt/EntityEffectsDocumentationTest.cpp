@@ -1,5 +1,5 @@
-#include "game_plugin/scenario/ParameterReaders.h"
 #include "game_plugin/scenario/ScenarioEffects.h"
+#include "game_plugin/scenario/language/ParameterReaders.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/ScriptParser.h"
+#include "game_plugin/scenario/language/ScriptParser.h"
 #include "game_plugin/scenario/shared/ClosestSearch.h"
 #include "tests/game_plugin/scenario/LogCapture.h"
 

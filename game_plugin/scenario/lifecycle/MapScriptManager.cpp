@@ -1,0 +1,193 @@
+#include "game_plugin/scenario/lifecycle/MapScriptManager.h"
+
+#include "game_plugin/scenario/Log.h"
+#include "game_plugin/scenario/language/ScriptParser.h"
+#include "game_plugin/scenario/lifecycle/FiringLedger.h"
+#include "game_plugin/scenario/lifecycle/PreCommandCheck.h"
+
+#include "em5/base/Jobs.h"
+#include "em5/base/Messages.h"
+#include "em5/game/Game.h"
+#include "em5/gui/EmergencyGui.h"
+#include "em5/plugin/Plugin.h"
+#include "qsf/Qsf.h"
+#include "qsf/asset/AssetProxy.h"
+#include "qsf/map/Map.h"
+
+#include <algorithm>
+
+namespace script {
+
+namespace {
+
+MapScriptManager* theManager = nullptr;
+
+bool hasGame() { return static_cast<bool>(qsf::UniqueInstance<em5::Game>()); }
+bool hasGui() { return static_cast<bool>(qsf::UniqueInstance<em5::EmergencyGui>()); }
+
+/// Takes over a document. Handlers and tools may point at one long after its script has stopped, so none ever goes.
+ScriptDocument* keepForGood(ScriptDocument* document) {
+  static auto& documents = *new std::vector<std::unique_ptr<ScriptDocument>>;
+  documents.emplace_back(document);
+  return document;
+}
+
+bool isMainMap(const std::string& map) {
+  const qsf::AssetProxy proxy(map);
+  return proxy.getAsset() && proxy.getGlobalAssetId() == qsf::getMainMap().getGlobalAssetId();
+}
+
+}
+
+MapScriptManager::MapScriptManager() : MapScriptManager(true) {}
+
+MapScriptManager::MapScriptManager(bool writeDocumentation) : mParser(std::make_unique<ScriptParser>()) {
+  theManager = this;
+  LoadConfiguration(writeDocumentation);
+  mGameStartupMessageProxy.registerAt(em5::Messages::GAME_STARTUP_FINISHED,
+                                      [this](const qsf::MessageParameters&) { OnGameStartupFinished(); });
+  mGameShutdownMessageProxy.registerAt(em5::Messages::GAME_SHUTDOWN_STARTING,
+                                       [this](const qsf::MessageParameters&) { DoShutdown(); });
+}
+
+MapScriptManager::~MapScriptManager() {
+  DoShutdown();
+  for (ScenarioHandler* handler : mLeftRunning)
+    ScenarioHandler::Retire(handler);
+  ForgetScripts();
+  if (theManager == this) theManager = nullptr;
+}
+
+MapScriptManager* MapScriptManager::Get() { return theManager; }
+
+MapScriptManager& MapScriptManager::Replace(bool writeDocumentation) {
+  delete theManager;
+  return *new MapScriptManager(writeDocumentation);
+}
+
+void MapScriptManager::LoadConfiguration(bool /*writeDocumentation*/) {
+  logInfo("***** MapscriptManager started succesfully *****");
+  logInfo("");
+  ForgetScripts();
+  if (em5::Plugin* game = em5::Plugin::getInstance())
+    for (const auto& mod : game->getModSystem().getMods())
+      if (mod->isMounted() && mod->isEnabled()) ReadMod(*mod);
+
+  if (!hasGame() || !hasGui()) // the editor
+    mEditorJobProxy.registerAt(
+        em5::Jobs::ANIMATION_VEHICLE, [this](const qsf::JobArguments& arguments) { EditorJob(arguments); },
+        qsf::jobs::JobConfiguration(2));
+  ParseScripts();
+  if (hasGui()) StartGameScript();
+}
+
+void MapScriptManager::ParseScripts() {
+  for (MapScriptEntry* entry : mScriptEntries) {
+    entry->document = keepForGood(mParser->parse(entry->path, entry->globalNamePrefix));
+    FiringLedger::restore(*entry);
+  }
+}
+
+/// Only the first one ever runs: it is the game's one script, and starts once per manager.
+void MapScriptManager::StartGameScript() {
+  const auto found = std::find_if(mScriptEntries.begin(), mScriptEntries.end(),
+                                  [](const MapScriptEntry* entry) { return entry->mode == ScriptMode::GameStartup; });
+  if (found != mScriptEntries.end()) StartScript(**found);
+}
+
+void MapScriptManager::StartScript(MapScriptEntry& entry) {
+  if (entry.handler) mLeftRunning.push_back(entry.handler);
+  entry.handler = new ScenarioHandler(mGlobalStores);
+  entry.handler->SetDocument(entry.document);
+  entry.handler->Start(entry.mode == ScriptMode::MapStartupSimulation ? StartKind::Simulation : StartKind::Realtime);
+}
+
+void MapScriptManager::OnGameStartupFinished() {
+  if (hasGame() && hasGui()) StartMapScripts();
+}
+
+void MapScriptManager::StartMapScripts() {
+  mBlockedEntityIds.clear();
+  StartScriptsOfMap(
+      [](ScriptMode mode) { return mode == ScriptMode::MapStartup || mode == ScriptMode::MapStartupSimulation; });
+  mPreCommandMessageProxy.registerAt(em5::Messages::EM5_PRE_COMMAND_EXECUTE,
+                                     [this](const qsf::MessageParameters& parameters) {
+                                       if (isExtinguishingBlocked(parameters, mBlockedEntityIds))
+                                         parameters.setResponse(qsf::MessageParameters::RESPONSE_BLOCK);
+                                     });
+}
+
+void MapScriptManager::StartScriptsOfMap(bool (*isStarted)(ScriptMode)) {
+  for (MapScriptEntry* entry : mScriptEntries)
+    if (isStarted(entry->mode) && std::any_of(entry->maps.begin(), entry->maps.end(),
+                                              [](const std::string& map) { return map == "All" || isMainMap(map); }))
+      StartScript(*entry);
+}
+
+void MapScriptManager::EditorJob(const qsf::JobArguments& arguments) {
+  logInfo("create MSG reciever");
+  mEditorDelay += arguments.getTimePassed();
+  if (mEditorDelay < qsf::Time::fromSeconds(0.1)) return;
+  logInfo("Editor Mode started");
+  logInfo("create MSG reciever2");
+  mBlockedEntityIds.clear();
+  StartScriptsOfMap([](ScriptMode mode) { return mode == ScriptMode::EditorStartup; });
+  mEditorJobProxy.unregister();
+}
+
+void MapScriptManager::StartTemporaryScript(const std::string& path) {
+  // Kept: one instance per known script of another path. Scripts that start others count on the number.
+  const std::size_t known = mScriptEntries.size();
+  for (std::size_t i = 0; i < known; ++i) {
+    if (mScriptEntries[i]->path == path) continue;
+    if (mScriptEntries.size() >= MAXIMUM_SCRIPTS) {
+      logError("MapscriptManager: " + std::to_string(MAXIMUM_SCRIPTS) +
+               " scripts are running or waiting; no further instance of " + path + " is started");
+      return;
+    }
+    MapScriptEntry* entry = new MapScriptEntry;
+    entry->mode = ScriptMode::Temporary;
+    entry->path = path;
+    entry->key = path;
+    entry->document = keepForGood(mParser->parse(path, entry->globalNamePrefix));
+    mScriptEntries.push_back(entry);
+    StartScript(*entry);
+    logInfo("\tMapscriptManager: succesfully initialize new temproray Scenario " + path);
+  }
+}
+
+void MapScriptManager::StopScript(const std::string& path) {
+  // Kept: the walk goes on behind the place of a removed entry, so of two neighbours with one path the second stays.
+  for (std::size_t i = 0; i < mScriptEntries.size(); ++i) {
+    if (mScriptEntries[i]->path != path) continue;
+    ScenarioHandler::Retire(std::exchange(mScriptEntries[i]->handler, nullptr));
+    RemoveEntry(i);
+  }
+}
+
+void MapScriptManager::DoShutdown() {
+  logInfo("DoShutdown Started");
+  mPreCommandMessageProxy.unregister();
+  // Kept: the entry behind a forgotten temporary one is skipped, and its script goes on into the next map.
+  for (std::size_t i = 0; i < mScriptEntries.size(); ++i) {
+    ScenarioHandler::Retire(std::exchange(mScriptEntries[i]->handler, nullptr));
+    if (mScriptEntries[i]->mode == ScriptMode::Temporary) RemoveEntry(i);
+  }
+  logInfo("DoShutdown Finished");
+}
+
+void MapScriptManager::ForgetScripts() {
+  while (!mScriptEntries.empty()) {
+    ScenarioHandler::Retire(mScriptEntries.back()->handler);
+    RemoveEntry(mScriptEntries.size() - 1);
+  }
+}
+
+void MapScriptManager::RemoveEntry(std::size_t index) {
+  MapScriptEntry* entry = mScriptEntries[index];
+  FiringLedger::store(*entry);
+  mScriptEntries.erase(mScriptEntries.begin() + static_cast<std::ptrdiff_t>(index));
+  delete entry;
+}
+
+}

@@ -1,0 +1,227 @@
+#include "game_plugin/scenario/lifecycle/MapScriptManager.h"
+
+#include "em5/base/Messages.h"
+#include "em5/command/CommandContext.h"
+#include "em5/component/CommandableComponent.h"
+#include "game_plugin/ModuleFixture.h"
+#include "qsf/log/FaultCounter.h"
+
+using namespace script;
+
+namespace {
+
+using MapScriptManagerTest = ModuleTest;
+
+const std::string COUNTING =
+    "InitNewTrigger(\"t\",true,true);\nInitEffects();\nVariableModify(\"n\",\"+\",\"1\",\"n\");\n";
+
+std::string effectOnce(const std::string& effect) {
+  return "InitNewTrigger(\"t\",true,false);\nInitEffects();\n" + effect;
+}
+
+TEST_F(MapScriptManagerTest, ModesAreTheirExactTexts) {
+  EXPECT_EQ(toScriptMode("GAME_STARTUP"), ScriptMode::GameStartup);
+  EXPECT_EQ(toScriptMode("MAP_STARTUP"), ScriptMode::MapStartup);
+  EXPECT_EQ(toScriptMode("TEMPORARY"), ScriptMode::Temporary);
+  EXPECT_EQ(toScriptMode("EDITOR_STARTUP"), ScriptMode::EditorStartup);
+  EXPECT_EQ(toScriptMode("MAP_STARTUP_SIMULATION"), ScriptMode::MapStartupSimulation);
+  EXPECT_EQ(toScriptMode("map_startup"), ScriptMode::Unknown);
+  EXPECT_EQ(toText(ScriptMode::MapStartupSimulation), "MAP_STARTUP_SIMULATION");
+}
+
+TEST_F(MapScriptManagerTest, AMapScriptRunsWithItsGame) {
+  addScript("a", "MAP_STARTUP", COUNTING);
+  load();
+  EXPECT_EQ(entry(0).handler, nullptr);
+  EXPECT_EQ(entry(0).globalNamePrefix, "mod/a.script");
+  EXPECT_EQ(entry(0).path, scriptPath("a"));
+  session->startGame(EMPTY_MAP);
+  ASSERT_NE(entry(0).handler, nullptr);
+  run(0.25);
+  EXPECT_EQ(entry(0).handler->ResolveFloat(std::string("n")), 5);
+  session->endGame();
+  EXPECT_EQ(entry(0).handler, nullptr);
+}
+
+TEST_F(MapScriptManagerTest, BracketsWithoutEndCostTheModOnly) {
+  addScript("a", "MAP_STARTUP", COUNTING);
+  loadList("{\"MapScripts\": " + std::string(500'000, '['));
+  EXPECT_TRUE(manager().GetScriptEntries().empty());
+  EXPECT_TRUE(logged(4, "MapScript.json"));
+}
+
+TEST_F(MapScriptManagerTest, AFolderIsNoScript) {
+  write("mod", "x64/tidemark/folder/x", "");
+  loadList("{\"MapScripts\": {\"a\": {\"Path\": \"folder\", \"Mode\": \"MAP_STARTUP\", \"Maps\": [\"All\"]}}}");
+  EXPECT_EQ(count(4, "MapscriptManager: a cant be created because the Mapscriptfile \"" + folder() +
+                         "/mod/x64/tidemark/folder\" does not exist or can't be open"),
+            1);
+}
+
+TEST_F(MapScriptManagerTest, ATemporaryScriptStartsOncePerScriptOfAnotherPath) {
+  addScript("a", "MAP_STARTUP", COUNTING);
+  addScript("b", "MAP_STARTUP", COUNTING);
+  start();
+  manager().StartTemporaryScript(scriptPath("b"));
+  ASSERT_EQ(manager().GetScriptEntries().size(), 3u);
+  EXPECT_EQ(entry(2).globalNamePrefix, "");
+  EXPECT_EQ(entry(2).document->triggers[0].globalName, "/t");
+  EXPECT_EQ(count(2, "\tMapscriptManager: succesfully initialize new temproray Scenario " + scriptPath("b")), 1);
+  manager().StartTemporaryScript("elsewhere");
+  EXPECT_EQ(manager().GetScriptEntries().size(), 6u);
+}
+
+TEST_F(MapScriptManagerTest, ATemporaryScriptNeedsAnEntryOfAnotherPath) {
+  addScript("only", "MAP_STARTUP", "InitNewTrigger(\"t\");");
+  start();
+  manager().StartTemporaryScript(scriptPath("only"));
+  EXPECT_EQ(manager().GetScriptEntries().size(), 1u) << "the one entry has that very path";
+  EXPECT_FALSE(logged(2, "succesfully initialize new temproray Scenario"));
+}
+
+TEST_F(MapScriptManagerTest, WithoutAnyEntryNothingStarts) {
+  loadList("{\"MapScripts\": {}}");
+  session->startGame(EMPTY_MAP);
+  write("mod", "x64/tidemark/temporary.script", "InitNewTrigger(\"t\");");
+  manager().StartTemporaryScript(scriptPath("temporary"));
+  EXPECT_TRUE(manager().GetScriptEntries().empty());
+}
+
+TEST_F(MapScriptManagerTest, MultiplicationEndsAtABound) {
+  addScript("a", "MAP_STARTUP", "");
+  addScript("b", "MAP_STARTUP", "");
+  start();
+  for (int i = 0; i < 40; ++i)
+    manager().StartTemporaryScript(scriptPath(i % 2 ? "a" : "b"));
+  EXPECT_EQ(manager().GetScriptEntries().size(), MapScriptManager::MAXIMUM_SCRIPTS);
+  EXPECT_TRUE(logged(4, "no further instance of"));
+}
+
+TEST_F(MapScriptManagerTest, StoppingSkipsTheNeighbour) {
+  addScript("a", "MAP_STARTUP", COUNTING);
+  start();
+  manager().StartTemporaryScript("x");
+  manager().StartTemporaryScript("y"); // two of them: next to each other
+  ASSERT_EQ(manager().GetScriptEntries().size(), 4u);
+  manager().StopScript("y");
+  ASSERT_EQ(manager().GetScriptEntries().size(), 3u);
+  EXPECT_EQ(entry(2).path, "y");
+  EXPECT_NE(entry(2).handler, nullptr);
+}
+
+TEST_F(MapScriptManagerTest, AScriptMayStopItself) {
+  addScript("a", "MAP_STARTUP",
+            effectOnce("StopScenario(\"" + folder() +
+                       "/mod/x64/tidemark/a.script\");\n"
+                       "DoLogEntry(\"INFO\",\"behind\");\n"));
+  start();
+  run(0.1);
+  EXPECT_TRUE(manager().GetScriptEntries().empty());
+  EXPECT_EQ(count(2, "behind"), 0);
+  EXPECT_EQ(session->getQsf().getFaultCounter().getCount(), 0u);
+}
+
+TEST_F(MapScriptManagerTest, TheEntryBehindATemporaryOneIsSkippedAtShutdownAndGoesOn) {
+  addScript("listed", "TEMPORARY", "");
+  addScript("b", "MAP_STARTUP", COUNTING);
+  start();
+  session->endGame();
+  ASSERT_EQ(manager().GetScriptEntries().size(), 1u);
+  EXPECT_EQ(entry(0).key, "b");
+  ScenarioHandler* skipped = entry(0).handler;
+  ASSERT_NE(skipped, nullptr);
+  session->runFrame(TICK);
+  EXPECT_EQ(skipped->ResolveFloat(std::string("n")), 1);
+  // The next map gives the entry a new handler; the skipped one goes on beside it until the manager ends.
+  session->startGame(EMPTY_MAP);
+  EXPECT_NE(entry(0).handler, skipped);
+  session->runFrame(TICK);
+  EXPECT_EQ(skipped->ResolveFloat(std::string("n")), 2);
+  EXPECT_EQ(entry(0).handler->ResolveFloat(std::string("n")), 1);
+}
+
+TEST_F(MapScriptManagerTest, MayBeReplacedWhileOneOfItsScriptsTicks) {
+  class ReloadAtLog {
+  public:
+    explicit ReloadAtLog(qsf::LogSystem& log) {
+      log.addListener([](const qsf::LogSystem::Record& record) {
+        if (record.message == "reload now") MapScriptManager::Replace(false);
+      });
+    }
+  };
+  addScript("a", "MAP_STARTUP", effectOnce("DoLogEntry(\"INFO\",\"reload now\");\nDoLogEntry(\"INFO\",\"behind\");\n"));
+  start();
+  const ReloadAtLog reload(session->getQsf().getLogSystem());
+  run(0.2);
+  EXPECT_EQ(count(2, "reload now"), 1);
+  EXPECT_EQ(count(2, "behind"), 0);
+  EXPECT_EQ(entry(0).handler, nullptr);
+  EXPECT_EQ(session->getQsf().getFaultCounter().getCount(), 0u);
+}
+
+TEST_F(MapScriptManagerTest, GlobalVariablesEndWithTheManager) {
+  addScript("a", "MAP_STARTUP", effectOnce("SetVariable(\"\xA7g\",\"4\");\n"));
+  start();
+  run(0.1);
+  session->startGame(EMPTY_MAP);
+  EXPECT_EQ(manager().GetGlobalStores()->variables.size(), 1u);
+  MapScriptManager::Replace(false);
+  EXPECT_EQ(manager().GetGlobalStores()->variables.size(), 0u);
+}
+
+class PreCommandCheckTest : public ModuleTest {
+protected:
+  void SetUp() override {
+    ModuleTest::SetUp();
+    write("mod", "order_info/fire/plain.json", R"({"name": "Plain"})");
+    write("mod", "order_info/fire/masked.json", R"({"name": "Masked", "tags": ["IgnoreSmoke"]})");
+    start();
+    manager().GetBlockedEntityIds() = {77};
+  }
+  static std::uint64_t placeUnit(const std::string& orderInfo) {
+    qsf::Entity* unit = qsf::getMainMap().createEntity();
+    unit->getOrCreateComponent<em5::CommandableComponent>()->setOrderInfo(orderInfo);
+    return unit->getId();
+  }
+  int ask(const char* command, std::uint64_t target, std::uint64_t caller = qsf::UNINITIALIZED_ID,
+          const em5::CommandContext* context = nullptr) {
+    qsf::MessageParameters parameters(qsf::MessageConfiguration(em5::Messages::EM5_PRE_COMMAND_EXECUTE,
+                                                                qsf::StringHash(command).getHash(), caller, target));
+    if (context) parameters.setParameter("context", context);
+    session->getQsf().getMessageSystem().emitMessage(parameters);
+    return parameters.getResponse();
+  }
+};
+
+TEST_F(PreCommandCheckTest, ExtinguishingABlockedEntityIsForbidden) {
+  for (const char* command :
+       {"em5::ExtinguishWithCannonCommand", "em5::ExtinguishWithHoseCommand", "em5::DLKExtinguishCommand"}) {
+    EXPECT_EQ(ask(command, 77), qsf::MessageParameters::RESPONSE_BLOCK) << command;
+    EXPECT_EQ(ask(command, 78), 0) << command;
+  }
+  EXPECT_EQ(ask("em5::MoveCommand", 77), 0);
+}
+
+TEST_F(PreCommandCheckTest, TheExtinguisherIsForbiddenToUnitsThatMindSmoke) {
+  const char* command = "em5::ExtinguishWithExtinguisherCommand";
+  const int blocks = qsf::MessageParameters::RESPONSE_BLOCK;
+  em5::CommandContext context;
+  const std::uint64_t plain = placeUnit("Plain");
+  EXPECT_EQ(ask(command, 77, plain, &context), blocks);
+  EXPECT_EQ(ask(command, 78, plain, &context), 0);
+  EXPECT_EQ(ask(command, 77, plain), 0) << "no context";
+  EXPECT_EQ(ask(command, 77, 55555, &context), 0) << "no such unit";
+  EXPECT_EQ(ask(command, 77, placeUnit("NoSuchOrderInfo"), &context), 0);
+  EXPECT_EQ(ask(command, 77, placeUnit("Masked"), &context), 0) << "the unit doesn't mind";
+  context.mConsiderSmoke = false;
+  EXPECT_EQ(ask(command, 77, plain, &context), 0) << "the order is given regardless of smoke";
+}
+
+TEST_F(PreCommandCheckTest, EndsWithTheGameAndForgetsAtTheNext) {
+  session->endGame();
+  EXPECT_EQ(ask("em5::ExtinguishWithHoseCommand", 77), 0);
+  session->startGame(EMPTY_MAP);
+  EXPECT_EQ(ask("em5::ExtinguishWithHoseCommand", 77), 0);
+}
+
+}
