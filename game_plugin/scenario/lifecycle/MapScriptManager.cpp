@@ -48,6 +48,10 @@ MapScriptManager::MapScriptManager(bool writeDocumentation) : mParser(std::make_
                                       [this](const qsf::MessageParameters&) { OnGameStartupFinished(); });
   mGameShutdownMessageProxy.registerAt(em5::Messages::GAME_SHUTDOWN_STARTING,
                                        [this](const qsf::MessageParameters&) { DoShutdown(); });
+  mFrameJobProxy.registerAt(em5::Jobs::ANIMATION_VEHICLE, [this](const qsf::JobArguments&) {
+    mStartsInFrame = 0;
+    mBoundTold = false;
+  });
 }
 
 MapScriptManager::~MapScriptManager() {
@@ -140,11 +144,7 @@ void MapScriptManager::StartTemporaryScript(const std::string& path) {
   const std::size_t known = mScriptEntries.size();
   for (std::size_t i = 0; i < known; ++i) {
     if (mScriptEntries[i]->path == path) continue;
-    if (mScriptEntries.size() >= MAXIMUM_SCRIPTS) {
-      logError("MapscriptManager: " + std::to_string(MAXIMUM_SCRIPTS) +
-               " scripts are running or waiting; no further instance of " + path + " is started");
-      return;
-    }
+    if (!MayStartAnother(path)) return;
     MapScriptEntry* entry = new MapScriptEntry;
     entry->mode = ScriptMode::Temporary;
     entry->path = path;
@@ -154,6 +154,19 @@ void MapScriptManager::StartTemporaryScript(const std::string& path) {
     StartScript(*entry);
     logInfo("\tMapscriptManager: succesfully initialize new temproray Scenario " + path);
   }
+}
+
+/// Told once a frame: thousands of scripts may ask.
+bool MapScriptManager::MayStartAnother(const std::string& path) {
+  if (mScriptEntries.size() < MAXIMUM_SCRIPTS && mStartsInFrame < MAXIMUM_SCRIPTS) {
+    ++mStartsInFrame;
+    return true;
+  }
+  if (!mBoundTold)
+    logError("MapscriptManager: " + std::to_string(MAXIMUM_SCRIPTS) +
+             " scripts are running or were started in this frame; no further instance of " + path + " is started");
+  mBoundTold = true;
+  return false;
 }
 
 void MapScriptManager::StopScript(const std::string& path) {

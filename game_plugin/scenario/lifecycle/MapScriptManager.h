@@ -79,9 +79,9 @@ public:
   /// Entities that may not be extinguished; emptied at each start.
   std::vector<std::uint64_t>& GetBlockedEntityIds() { return mBlockedEntityIds; }
 
-  /// More instances than this at a time are refused with an error: two scripts that start each other multiply without
-  /// end.
-  static constexpr std::size_t MAXIMUM_SCRIPTS = 10000;
+  /// More instances than this at a time, or more starts in a frame, are refused with an error: two scripts that start
+  /// each other multiply without end.
+  static constexpr std::size_t MAXIMUM_SCRIPTS = 2000;
 
 private:
   void ReadMod(const em5::Mod& mod);
@@ -95,6 +95,7 @@ private:
   void RemoveEntry(std::size_t index);
   /// Stops and removes all entries.
   void ForgetScripts();
+  bool MayStartAnother(const std::string& path);
   void EditorJob(const qsf::JobArguments& arguments);
   void OnGameStartupFinished();
 
@@ -107,6 +108,9 @@ private:
   qsf::MessageProxy mGameShutdownMessageProxy;
   std::vector<std::uint64_t> mBlockedEntityIds;
   qsf::MessageProxy mPreCommandMessageProxy;
+  std::size_t mStartsInFrame = 0; ///< of temporary scripts, those that have stopped included
+  bool mBoundTold = false;
+  qsf::JobProxy mFrameJobProxy;
   qsf::Time mEditorDelay;
   qsf::JobProxy mEditorJobProxy;
 };

@@ -97,6 +97,24 @@ TEST_F(MapScriptManagerTest, MultiplicationEndsAtABound) {
   EXPECT_TRUE(logged(4, "no further instance of"));
 }
 
+TEST_F(MapScriptManagerTest, ScriptsThatStopAndStartEachOtherAreBoundedInEachFrame) {
+  addScript("a", "MAP_STARTUP", "");
+  addScript("b", "MAP_STARTUP", "");
+  start();
+  for (int i = 0; i < 40; ++i)
+    manager().StartTemporaryScript(scriptPath(i % 2 ? "a" : "b"));
+  while (manager().GetScriptEntries().size() > 1)
+    manager().StopScript(manager().GetScriptEntries().back()->path);
+  const std::string other = manager().GetScriptEntries().front()->path == scriptPath("a") ? "b" : "a";
+  for (int i = 0; i < 5; ++i)
+    manager().StartTemporaryScript(scriptPath(other));
+  EXPECT_EQ(manager().GetScriptEntries().size(), 3u) << "the frame had two starts left";
+  EXPECT_EQ(std::count_if(log.begin(), log.end(), [](const auto& line) { return line.first == 4; }), 1);
+  run(0.05);
+  manager().StartTemporaryScript(scriptPath(other));
+  EXPECT_EQ(manager().GetScriptEntries().size(), 4u);
+}
+
 TEST_F(MapScriptManagerTest, StoppingSkipsTheNeighbour) {
   addScript("a", "MAP_STARTUP", COUNTING);
   start();
