@@ -35,6 +35,13 @@ bool isUtf8WithMultiByte(std::string_view text) {
     if (length == 0 || i + length > text.size()) return false;
     for (std::size_t k = 1; k < length; ++k)
       if ((static_cast<unsigned char>(text[i + k]) & 0xC0) != 0x80) return false;
+    // Longer forms than needed, surrogates and what lies behind the last code point are no UTF-8.
+    if (length > 2) {
+      const unsigned char next = static_cast<unsigned char>(text[i + 1]);
+      if ((lead == 0xE0 && next < 0xA0) || (lead == 0xED && next > 0x9F) || (lead == 0xF0 && next < 0x90) ||
+          (lead == 0xF4 && next > 0x8F))
+        return false;
+    }
     hasMultiByte |= length > 1;
     i += length;
   }
@@ -241,8 +248,8 @@ ScriptDocument* ScriptParser::parse(const std::string& path, const std::string& 
 ScriptDocument* ScriptParser::parseText(std::string_view text, const std::string& name,
                                         const std::string& globalNamePrefix) const {
   auto document = std::make_unique<ScriptDocument>();
+  document->writesMarkAsUtf8 = isUtf8WithMultiByte(text); // a byte order mark is such a character
   if (text.substr(0, BYTE_ORDER_MARK.size()) == BYTE_ORDER_MARK) text.remove_prefix(BYTE_ORDER_MARK.size());
-  document->writesMarkAsUtf8 = isUtf8WithMultiByte(text);
   ScriptReader reader(*document, globalNamePrefix);
   try {
     reader.readLines(text);

@@ -151,6 +151,10 @@ TEST(ScriptParser, TellsWhichEncodingTheFileUsesForTheGlobalMark) {
   EXPECT_EQ(parse("$ \xC2\xA7")->globalMark(), "\xC2\xA7");
   EXPECT_EQ(parse("$ \xA7")->globalMark(), "\xA7");
   EXPECT_EQ(parse("$ plain")->globalMark(), "\xA7");
+  EXPECT_EQ(parse("\xEF\xBB\xBF$ plain")->globalMark(), "\xC2\xA7") << "a byte order mark";
+  EXPECT_EQ(parse("$ \xE2\x82\xAC \xF0\x9F\x9A\x92")->globalMark(), "\xC2\xA7");
+  for (const char* text : {"$ \xE0\x80\xA7", "$ \xED\xA0\x80", "$ \xF0\x80\x80\xA7", "$ \xF4\x90\x80\x80", "$ \xC3"})
+    EXPECT_EQ(parse(text)->globalMark(), "\xA7") << text;
 }
 
 TEST(ScriptParser, HashesAreFnvOverSignedBytesAndTheTerminatingNul) {
