@@ -1,7 +1,7 @@
-// What scripts pay for the world: conditions and effects about areas, sensors and lists, on a map of 1 000 and of 50
-// 000 entities. In the first part eight persons stand round a unit and all others are out of range, so that the cost
-// should stay the same on both maps; a plain walk over all entities stands beside it. In the second part an entry works
-// on every entity of the map, and its cost for each of them should stay the same.
+// What scripts pay for the world: conditions and effects about areas, sensors and lists, on a small map and on one of
+// fifty thousand entities. In the first part eight persons stand round a unit and all others are out of range, so that
+// the cost should stay the same on both maps; a plain walk over all entities stands beside it. In the second part an
+// entry works on every entity of the map, and its cost for each should grow no more than that of the plain walk.
 #include "bench/support/Benchmarks.h"
 #include "game_plugin/scenario/ScenarioHandler.h"
 #include "game_plugin/scenario/language/ScriptParser.h"
@@ -129,6 +129,7 @@ constexpr Entry LOCAL_ENTRIES[] = {
      8},
     {"IsAnyEntityInSensorArea, 8 inside", R"(IsAnyEntityInSensorArea("11", "em5::PersonComponent", "out");)", "out", 8},
     {"IsUnitInSensorArea, 8 inside", R"(IsUnitInSensorArea("11", "near", "out");)", "out", 8},
+    {"IsUnitInSensorArea, list of all, none inside", R"(!IsUnitInSensorArea("11", "all", "out");)", "out", 0},
     {"DistanceToUnit, list of 8", R"(DistanceToUnit("10", "near", "100", "<", "out");)", "out", 8},
     {"EntityHasComponent, list of 8", R"(EntityHasComponent("near", "em5::PersonComponent", "out");)", "out", 8},
     {"PickClosestUnitsFromEntityList, 3 of 8", R"(PickClosestUnitsFromEntityList("near", "out", true, "3", "10");)",
@@ -149,7 +150,6 @@ constexpr Entry WHOLE_ENTRIES[] = {
      false},
     {"EntityHasComponent", R"(EntityHasComponent("all", "qsf::MetadataComponent", "out");)", "out", ALL},
     {"DistanceToUnit", R"(DistanceToUnit("10", "all", "200", ">", "out");)", "out", ALL},
-    {"IsUnitInSensorArea, none inside", R"(!IsUnitInSensorArea("11", "all", "out");)", "out", 0},
     {"RemoveInvalidEntitiesFromList", R"(RemoveInvalidEntitiesFromList("all");)", "all", ALL, false},
     {"RemoveAllEntitiesWithoutComponent", R"(RemoveAllEntitiesWithoutComponent("all", "qsf::TransformComponent");)",
      "all", ALL, false},
@@ -266,12 +266,15 @@ Table makeTable(const Results& results) {
     addLocal(question.name);
   for (const Entry& entry : LOCAL_ENTRIES)
     addLocal(entry.name);
-  for (const Entry& entry : WHOLE_ENTRIES) {
-    const std::string name = fmt::format("each: {}", entry.name);
+  const auto addEach = [&](const std::string& label, const std::string& name) {
     const double few = nanoseconds(name, COUNTS[0]) / static_cast<double>(COUNTS[0]);
     const double many = nanoseconds(name, COUNTS[1]) / static_cast<double>(COUNTS[1]);
-    table.add({fmt::format("{} over all, ns each", entry.name), oneDigit(few), oneDigit(many), oneDigit(many / few)});
-  }
+    table.add({label + ", ns each", oneDigit(few), oneDigit(many), oneDigit(many / few)});
+  };
+  // The walk tells what a larger map costs by itself: its entities no longer fit into the processor's caches.
+  addEach("linear walk over all", HOST_QUESTIONS[1].name);
+  for (const Entry& entry : WHOLE_ENTRIES)
+    addEach(fmt::format("{} over all", entry.name), fmt::format("each: {}", entry.name));
   return table;
 }
 
