@@ -4,6 +4,7 @@
 /// The injuries that a person can have, by the hash of their name.
 namespace em5::injury {
 
+inline constexpr qsf::StringHash DUMMY_INJURY{"DUMMY_INJURY"};
 inline constexpr qsf::StringHash BURN_3_GRADE{"BURN_3_GRADE"};
 inline constexpr qsf::StringHash BURN_4_GRADE{"BURN_4_GRADE"};
 inline constexpr qsf::StringHash BURN_OF_BREATH{"BURN_OF_BREATH"};
@@ -24,6 +25,7 @@ inline constexpr qsf::StringHash STAB_WOUND_BODY{"STAB_WOUND_BODY"};
 inline constexpr qsf::StringHash STAB_WOUND_BODY_INNER_BLEEDING{"STAB_WOUND_BODY_INNER_BLEEDING"};
 inline constexpr qsf::StringHash BITE_WOUND{"BITE_WOUND"};
 inline constexpr qsf::StringHash BITE_WOUND_BLEEDING{"BITE_WOUND_BLEEDING"};
+/// Also what a person gets that is injured without anyone saying how.
 inline constexpr qsf::StringHash HEAD_BODY_LACERATION{"HEAD_BODY_LACERATION"};
 inline constexpr qsf::StringHash ELECTRIC_SHOCK{"ELECTRIC_SHOCK"};
 inline constexpr qsf::StringHash SHOCK{"SHOCK"};

@@ -2,8 +2,8 @@
 
 #include "em5/base/Jobs.h"
 #include "em5/component/HealthComponent.h"
-#include "em5/component/Injuries.h"
 #include "em5/component/VehicleComponent.h"
+#include "em5/health/Injury.h"
 #include "qsf/map/ComponentMapQuery.h"
 #include "qsf/map/EntityHelper.h"
 #include "qsf/reflection/CampTypes.h"

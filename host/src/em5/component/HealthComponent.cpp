@@ -1,7 +1,7 @@
 #include "em5/component/HealthComponent.h"
 
 #include "em5/base/Jobs.h"
-#include "em5/component/Injuries.h"
+#include "em5/health/Injury.h"
 #include "qsf/reflection/CampTypes.h"
 
 #include <algorithm>
