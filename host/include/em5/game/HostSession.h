@@ -47,8 +47,8 @@ public:
   /// Throws qsf::LoadError; nothing is mounted then.
   Mod& mountMod(const std::string& directory, ModState state = {});
 
-  /// Ends the setup: reads the texts of the language from the mounted projects, then a game gets its em5::EmergencyGui, an
-  /// editor its qsf::editor::EditorApplication. Throws qsf::LoadError for a faulty text file.
+  /// Ends the setup: reads the texts of the language from the mounted projects, then a game gets its em5::EmergencyGui,
+  /// an editor its qsf::editor::EditorApplication. Throws qsf::LoadError for a faulty text file.
   void startup();
   /// Loads, installs and starts a plug-in library. False if its install or startup refused. Throws qsf::LoadError if
   /// the library or its factory can't be found.
