@@ -9,7 +9,6 @@
 #include <fstream>
 #include <iterator>
 #include <map>
-#include <regex>
 #include <set>
 
 using namespace script;
@@ -34,15 +33,17 @@ std::vector<std::string> effectNames() {
 
 /// Entry name to the stem of the file that closes it, for all sources below a folder of the module.
 std::multimap<std::string, std::string> entriesInSources(const std::string& folder, const std::string& macro) {
-  const std::regex closing("\n" + macro + "\\(\\s*(\\w+)\\s*,");
+  const std::string opening = "\n" + macro + "(";
   std::multimap<std::string, std::string> entries;
   for (const auto& file :
        std::filesystem::recursive_directory_iterator(TIDEMARK_SOURCE_DIRECTORY "/game_plugin/scenario/" + folder)) {
     if (file.path().extension() != ".cpp") continue;
     std::ifstream stream(file.path());
     const std::string text{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
-    for (std::sregex_iterator match(text.begin(), text.end(), closing), end; match != end; ++match)
-      entries.emplace((*match)[1], file.path().stem().string());
+    for (std::size_t at = text.find(opening); at != std::string::npos; at = text.find(opening, at + 1)) {
+      const std::size_t name = text.find_first_not_of(" \n", at + opening.size());
+      entries.emplace(text.substr(name, text.find_first_of(" \n,", name) - name), file.path().stem().string());
+    }
   }
   return entries;
 }
