@@ -32,17 +32,20 @@ std::vector<std::string> effectNames() {
 }
 
 /// Entry name to the stem of the file that closes it, for all sources below a folder of the module.
-std::multimap<std::string, std::string> entriesInSources(const std::string& folder, const std::string& macro) {
-  const std::string opening = "\n" + macro + "(";
+std::multimap<std::string, std::string> entriesInSources(const std::string& folder,
+                                                         const std::vector<std::string>& macros) {
   std::multimap<std::string, std::string> entries;
   for (const auto& file :
        std::filesystem::recursive_directory_iterator(TIDEMARK_SOURCE_DIRECTORY "/game_plugin/scenario/" + folder)) {
     if (file.path().extension() != ".cpp") continue;
     std::ifstream stream(file.path());
     const std::string text{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
-    for (std::size_t at = text.find(opening); at != std::string::npos; at = text.find(opening, at + 1)) {
-      const std::size_t name = text.find_first_not_of(" \n", at + opening.size());
-      entries.emplace(text.substr(name, text.find_first_of(" \n,", name) - name), file.path().stem().string());
+    for (const std::string& macro : macros) {
+      const std::string opening = "\n" + macro + "(";
+      for (std::size_t at = text.find(opening); at != std::string::npos; at = text.find(opening, at + 1)) {
+        const std::size_t name = text.find_first_not_of(" \n", at + opening.size());
+        entries.emplace(text.substr(name, text.find_first_of(" \n,", name) - name), file.path().stem().string());
+      }
     }
   }
   return entries;
@@ -61,11 +64,11 @@ void expectOneFileEach(const std::vector<std::string>& listed, const std::multim
 
 TEST(Catalogue, EachConditionHasItsLineAndItsFile) {
   expectOneFileEach(namesOf(ScenarioConditions(nullptr).groupsInCreationOrder()),
-                    entriesInSources("condition", "CONDITION"));
+                    entriesInSources("condition", {"CONDITION"}));
 }
 
 TEST(Catalogue, EachEffectHasItsLineAndItsFile) {
-  expectOneFileEach(effectNames(), entriesInSources("Effekt", "EFFECT(?:_OF_KIND)?"));
+  expectOneFileEach(effectNames(), entriesInSources("Effekt", {"EFFECT", "EFFECT_OF_KIND"}));
 }
 
 template <class Expected, class Group> bool isGroup(const Group* group) {
