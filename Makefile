@@ -39,7 +39,6 @@ fuzz: setup ## Fuzz the script parser for 60 seconds under sanitizers (FUZZ_SECO
 format: setup ## Format all sources in place
 	@clang-format -i $(OURS)
 
-lint: setup ## Check format and wording, and run clang-tidy on changed files (LINT_ALL=1: on all)
+lint: setup ## Check the format, and run clang-tidy on changed files (LINT_ALL=1: on all)
 	@clang-format --dry-run -Werror $(OURS)
-	@tools/check-words.sh
 	@tools/tidy.sh $(JOBS)
