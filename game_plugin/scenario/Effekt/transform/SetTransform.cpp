@@ -46,15 +46,16 @@ static void setPosition(const SetTransformEffect& effect, ScenarioHandler& handl
     transform->setPosition(resolveParts(handler, parts));
 }
 
+/// Unlike the position, the rotation is only split here, so that a bad one has this one line.
 static void setRotation(const SetTransformEffect& effect, ScenarioHandler& handler,
                         qsf::TransformComponent* transform) {
-  const std::optional<glm::vec3> degrees = splitVector(handler, effect.rotation);
-  if (!degrees)
+  const std::vector<std::string> parts = splitParts(handler, effect.rotation);
+  if (parts.size() != 3)
     logInfo("SetTransformEffect: cant read your Rotation argument. Expected 3 parameters (like \"90.0 0 90\") and "
             "got " +
-            std::to_string(splitParts(handler, effect.rotation).size()) + " parameters");
+            std::to_string(parts.size()) + " parameters");
   else if (transform)
-    transform->setRotation(rotationFromDegrees(*degrees));
+    transform->setRotation(rotationFromDegrees(resolveParts(handler, parts)));
 }
 
 static void run(const SetTransformEffect& effect, ScenarioHandler& handler) {
