@@ -210,6 +210,7 @@ constexpr InjuryWord INJURIES[] = {
     {"PLAGUE_CONTAMINATION_TEST_NEGATIV", em5::injury::PLAGUE_CONTAMINATION_TEST_NEGATIV},
     {"DROWNING_NORMAL", em5::injury::DROWNING_NORMAL},
 };
+static_assert(std::size(INJURIES) == 53, "no injury that scripts know may get lost");
 
 constexpr std::string_view GANGSTER_LOGICS[] = {"em5::GangsterArsonist", "em5::GangsterBlackoutFP",
                                                 "em5::GangsterCivilArmedLogic", "em5::GangsterAttackEveryoneLogic"};

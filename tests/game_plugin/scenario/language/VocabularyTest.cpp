@@ -5,223 +5,82 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
-
 using namespace script;
 
 namespace {
 
+/// A text that differs from a known one in case, by a blank behind it or by a missing letter is unknown.
+template <class Convert> void expectExactTexts(Convert convert, const std::string& text) {
+  const auto unknown = convert("no such text");
+  std::string small = text;
+  for (char& letter : small)
+    if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter - 'A' + 'a');
+  ASSERT_NE(convert(text), unknown) << text << " proves nothing";
+  EXPECT_EQ(convert(small), unknown) << small;
+  EXPECT_EQ(convert(text + " "), unknown) << text;
+  EXPECT_EQ(convert(text.substr(0, text.size() - 1)), unknown) << text;
+  EXPECT_EQ(convert(""), unknown);
+}
+
+TEST(Vocabulary, TextsAreExact) {
+  expectExactTexts(ToBarType, "BAR_TYPE_DEATH");
+  expectExactTexts(ToPlanMode, "REPLACE_WHOLE_PLAN");
+  expectExactTexts(ToMovementMode, "MOVEMENT_MODE_MAGNET");
+  expectExactTexts(ToStatusIcon, "STATUS_ICON_ARSONIST");
+  expectExactTexts(ToMinimapIcon, "FIRE");
+  expectExactTexts(ToInjury, "BURN_3_GRADE");
+  expectExactTexts(ToGangsterLogic, "em5::GangsterArsonist");
+}
+
 TEST(Vocabulary, UnknownBarTypesReadLikeTheFirst) {
   EXPECT_EQ(ToBarType("BAR_TYPE_FIRE"), 0);
   EXPECT_EQ(ToBarType("bar_type_fire"), 0);
-  EXPECT_EQ(ToBarType("BAR_TYPE_HEALTH"), 1);
   EXPECT_EQ(ToBarType("BAR_TYPE_SMALL_HEALTH"), 2);
-  EXPECT_EQ(ToBarType("BAR_TYPE_LIFE"), 3);
-  EXPECT_EQ(ToBarType("BAR_TYPE_DEATH"), 4);
-  EXPECT_EQ(ToBarType("BAR_TYPE_PROGRESS"), 5);
   EXPECT_EQ(ToBarType("_BAR_COUNT"), 6);
 }
 
-TEST(Vocabulary, PlanModes) {
+TEST(Vocabulary, UnknownPlanModesAppend) {
   EXPECT_EQ(ToPlanMode("APPEND_TO_BACK"), 0);
-  EXPECT_EQ(ToPlanMode("INSERT_AT_FRONT"), 1);
+  EXPECT_EQ(ToPlanMode("append_to_back"), 0);
   EXPECT_EQ(ToPlanMode("INSERT_BEFORE_CURRENT"), 2);
   EXPECT_EQ(ToPlanMode("REPLACE_WHOLE_PLAN"), 3);
-  EXPECT_EQ(ToPlanMode(""), 0);
 }
 
 TEST(Vocabulary, MovementModesLeaveOutSeven) {
-  const char* const modes[] = {"DEFAULT",
-                               "CARRY_PERSON",
-                               "WALK_BACKWARDS",
-                               "RUN_PANIC",
-                               "CIVIL_CAR_MOVES_TO_THE_SIDE",
-                               "PLAYER_VEHICLE_ON_EMERGENCY_OPERATIONS",
-                               "RUN",
-                               "MAGNET",
-                               "REDIRECT",
-                               "FREE_WALK",
-                               "FREE_RUN"};
-  int expected = 0;
-  for (const std::string mode : modes) {
-    EXPECT_EQ(ToMovementMode("MOVEMENT_MODE_" + mode), expected) << mode;
-    expected += expected == 6 ? 2 : 1;
-  }
+  EXPECT_EQ(ToMovementMode("MOVEMENT_MODE_DEFAULT"), 0);
+  EXPECT_EQ(ToMovementMode("MOVEMENT_MODE_CIVIL_CAR_MOVES_TO_THE_SIDE"), 4);
+  EXPECT_EQ(ToMovementMode("MOVEMENT_MODE_RUN"), 6);
+  EXPECT_EQ(ToMovementMode("MOVEMENT_MODE_MAGNET"), 8);
+  EXPECT_EQ(ToMovementMode("MOVEMENT_MODE_FREE_RUN"), 11);
   EXPECT_EQ(ToMovementMode("MOVEMENT_MODE_FLY"), 0);
 }
 
 TEST(Vocabulary, StatusIconsLeaveOutThirteen) {
-  const char* const icons[] = {"STATUS_ICON_ARSONIST",
-                               "STATUS_ICON_ATTACKED",
-                               "STATUS_ICON_BOMB",
-                               "STATUS_ICON_CHEMICAL_CONTAMINATION",
-                               "STATUS_ICON_CONDITION_RESCUE_AXE",
-                               "STATUS_ICON_CONDITION_RESCUE_DLK",
-                               "STATUS_ICON_CONDITION_RESCUE_HELI",
-                               "STATUS_ICON_DEAD",
-                               "STATUS_ICON_DEFECT",
-                               "STATUS_ICON_DEFECT_VEHICLE",
-                               "STATUS_ICON_EVENT_VARIOUS",
-                               "STATUS_ICON_FANATIC",
-                               "STATUS_ICON_GAPER",
-                               "STATUS_ICON_GANGSTER_IN_VEHICLE",
-                               "STATUS_ICON_GUNFIRE",
-                               "STATUS_ICON_HEAT_HAZARD",
-                               "STATUS_ICON_INFECTED",
-                               "STATUS_ICON_NPC",
-                               "STATUS_ICON_POSSIBLY_INFECTED",
-                               "STATUS_ICON_POSSIBLY_INFECTED_BUILDING",
-                               "STATUS_ICON_SEARCH",
-                               "STATUS_ICON_SEARCH_VARIOUS",
-                               "STATUS_ICON_RADIOACTIVE_CONTAMINATION",
-                               "STATUS_ICON_BIOLOGICAL_CONTAMINATION",
-                               "STATUS_ICON_SICK",
-                               "STATUS_ICON_SICK_CONTAGIOUS",
-                               "STATUS_ICON_SMOKE_POISONING",
-                               "STATUS_ICON_STAKE",
-                               "STATUS_ICON_TREE",
-                               "STATUS_ICON_WARBLERTWEET",
-                               "STATUS_ICON_WELL",
-                               "STATUS_ICON_WITCH",
-                               "STATUS_ICON_WRENCH",
-                               "_STATUS_ICON_COUNT"};
-  int expected = 0;
-  for (const char* icon : icons) {
-    EXPECT_EQ(ToStatusIcon(icon), expected) << icon;
-    expected += expected == 12 ? 2 : 1;
-  }
-  EXPECT_EQ(expected, 35);
-  EXPECT_EQ(ToStatusIcon("status_icon_arsonist"), std::nullopt);
+  EXPECT_EQ(ToStatusIcon("STATUS_ICON_ARSONIST"), 0);
+  EXPECT_EQ(ToStatusIcon("STATUS_ICON_DEAD"), 7);
+  EXPECT_EQ(ToStatusIcon("STATUS_ICON_GAPER"), 12);
+  EXPECT_EQ(ToStatusIcon("STATUS_ICON_GANGSTER_IN_VEHICLE"), 14);
+  EXPECT_EQ(ToStatusIcon("STATUS_ICON_SEARCH_VARIOUS"), 22);
+  EXPECT_EQ(ToStatusIcon("STATUS_ICON_SICK_CONTAGIOUS"), 26);
+  EXPECT_EQ(ToStatusIcon("_STATUS_ICON_COUNT"), 34) << "34 rows, one number left out";
+  EXPECT_EQ(ToStatusIcon("STATUS_ICON_GHOST"), std::nullopt) << "the first icon has the number 0";
 }
 
-TEST(Vocabulary, MinimapIconsCountInTheirOrder) {
-  const char* const icons[] = {"UNDEFINED",
-                               "FIRE",
-                               "BUILDING_TRAPPED",
-                               "BUILDING_ON_FIRE",
-                               "CONTAMINATED_BIOLOGICAL",
-                               "VICTIM_INJURED_RED",
-                               "VICTIM_TRANSPORT",
-                               "UNIT_AMBULANCE",
-                               "UNIT_FIREFIGHTER",
-                               "UNIT_POLICE",
-                               "UNIT_TECH",
-                               "UNIT_AMBULANCE_DOG",
-                               "UNIT_VEHICLE_AMBULANCE",
-                               "UNIT_VEHICLE_FIREFIGHTER",
-                               "UNIT_VEHICLE_POLICE",
-                               "UNIT_VEHICLE_TECH",
-                               "UNIT_VEHICLE_FIREPLANE",
-                               "HARBOR",
-                               "BRIDGE",
-                               "DEFECT_VEHICLE",
-                               "BROKEN_TREE",
-                               "DANGEROUS_ANIMAL",
-                               "BOMB_OLD",
-                               "HQ",
-                               "GANGSTER",
-                               "SEARCH",
-                               "PEST_BUILDING",
-                               "BARRIER",
-                               "QUESTION_MARK",
-                               "EVENT",
-                               "UNIT_MEDIEVAL",
-                               "UNIT_VEHICLE_OTHER_PLAYER",
-                               "UNIT_OTHER_PLAYER",
-                               "POSSIBLY_PEST_BUILDING",
-                               "WELL",
-                               "GARDIST",
-                               "STAKE",
-                               "WARBLERTWEET",
-                               "ARSONIST",
-                               "FANATIC",
-                               "WITCH",
-                               "VICTIM_INJURED",
-                               "VICTIM_RESCUE_HELI",
-                               "VICTIM_RESCUE_DLK",
-                               "CONTAMINATION_CHEMICAL",
-                               "CONTAMINATION_NUCLEAR",
-                               "RESCUE_AXE",
-                               "GANGSTER_IN_CAR",
-                               "UNIT_POLICE_DOG",
-                               "SEARCH_VARIOUS",
-                               "PATH_DESTINATION",
-                               "DEAD",
-                               "BOMB",
-                               "DEFECT",
-                               "GAPER",
-                               "PING",
-                               "PING_PIN",
-                               "BLINK",
-                               "_MAX"};
-  int expected = 0;
-  for (const char* icon : icons)
-    EXPECT_EQ(ToMinimapIcon(icon), expected++) << icon;
-  EXPECT_EQ(expected, 59);
+TEST(Vocabulary, MinimapIconsAreFiftyNine) {
+  EXPECT_EQ(ToMinimapIcon("UNDEFINED"), 0);
+  EXPECT_EQ(ToMinimapIcon("UNIT_TECH"), 10);
+  EXPECT_EQ(ToMinimapIcon("HQ"), 23);
+  EXPECT_EQ(ToMinimapIcon("STAKE"), 36);
+  EXPECT_EQ(ToMinimapIcon("GANGSTER_IN_CAR"), 47);
+  EXPECT_EQ(ToMinimapIcon("_MAX"), 58);
   EXPECT_EQ(ToMinimapIcon("Fire"), 0);
 }
 
 TEST(Vocabulary, InjuriesGiveTheHostsIds) {
-  const char* const injuries[] = {"BURN_3_GRADE",
-                                  "BURN_4_GRADE",
-                                  "BURN_OF_BREATH",
-                                  "SMOKE_POISONING",
-                                  "BROKEN_ARM",
-                                  "BROKEN_LEG",
-                                  "BROKEN_SKULL",
-                                  "BRAIN_BLEEDING",
-                                  "INNER_BLEEDING",
-                                  "LOST_LEG",
-                                  "WHIPLASH",
-                                  "GUN_SHOT_WOUND_LUNG",
-                                  "GUN_SHOT_WOUND_BODY",
-                                  "GUN_SHOT_WOUND_BODY_HARD",
-                                  "STAB_WOUND_LUNG",
-                                  "STAB_WOUND_BODY",
-                                  "STAB_WOUND_BODY_INNER_BLEEDING",
-                                  "BITE_WOUND",
-                                  "BITE_WOUND_BLEEDING",
-                                  "HEAD_BODY_LACERATION",
-                                  "ELECTRIC_SHOCK",
-                                  "SHOCK",
-                                  "WEAKNESS",
-                                  "WATER_FILLED_LUNG",
-                                  "HEARTATTACK",
-                                  "STROKE",
-                                  "CIRCULATORYCOLLAPSE",
-                                  "FOOD_POISONING",
-                                  "ALCOHOL_POISONING",
-                                  "LOW_BLOOD_PRESSURE",
-                                  "ANGINA_PECTORIS",
-                                  "SHORTAGE_OF_BREATH",
-                                  "COLLAPSED_LUNG",
-                                  "HYPOTHERMIA",
-                                  "AVIAN_INFLUENZA",
-                                  "AVIAN_INFLUENZA_INJURED",
-                                  "SWINE_INFLUENZA",
-                                  "SWINE_INFLUENZA_INJURED",
-                                  "HARD_ASTHMA",
-                                  "HARD_ASTHMA_INJURED",
-                                  "HYDROPHOBIA",
-                                  "HYDROPHOBIA_INJURED",
-                                  "CHEMICAL_CONTAMINATION",
-                                  "CHEMICAL_CONTAMINATION_SHORTAGE_OF_BREATH",
-                                  "CHEMICAL_CONTAMINATION_BREATH_BURN",
-                                  "RADIOACTIVE_CONTAMINATION",
-                                  "RADIOACTIVE_CONTAMINATION_ORGAN_BLEEDING",
-                                  "RADIOACTIVE_CONTAMINATION_ORGAN_FAILURE",
-                                  "PLAGUE_CONTAMINATION",
-                                  "PLAGUE_CONTAMINATION_TEST_POSITIV",
-                                  "PLAGUE_CONTAMINATION_TEST_NEGATIV",
-                                  "DROWNING_NORMAL"};
-  std::set<std::uint32_t> ids;
-  for (const char* injury : injuries) {
-    ASSERT_TRUE(ToInjury(injury).has_value()) << injury;
-    EXPECT_EQ(*ToInjury(injury), qsf::StringHash(injury).getHash()) << injury;
-    ids.insert(*ToInjury(injury));
-  }
-  EXPECT_EQ(ids.size(), 52u);
   EXPECT_EQ(ToInjury("BURN_3_GRADE"), em5::injury::BURN_3_GRADE.getHash());
+  EXPECT_EQ(ToInjury("INNER_BLEEDING"), em5::injury::INNER_BLEEDING.getHash());
+  EXPECT_EQ(ToInjury("GUN_SHOT_WOUND_BODY_HARD"), em5::injury::GUN_SHOT_WOUND_BODY_HARD.getHash());
+  EXPECT_EQ(ToInjury("PLAGUE_CONTAMINATION_TEST_NEGATIV"), em5::injury::PLAGUE_CONTAMINATION_TEST_NEGATIV.getHash());
   EXPECT_EQ(ToInjury("DROWNING_NORMAL"), em5::injury::DROWNING_NORMAL.getHash());
   EXPECT_EQ(ToInjury("COMMON_COLD"), std::nullopt);
 }
