@@ -15,7 +15,8 @@ static void read(CompareComponentPropertyToFloatVariableCondition& condition, co
 
 static bool test(const CompareComponentPropertyToFloatVariableCondition& condition, ScenarioHandler& handler) {
   return filterByProperty(condition, handler, [&](const camp::Value& value) {
-    return condition.operatorText(value.to<float>(), handler.ResolveFloat(condition.stringToCheck));
+    const float number = value.to<float>(); // first: what doesn't convert reads no variable
+    return condition.operatorText(number, handler.ResolveFloat(condition.stringToCheck));
   });
 }
 

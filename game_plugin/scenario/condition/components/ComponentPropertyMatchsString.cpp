@@ -11,7 +11,8 @@ static void read(ComponentPropertyMatchsStringCondition& condition, const Tokens
 
 static bool test(const ComponentPropertyMatchsStringCondition& condition, ScenarioHandler& handler) {
   return filterByProperty(condition, handler, [&](const camp::Value& value) {
-    return value.to<std::string>() == handler.ResolveString(condition.stringToCheck);
+    const std::string text = value.to<std::string>(); // first: what doesn't convert reads no variable
+    return text == handler.ResolveString(condition.stringToCheck);
   });
 }
 
