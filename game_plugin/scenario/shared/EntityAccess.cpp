@@ -16,8 +16,7 @@ glm::vec3 positionOf(const qsf::Entity& entity) {
 }
 
 float distanceBetween(const qsf::Entity& a, const qsf::Entity& b) {
-  const glm::vec3 difference = positionOf(a) - positionOf(b);
-  return std::sqrt(glm::dot(difference, difference));
+  return glm::distance(positionOf(a), positionOf(b));
 }
 
 }

@@ -173,4 +173,17 @@ TEST(Catalogue, EffectsOfScriptControlReadTheirParameters) {
   }
 }
 
+/// Authors know these two by their words.
+TEST(Catalogue, TheRegistrysOwnEffectsAreDescribedInTheirWords) {
+  const ScenarioEffects effects(nullptr);
+  std::vector<ParameterDocumentation> parameters;
+  const DocumentationScope scope(parameters);
+  EXPECT_EQ(effects.create({"SendHint"})->description(), "Sends a hint message. Supervisor is not visible");
+  EXPECT_EQ(effects.create({"ShowDebuggingGui"})->description(),
+            "Enables or disables the debugging gui. Usefull for events or to test some stuff out.");
+  ASSERT_EQ(parameters.size(), 2u);
+  EXPECT_EQ(parameters[0].description, "Message which will be displayed.");
+  EXPECT_EQ(parameters[1].description, "true-> gui will be shown\nfalse->gui will be hidden");
+}
+
 }

@@ -10,7 +10,6 @@
 #include "qsf/window/RenderWindow.h"
 #include "qsf/window/WindowApplication.h"
 
-#include <cmath>
 #include <optional>
 
 namespace script {
@@ -39,20 +38,15 @@ static std::optional<glm::vec3> findPlaceUnderMouse() {
   return place;
 }
 
-static bool isFartherThan(const glm::vec3& place, const glm::vec3& present, float precision) {
-  const glm::vec3 way = place - present;
-  return std::sqrt(glm::dot(way, way)) > precision;
-}
-
 static void run(const SetEntityPositionToPositionUnderMouseEffect& effect, ScenarioHandler& handler) {
   const std::optional<glm::vec3> place = findPlaceUnderMouse();
   if (!place) return;
   forEachEntity(handler, effect.entityList, [&](qsf::Entity& entity) {
     if (auto* movable = entity.getComponent<qsf::MovableComponent>()) {
-      if (isFartherThan(*place, movable->getPosition(), handler.ResolveFloat(effect.precision)))
+      if (glm::distance(*place, movable->getPosition()) > handler.ResolveFloat(effect.precision))
         movable->moveToPosition(*place);
     } else if (auto* transform = entity.getComponent<qsf::TransformComponent>()) {
-      if (isFartherThan(*place, transform->getPosition(), handler.ResolveFloat(effect.precision)))
+      if (glm::distance(*place, transform->getPosition()) > handler.ResolveFloat(effect.precision))
         transform->setPosition(*place);
     }
   });
