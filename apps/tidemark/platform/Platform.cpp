@@ -57,12 +57,12 @@ bool outputIsTerminal() { return ::isatty(STDOUT_FILENO) != 0; }
 
 bool errorsAreTerminal() { return ::isatty(STDERR_FILENO) != 0; }
 
-void catchInterrupts(Requests requests) {
+void catchInterrupts() {
   struct sigaction action = {};
   action.sa_handler = noteInterrupt;
   action.sa_flags = static_cast<int>(SA_RESETHAND); // asked a second time, the program ends at once
   ::sigaction(SIGINT, &action, nullptr);
-  if (requests == Requests::ALL) ::sigaction(SIGTERM, &action, nullptr);
+  ::sigaction(SIGTERM, &action, nullptr);
 }
 
 bool isInterrupted() { return interrupted != 0; }

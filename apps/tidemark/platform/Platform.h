@@ -16,13 +16,9 @@ std::string makeTemporaryDirectory();
 /// Whether results, or messages, are read by a person.
 bool outputIsTerminal();
 bool errorsAreTerminal();
-/// Which requests to end the program are noted instead of obeyed.
-enum class Requests {
-  KEYBOARD, ///< Ctrl-C
-  ALL       ///< also that of a build server; for programs that look at isInterrupted() all the time
-};
-/// From now on the first such request is only noted, so that the program can clean up; the second ends it.
-void catchInterrupts(Requests requests);
+/// From now on the first request to end the program, Ctrl-C or that of a build server, is only noted, so that the
+/// program can come to an orderly end; the second ends it at once.
+void catchInterrupts();
 bool isInterrupted();
 
 /// How a child process has ended.

@@ -1,11 +1,9 @@
-#include "apps/tidemark/run/RunCommand.h"
-
-#include "apps/tidemark/ExitCode.h"
-#include "apps/tidemark/NumberOption.h"
+// `tidemark run`: its options.
+#include "apps/tidemark/Options.h"
+#include "apps/tidemark/Subcommand.h"
 #include "apps/tidemark/run/Runner.h"
 
 #include <CLI/CLI.hpp>
-#include <fmt/format.h>
 
 #include <map>
 #include <memory>
@@ -28,31 +26,15 @@ const Names<int> LOG_LEVELS = {{"trace", 0}, {"debug", 1}, {"info", 2}, {"warnin
 const Names<RunOptions::LogFormat> LOG_FORMATS = {{"text", RunOptions::LogFormat::TEXT},
                                                   {"jsonl", RunOptions::LogFormat::JSON_LINES}};
 
-// An option whose value is one of some names.
-template <class Value>
-void addChoice(CLI::App& command, const std::string& name, const Names<Value>& names, Value& value,
-               const std::string& help) {
-  std::string choices;
-  for (const auto& [choice, number] : names)
-    choices += (choices.empty() ? "" : "|") + choice;
-  command
-      .add_option_function<std::string>(
-          name, [&names, &value](const std::string& choice) { value = names.at(choice); }, help)
-      ->check(CLI::Validator(
-          [&names, choices](std::string& choice) {
-            return names.contains(choice) ? std::string() : fmt::format("'{}' is none of {}", choice, choices);
-          },
-          choices))
-      ->type_name("NAME");
-}
-
 void addOptions(CLI::App& command, RunOptions& options) {
   command.add_option("project", options.projects, "Folders of projects, mounted in this order after the base project")
       ->required()
+      ->check(notEmpty("a project's folder"))
       ->type_name("PROJECT");
   command
       .add_option("--map", options.map,
                   "Map to play; else the one that a project.json names in \"map\", else an empty one")
+      ->check(notEmpty("a map's name"))
       ->type_name("NAME");
   command.add_option("--seconds", options.seconds, "How long to run, in simulated seconds")
       ->capture_default_str()
@@ -69,25 +51,42 @@ void addOptions(CLI::App& command, RunOptions& options) {
       "--editor", [&options] { options.program = RunOptions::Program::EDITOR; },
       "Run an editing session: only scripts of the mode EDITOR_STARTUP start");
   addChoice(command, "--mode", GAME_MODES, options.gameMode, "Game mode");
-  command.add_option("--language", options.language, "Language of texts")->capture_default_str()->type_name("CODE");
+  command.add_option("--language", options.language, "Language of texts")
+      ->capture_default_str()
+      ->check(languageCode())
+      ->type_name("CODE");
   command.add_option("--seed", options.seed, "Seed of everything random; equal seeds give equal runs")
       ->capture_default_str()
+      ->check(wholeNumber())
       ->type_name("N");
   addChoice(command, "--log-level", LOG_LEVELS, options.logLevel, "Least severity of log lines that are shown");
   addChoice(command, "--log-format", LOG_FORMATS, options.logFormat, "How log lines are written");
-  command.add_option("--report", options.report, "Write the final table to this file, as JSON")->type_name("FILE");
+  command
+      .add_option("--report", options.report,
+                  "Write the final table to this file, as JSON; - is standard output, which then has no other table")
+      ->type_name("FILE");
 }
 
-}
-
-void addRunCommand(CLI::App& app, int& exitCode) {
-  CLI::App* command = app.add_subcommand("run", "Run the scripts of projects on a map, without the game");
+std::function<int()> declareRun(CLI::App& command) {
   auto options = std::make_shared<RunOptions>();
-  addOptions(*command, *options);
-  command->footer("Example:\n  tidemark run examples/harbour --seconds 30 --report result.json\n\nThe log goes to "
-                  "standard error, the final table to standard output.\n"
-                  "Exit codes: 0 fine, 1 a script faulted, 2 wrong usage, 3 an input cannot be loaded.");
-  command->callback([options, &exitCode] { exitCode = runProjects(*options); });
+  addOptions(command, *options);
+  return [options] { return runProjects(*options); };
+}
+
+}
+
+}
+
+namespace tidemark {
+
+Subcommand runCommand() {
+  return {
+      "run", "Run the scripts of projects on a map, without the game",
+      "Example:\n  tidemark run examples/harbour --seconds 30 --report result.json\n\nThe working directory of the "
+      "run is the folder of the first project. The log goes to standard error, the\nfinal table to standard output. "
+      "Ctrl-C ends the run early, with its table.\nExit codes: 0 fine, 1 a script faulted, 2 wrong usage, 3 an "
+      "input cannot be loaded or the report not be written.",
+      run::declareRun};
 }
 
 }

@@ -20,7 +20,7 @@ struct RunOptions {
   std::uint64_t seed = 1;
   int logLevel = 2;
   enum class LogFormat { TEXT, JSON_LINES } logFormat = LogFormat::TEXT;
-  std::string report; ///< file; empty: none
+  std::string report; ///< file, or - for standard output; empty: none
 };
 
 }

@@ -34,26 +34,13 @@ StoreReport collectStores(const Tooling& tooling, std::optional<std::size_t> scr
 constexpr std::size_t LONGEST_CELL = 80; // characters
 constexpr std::size_t MOST_ROWS = 200;   // of one table; the JSON report has all
 
-// A text as the table shows it: scripts may make names and values of any length, with control characters in them.
-std::string toCell(const std::string& text) {
-  std::string cell;
-  std::size_t characters = 0;
-  for (const char byte : text) {
-    const auto code = static_cast<unsigned char>(byte);
-    const bool continues = (code & 0xC0) == 0x80;
-    if (!continues && ++characters > LONGEST_CELL) return cell + "...";
-    cell += code < 0x20 || code == 0x7F ? '?' : byte;
-  }
-  return cell;
-}
-
 // Columns as wide as their widest cell; the last one isn't padded.
 std::string layOut(std::vector<std::vector<std::string>> rows, std::string_view indent) {
   const std::size_t left = rows.size() > MOST_ROWS ? rows.size() - MOST_ROWS : 0;
   rows.resize(rows.size() - left);
   for (auto& row : rows)
     for (std::string& cell : row)
-      cell = toCell(cell);
+      cell = toCell(cell, LONGEST_CELL);
   std::vector<std::size_t> widths;
   for (const auto& row : rows) {
     widths.resize(std::max(widths.size(), row.size()));

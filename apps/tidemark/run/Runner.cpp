@@ -1,33 +1,34 @@
 #include "apps/tidemark/run/Runner.h"
 
 #include "apps/tidemark/ExitCode.h"
+#include "apps/tidemark/OutputFile.h"
+#include "apps/tidemark/Subcommand.h"
 #include "apps/tidemark/platform/Platform.h"
+#include "apps/tidemark/run/LogPrinter.h"
 #include "apps/tidemark/run/RunReport.h"
 #include "apps/tidemark/session/Installation.h"
+#include "apps/tidemark/session/Languages.h"
+#include "apps/tidemark/session/Maps.h"
 #include "apps/tidemark/session/ModuleAccess.h"
 
 #include "em5/game/HostSession.h"
 #include "qsf/Qsf.h"
 #include "qsf/asset/Project.h"
-#include "qsf/log/ConsoleLog.h"
 #include "qsf/log/FaultCounter.h"
 #include "qsf/map/Map.h"
 
 #include <fmt/format.h>
-#include <nlohmann/json.hpp>
+#include <fmt/ranges.h>
 
 #include <chrono>
 #include <cmath>
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
 #include <thread>
 
 namespace tidemark::run {
 
 namespace {
-
-constexpr const char* DEFAULT_MAP = "em5/map/test/empty";
 
 em5::HostSession::Options toHostOptions(const RunOptions& options) {
   em5::HostSession::Options host;
@@ -40,20 +41,19 @@ em5::HostSession::Options toHostOptions(const RunOptions& options) {
   return host;
 }
 
-// The map that the first project that names one wants. The file has been read by the host, so it is well-formed.
+// The map that the first project that names one wants.
 std::string findMap(const RunOptions& options) {
   if (!options.map.empty()) return options.map;
-  for (const std::string& project : options.projects) {
-    const std::string path = (std::filesystem::path(project) / "project.json").string();
-    std::ifstream file(path, std::ios::binary);
-    const auto root = nlohmann::json::parse(file, nullptr, false, true);
-    if (!root.is_object() || !root.contains("map")) continue;
-    if (!root["map"].is_string())
-      throw std::runtime_error(
-          fmt::format("{}: /map: a text is expected, the local name of a map such as \"{}\"", path, DEFAULT_MAP));
-    return root["map"].get<std::string>();
-  }
+  for (const std::string& project : options.projects)
+    if (auto map = findMapOfProject(project)) return std::move(*map);
   return DEFAULT_MAP;
+}
+
+void requireLanguage(const qsf::ProjectManager& projects, const std::string& language) {
+  const std::vector<std::string> languages = findLanguages(projects);
+  if (std::find(languages.begin(), languages.end(), language) == languages.end())
+    throw UsageError(
+        fmt::format("--language: no project has texts in '{}'; there are {}", language, fmt::join(languages, ", ")));
 }
 
 // Waits in --realtime until the wall clock has reached the frame's end.
@@ -71,7 +71,7 @@ private:
 };
 
 void playFrames(em5::HostSession& session, const RunOptions& options) {
-  platform::catchInterrupts(platform::Requests::KEYBOARD);
+  platform::catchInterrupts();
   const qsf::Time tick = qsf::Time::fromSeconds(options.tick);
   const auto frames = static_cast<std::uint64_t>(std::llround(options.seconds / options.tick));
   const Pacer pacer(options.pace);
@@ -89,22 +89,19 @@ RunReport makeReport(const em5::HostSession& session) {
   return report;
 }
 
-void writeReport(const std::string& path, const RunReport& report) {
-  std::ofstream file(path, std::ios::binary);
-  file << toJson(report);
-  if (!file.flush()) throw std::runtime_error(fmt::format("--report: {} can't be written", path));
-}
-
 RunReport play(const RunOptions& options) {
   em5::HostSession session(toHostOptions(options));
-  const auto format = options.logFormat == RunOptions::LogFormat::TEXT ? qsf::ConsoleLog::Format::TEXT
-                                                                       : qsf::ConsoleLog::Format::JSON_LINES;
-  qsf::ConsoleLog log(session.getQsf().getLogSystem(), format, qsf::ConsoleLog::Target::STANDARD_ERROR,
-                      [&session] { return session.getTime(); });
+  const auto format =
+      options.logFormat == RunOptions::LogFormat::TEXT ? LogPrinter::Format::TEXT : LogPrinter::Format::JSON_LINES;
+  const LogPrinter log(session.getQsf().getLogSystem(), format, [&session] { return session.getTime(); });
   session.mountBaseProject(baseProjectDirectory());
   for (const std::string& project : options.projects)
     session.mountMod(project);
   const std::string map = findMap(options);
+  requireMap(session.getQsf().getProjectManager(), map);
+  requireLanguage(session.getQsf().getProjectManager(), options.language);
+  // What scripts name by a path lies in the project, wherever the program was started.
+  std::filesystem::current_path(options.projects.front());
   session.startup();
   if (!session.loadPlugin(modulePath()))
     throw std::runtime_error("the module refuses to start; its log lines above tell why");
@@ -120,16 +117,11 @@ RunReport play(const RunOptions& options) {
 }
 
 int runProjects(const RunOptions& options) {
-  try {
-    const RunReport report = play(options);
-    fmt::print("{}", toText(report));
-    std::fflush(stdout);
-    if (!options.report.empty()) writeReport(options.report, report);
-    return report.faults > 0 ? EXIT_FAULT : EXIT_FINE;
-  } catch (const std::exception& fault) {
-    fmt::print(stderr, "tidemark run: {}\n", fault.what());
-    return EXIT_CANNOT_LOAD;
-  }
+  OutputFile file("--report", options.report);
+  const RunReport report = play(options);
+  if (!file.isStandardOutput()) fmt::print("{}", toText(report));
+  if (file.isWanted()) file.write(toJson(report));
+  return report.faults > 0 ? EXIT_FAULT : EXIT_FINE;
 }
 
 }

@@ -1,7 +1,8 @@
-#include "apps/tidemark/test/TestCommand.h"
-
+// `tidemark test`, and the hidden `single-test` in which each test runs.
 #include "apps/tidemark/ExitCode.h"
-#include "apps/tidemark/NumberOption.h"
+#include "apps/tidemark/Options.h"
+#include "apps/tidemark/OutputFile.h"
+#include "apps/tidemark/Subcommand.h"
 #include "apps/tidemark/platform/Platform.h"
 #include "apps/tidemark/session/Installation.h"
 #include "apps/tidemark/test/Discovery.h"
@@ -12,7 +13,6 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <fstream>
 #include <memory>
 #include <thread>
 
@@ -32,9 +32,9 @@ std::string colour(std::string_view code, const std::string& text) {
   return platform::outputIsTerminal() ? fmt::format("\x1b[{}m{}\x1b[0m", code, text) : text;
 }
 
-void printResult(const TestResult& result) {
+void printResult(std::FILE* output, const TestResult& result) {
   if (result.passed()) return;
-  fmt::print("{} {}\n", colour("31", "FAIL"), result.file);
+  fmt::print(output, "{} {}\n", colour("31", "FAIL"), result.file);
   std::vector<std::string> shown;
   for (Failure failure : result.failures) {
     // Failures of one moment have the same lines around them.
@@ -42,9 +42,9 @@ void printResult(const TestResult& result) {
       failure.log = {"(as above)"};
     else
       shown = failure.log;
-    fmt::print("  {}", describeFailure(result.file, failure));
+    fmt::print(output, "  {}", describeFailure(result.file, failure));
   }
-  std::fflush(stdout);
+  std::fflush(output);
 }
 
 void printProgress(std::size_t done, std::size_t all) {
@@ -52,88 +52,88 @@ void printProgress(std::size_t done, std::size_t all) {
     fmt::print(stderr, "\r{}/{}{}", done, all, done == all ? "\r\x1b[K" : "");
 }
 
+// Throws if there is none: a build server must not take a mistyped path for a success.
 std::vector<std::string> selectTests(const Options& options) {
   std::vector<std::string> files = findTests(options.paths);
   std::erase_if(files, [&](const std::string& file) { return file.find(options.filter) == std::string::npos; });
   if (files.empty())
-    fmt::print(stderr, "tidemark test: no test found{}\n",
-               options.filter.empty() ? "; a test is a *.script file with a $ @expect line"
-                                      : fmt::format(" whose path holds '{}'", options.filter));
+    throw std::runtime_error(options.filter.empty()
+                                 ? "no test found; a test is a *.script file with a $ @expect line"
+                                 : fmt::format("no test found whose path holds '{}'", options.filter));
   return files;
 }
 
-void writeJUnit(const std::string& path, const std::vector<TestResult>& results) {
-  std::ofstream file(path, std::ios::binary);
-  file << toJUnit(results);
-  if (!file.flush()) throw std::runtime_error(fmt::format("--junit: {} can't be written", path));
-}
-
 int runTests(const Options& options) {
+  baseProjectDirectory(); // without it each test would tell the same
   const std::vector<std::string> files = selectTests(options);
-  platform::catchInterrupts(platform::Requests::ALL);
+  OutputFile junit("--junit", options.junit);
+  // Results in XML have standard output for themselves.
+  std::FILE* const output = junit.isStandardOutput() ? stderr : stdout;
+  platform::catchInterrupts();
   TestScheduler scheduler({options.jobs, std::chrono::milliseconds(static_cast<std::int64_t>(options.limit * 1000))});
   std::size_t done = 0;
   const std::vector<TestResult> results = scheduler.run(files, [&](const TestResult& result) {
-    printResult(result);
+    printResult(output, result);
     printProgress(++done, files.size());
   });
-  if (!options.junit.empty()) writeJUnit(options.junit, results);
+  if (junit.isWanted()) junit.write(toJUnit(results));
   const auto failed = static_cast<std::size_t>(
       std::count_if(results.begin(), results.end(), [](const TestResult& result) { return !result.passed(); }));
   if (results.size() < files.size())
     fmt::print(stderr, "tidemark test: interrupted after {} of {} tests\n", results.size(), files.size());
-  fmt::print("{} passed, {} failed\n", results.size() - failed, failed);
+  fmt::print(output, "{} passed, {} failed\n", results.size() - failed, failed);
   return failed > 0 || results.size() < files.size() ? EXIT_FAULT : EXIT_FINE;
 }
 
-int runTestsGuarded(const Options& options) {
-  try {
-    baseProjectDirectory(); // without it each test would tell the same
-    return runTests(options);
-  } catch (const std::exception& fault) {
-    fmt::print(stderr, "tidemark test: {}\n", fault.what());
-    return EXIT_CANNOT_LOAD;
-  }
+std::function<int()> declareTest(CLI::App& command) {
+  auto options = std::make_shared<Options>();
+  command.add_option("path", options->paths, "Test files, or folders to search for them")
+      ->required()
+      ->check(notEmpty("a path"))
+      ->type_name("PATH");
+  command.add_option("--filter", options->filter, "Run only tests whose path holds this text; else all")
+      ->type_name("TEXT");
+  command
+      .add_option("--junit", options->junit, "Write the results to this file, in JUnit's format; - is standard output")
+      ->type_name("FILE");
+  command.add_option("--jobs,-j", options->jobs, "Tests that run at a time")
+      ->capture_default_str()
+      ->check(CLI::Range(1u, 1024u))
+      ->type_name("N");
+  command.add_option("--time-limit", options->limit, "Seconds of real time that a test may take")
+      ->capture_default_str()
+      ->check(numberFrom(0.1, 86400.0))
+      ->type_name("S");
+  return [options] { return runTests(*options); };
 }
 
-void addSingleTest(CLI::App& app, int& exitCode) {
-  CLI::App* command = app.add_subcommand("single-test", "")->group("");
+std::function<int()> declareSingleTest(CLI::App& command) {
   struct Single {
     std::string file, folder;
   };
   auto single = std::make_shared<Single>();
-  command->add_option("file", single->file)->required();
-  command->add_option("folder", single->folder)->required();
-  command->callback([single, &exitCode] {
+  command.add_option("file", single->file)->required();
+  command.add_option("folder", single->folder)->required();
+  return [single] {
     runSingleTest(single->file, single->folder);
-    exitCode = EXIT_FINE;
-  });
+    return EXIT_FINE;
+  };
 }
 
 }
 
-void addTestCommand(CLI::App& app, int& exitCode) {
-  CLI::App* command =
-      app.add_subcommand("test", "Run script tests: *.script files whose $ @... lines say what is expected");
-  auto options = std::make_shared<Options>();
-  command->add_option("path", options->paths, "Test files, or folders to search for them")
-      ->required()
-      ->type_name("PATH");
-  command->add_option("--filter", options->filter, "Run only tests whose path holds this text")->type_name("TEXT");
-  command->add_option("--junit", options->junit, "Write the results to this file, in JUnit's format")
-      ->type_name("FILE");
-  command->add_option("--jobs,-j", options->jobs, "Tests that run at a time")
-      ->capture_default_str()
-      ->check(CLI::Range(1u, 1024u))
-      ->type_name("N");
-  command->add_option("--time-limit", options->limit, "Seconds of real time that a test may take")
-      ->capture_default_str()
-      ->check(numberFrom(0.1, 86400.0))
-      ->type_name("S");
-  command->footer("Example:\n  tidemark test tests/scripts --filter variables --junit results.xml\n\nExit codes: 0 all "
-                  "passed, 1 a test failed, 2 wrong usage, 3 a path cannot be read.");
-  command->callback([options, &exitCode] { exitCode = runTestsGuarded(*options); });
-  addSingleTest(app, exitCode);
 }
+
+namespace tidemark {
+
+Subcommand testCommand() {
+  return {
+      "test", "Run script tests: *.script files whose $ @... lines say what is expected",
+      "Example:\n  tidemark test tests/scripts --filter variables --junit results.xml\n\nExit codes: 0 all passed, 1 "
+      "a test failed, 2 wrong usage, 3 a path cannot be read, there is no test, or the results\ncannot be written.",
+      test::declareTest};
+}
+
+Subcommand singleTestCommand() { return {"single-test", "", "", test::declareSingleTest}; }
 
 }

@@ -4,6 +4,9 @@
 
 #include <fmt/format.h>
 #include <nlohmann/json.hpp>
+#include <pugixml.hpp>
+
+#include <sstream>
 
 namespace tidemark::test {
 
@@ -11,41 +14,22 @@ namespace {
 
 using Json = nlohmann::json;
 
-std::string escapeXml(std::string_view text) {
-  std::string result;
-  for (const char character : toUtf8(text)) {
-    if (static_cast<unsigned char>(character) < 0x20 && character != '\n' && character != '\t')
-      result += '?';
-    else if (character == '<')
-      result += "&lt;";
-    else if (character == '>')
-      result += "&gt;";
-    else if (character == '&')
-      result += "&amp;";
-    else if (character == '"')
-      result += "&quot;";
-    else if (character == '\n')
-      result += "&#10;";
-    else
-      result += character;
-  }
-  return result;
+void setAttribute(pugi::xml_node node, const char* name, const std::string& value) {
+  node.append_attribute(name).set_value(toXmlText(value).c_str());
 }
 
-std::string describeCase(const TestResult& result) {
+void appendCase(pugi::xml_node suite, const TestResult& result) {
   const std::size_t slash = result.file.rfind('/');
-  const std::string folder = slash == std::string::npos ? "." : result.file.substr(0, slash);
-  std::string xml = fmt::format("    <testcase name=\"{}\" classname=\"{}\" file=\"{}\" time=\"{:.3f}\"",
-                                escapeXml(result.file.substr(slash == std::string::npos ? 0 : slash + 1)),
-                                escapeXml(folder), escapeXml(result.file), result.seconds);
-  if (result.passed()) return xml + "/>\n";
-  xml += ">\n";
+  pugi::xml_node test = suite.append_child("testcase");
+  setAttribute(test, "name", result.file.substr(slash == std::string::npos ? 0 : slash + 1));
+  setAttribute(test, "classname", slash == std::string::npos ? "." : result.file.substr(0, slash));
+  setAttribute(test, "file", result.file);
+  setAttribute(test, "time", fmt::format("{:.3f}", result.seconds));
   for (const Failure& failure : result.failures) {
-    const char* element = failure.kind == Failure::Kind::ERROR ? "error" : "failure";
-    xml += fmt::format("      <{0} message=\"{1}\">{2}</{0}>\n", element, escapeXml(failure.expected),
-                       escapeXml(describeFailure(result.file, failure)));
+    pugi::xml_node node = test.append_child(failure.kind == Failure::Kind::ERROR ? "error" : "failure");
+    setAttribute(node, "message", failure.expected);
+    node.text().set(toXmlText(describeFailure(result.file, failure)).c_str());
   }
-  return xml + "    </testcase>\n";
 }
 
 }
@@ -94,20 +78,28 @@ std::string describeFailure(const std::string& file, const Failure& failure) {
 }
 
 std::string toJUnit(const std::vector<TestResult>& results) {
+  pugi::xml_document document;
+  pugi::xml_node declaration = document.append_child(pugi::node_declaration);
+  declaration.append_attribute("version") = "1.0";
+  declaration.append_attribute("encoding") = "UTF-8";
+  pugi::xml_node suite = document.append_child("testsuites").append_child("testsuite");
   std::size_t failed = 0, errors = 0;
   double seconds = 0;
-  std::string cases;
   for (const TestResult& result : results) {
     const bool error = !result.passed() && result.failures.front().kind == Failure::Kind::ERROR;
     errors += error;
     failed += !result.passed() && !error;
     seconds += result.seconds;
-    cases += describeCase(result);
+    appendCase(suite, result);
   }
-  return fmt::format("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<testsuites>\n  <testsuite name=\"tidemark\" "
-                     "tests=\"{}\" failures=\"{}\" errors=\"{}\" time=\"{:.3f}\">\n{}"
-                     "  </testsuite>\n</testsuites>\n",
-                     results.size(), failed, errors, seconds, cases);
+  setAttribute(suite, "name", "tidemark");
+  setAttribute(suite, "tests", fmt::format("{}", results.size()));
+  setAttribute(suite, "failures", fmt::format("{}", failed));
+  setAttribute(suite, "errors", fmt::format("{}", errors));
+  setAttribute(suite, "time", fmt::format("{:.3f}", seconds));
+  std::ostringstream text;
+  document.save(text, "  ");
+  return text.str();
 }
 
 }

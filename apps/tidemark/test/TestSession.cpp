@@ -119,9 +119,7 @@ void TestSession::runStep(const Step& step) {
 void TestSession::check(const Expectation& expectation) {
   Verdict verdict;
   try {
-    verdict = expectation.check(*this);
-  } catch (const NotThere& missing) {
-    verdict.found = missing.what();
+    verdict = judge([&] { return expectation.check(*this); });
   } catch (const std::exception& fault) {
     fail(expectation.line, fault.what(), expectation.text);
     return;
@@ -129,6 +127,14 @@ void TestSession::check(const Expectation& expectation) {
   if (verdict.holds) return;
   mFailures.push_back({expectation.line, Failure::Kind::EXPECTATION, expectation.text, std::move(verdict.found),
                        verdict.around.empty() ? mLog.last() : std::move(verdict.around)});
+}
+
+Verdict TestSession::judge(const std::function<Verdict()>& check) {
+  try {
+    return check();
+  } catch (const NotThere& missing) {
+    return {false, missing.what(), {}};
+  }
 }
 
 void TestSession::fail(int line, const std::string& fault, const std::string& text) {

@@ -59,6 +59,9 @@ public:
   em5::HostSession& host() const { return *mHost; }
   script::tooling::Tooling& tooling() const { return *mTooling; }
 
+  /// The verdict of a check, which fails if something that it names isn't there.
+  static Verdict judge(const std::function<Verdict()>& check);
+
   /// A script by its key, with `#2` for the second running instance. Throws NotThere.
   std::size_t findScript(const std::string& name) const;
   /// True if the test installed a script of that name, known to the module or not.

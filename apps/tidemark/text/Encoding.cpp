@@ -1,10 +1,12 @@
 #include "apps/tidemark/text/Encoding.h"
 
 #include <fmt/format.h>
+#include <utf8.h>
 
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <iterator>
 #include <optional>
 #include <stdexcept>
 
@@ -18,25 +20,7 @@ constexpr std::array<std::uint32_t, 32> HIGH_CONTROLS = {
     0x2039, 0x0152, 0,      0x017D, 0,      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
 
-// Reads one character and moves behind it; nothing for bytes that are no UTF-8.
-std::optional<std::uint32_t> readCharacter(std::string_view text, std::size_t& position) {
-  const auto byteAt = [&](std::size_t index) { return static_cast<unsigned char>(text[index]); };
-  const unsigned char first = byteAt(position);
-  const int following = first < 0x80                    ? 0
-                        : first >= 0xC2 && first < 0xE0 ? 1
-                        : (first & 0xF0) == 0xE0        ? 2
-                        : first >= 0xF0 && first < 0xF5 ? 3
-                                                        : -1;
-  if (following < 0 || position + static_cast<std::size_t>(following) >= text.size()) return std::nullopt;
-  std::uint32_t character = following == 0 ? first : first & (0x3Fu >> following);
-  for (int i = 0; i < following; ++i) {
-    const unsigned char next = byteAt(position + 1 + static_cast<std::size_t>(i));
-    if ((next & 0xC0) != 0x80) return std::nullopt;
-    character = character << 6 | (next & 0x3Fu);
-  }
-  position += 1 + static_cast<std::size_t>(following);
-  return character;
-}
+constexpr std::uint32_t REPLACEMENT = 0xFFFD;
 
 std::optional<char> toCodePage(std::uint32_t character) {
   if (character < 0x80 || (character >= 0xA0 && character <= 0xFF)) return static_cast<char>(character);
@@ -48,57 +32,65 @@ std::optional<char> toCodePage(std::uint32_t character) {
 std::uint32_t fromCodePage(char byte) {
   const auto code = static_cast<unsigned char>(byte);
   const std::uint32_t character = code >= 0x80 && code < 0xA0 ? HIGH_CONTROLS[code - 0x80u] : code;
-  return character ? character : 0xFFFD;
+  return character ? character : REPLACEMENT;
 }
 
-void appendUtf8(std::string& text, std::uint32_t character) {
-  if (character < 0x80) {
-    text += static_cast<char>(character);
-  } else if (character < 0x800) {
-    text += static_cast<char>(0xC0 | character >> 6);
-    text += static_cast<char>(0x80 | (character & 0x3F));
-  } else {
-    text += static_cast<char>(0xE0 | character >> 12);
-    text += static_cast<char>(0x80 | (character >> 6 & 0x3F));
-    text += static_cast<char>(0x80 | (character & 0x3F));
-  }
-}
+bool isControl(std::uint32_t character) { return character < 0x20 || (character >= 0x7F && character < 0xA0); }
 
 }
 
-bool isUtf8(std::string_view text) {
-  for (std::size_t position = 0; position < text.size();)
-    if (!readCharacter(text, position)) return false;
-  return true;
-}
+bool isUtf8(std::string_view text) { return utf8::is_valid(text.begin(), text.end()); }
 
 std::string toUtf8(std::string_view text) {
   if (isUtf8(text)) return std::string(text);
   std::string result;
   for (const char byte : text)
-    appendUtf8(result, fromCodePage(byte));
+    utf8::append(fromCodePage(byte), std::back_inserter(result));
   return result;
 }
 
-std::size_t displayWidth(std::string_view utf8) {
-  return static_cast<std::size_t>(std::count_if(
-      utf8.begin(), utf8.end(), [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0) != 0x80; }));
+std::size_t displayWidth(std::string_view text) {
+  return static_cast<std::size_t>(utf8::distance(text.begin(), text.end()));
 }
 
-std::string convertToCodePage1252(std::string_view utf8) {
-  if (utf8.starts_with("\xEF\xBB\xBF")) utf8.remove_prefix(3);
+std::string toCell(std::string_view text, std::size_t longest) {
+  std::string cell;
+  std::size_t characters = 0;
+  for (auto next = text.begin(); next != text.end();) {
+    if (++characters > longest) return cell + "...";
+    const std::uint32_t character = utf8::next(next, text.end());
+    utf8::append(isControl(character) ? std::uint32_t{'?'} : character, std::back_inserter(cell));
+  }
+  return cell;
+}
+
+std::string toXmlText(std::string_view text) {
+  const std::string utf8Text = toUtf8(text);
   std::string result;
-  result.reserve(utf8.size());
+  for (auto next = utf8Text.begin(); next != utf8Text.end();) {
+    const std::uint32_t character = utf8::next(next, utf8Text.end());
+    const bool allowed = character == '\t' || character == '\n' ||
+                         (character >= 0x20 && character != 0x7F && character != 0xFFFE && character != 0xFFFF);
+    utf8::append(allowed ? character : std::uint32_t{'?'}, std::back_inserter(result));
+  }
+  return result;
+}
+
+std::string convertToCodePage1252(std::string_view text) {
+  if (utf8::starts_with_bom(text.begin(), text.end())) text.remove_prefix(std::size(utf8::bom));
+  std::string result;
+  result.reserve(text.size());
   std::size_t line = 1;
-  for (std::size_t position = 0; position < utf8.size();) {
-    const auto character = readCharacter(utf8, position);
-    if (!character) throw std::invalid_argument(fmt::format("line {} is no UTF-8", line));
-    const auto byte = toCodePage(*character);
+  const auto invalid = utf8::find_invalid(text.begin(), text.end());
+  for (auto next = text.begin(); next != invalid;) {
+    const std::uint32_t character = utf8::next(next, invalid);
+    const auto byte = toCodePage(character);
     if (!byte)
-      throw std::invalid_argument(fmt::format("line {} holds U+{:04X}, which the code page lacks", line, *character));
-    line += *character == '\n';
+      throw std::invalid_argument(fmt::format("line {} holds U+{:04X}, which the code page lacks", line, character));
+    line += character == '\n';
     result += *byte;
   }
+  if (invalid != text.end()) throw std::invalid_argument(fmt::format("line {} is no UTF-8", line));
   return result;
 }
 

@@ -1,4 +1,6 @@
 #include "apps/tidemark/test/steps/Steps.h"
+#include "apps/tidemark/test/TestSession.h"
+#include "apps/tidemark/test/directives/TextMatch.h"
 
 #include <fmt/format.h>
 
@@ -6,8 +8,43 @@
 
 namespace tidemark::test {
 
+// The themes of actions and of expectations, in the order in which they are asked. Each has a source of its own,
+// <Theme>Actions.cpp or <Theme>Expectations.cpp, whose reader returns nothing if the next word isn't its own.
+#define ACTION_THEMES(THEME) THEME(Store) THEME(World) THEME(Device) THEME(Lifecycle)
+#define EXPECTATION_THEMES(THEME) THEME(Log) THEME(Store) THEME(Trigger) THEME(World)
+
+#define DECLARE_ACTIONS(NAME) std::optional<Action> read##NAME##Action(WordCursor& words);
+ACTION_THEMES(DECLARE_ACTIONS)
+#define DECLARE_EXPECTATIONS(NAME) std::optional<Expectation> read##NAME##Expectation(WordCursor& words);
+EXPECTATION_THEMES(DECLARE_EXPECTATIONS)
+
+namespace {
+
+#define ACTION_READER(NAME) read##NAME##Action,
+constexpr std::optional<Action> (*ACTION_READERS[])(WordCursor&) = {ACTION_THEMES(ACTION_READER)};
+#define EXPECTATION_READER(NAME) read##NAME##Expectation,
+constexpr std::optional<Expectation> (*EXPECTATION_READERS[])(WordCursor&) = {EXPECTATION_THEMES(EXPECTATION_READER)};
+
+// `failure TEXT of EXPECTATION`: that one fails, and what was found instead holds the text.
+Expectation expectFailure(WordCursor& words) {
+  const std::string text = words.take("a text of what is found");
+  words.require("of");
+  Expectation expectation = readExpectation(words);
+  // Lines that it names aren't expected to be there.
+  expectation.logs.clear();
+  expectation.check = [text, check = std::move(expectation.check)](TestSession& session) {
+    Verdict verdict = TestSession::judge([&] { return check(session); });
+    verdict.found = fmt::format("{}: {}", verdict.holds ? "it holds" : "it fails", verdict.found);
+    verdict.holds = !verdict.holds && textContained(text, verdict.found);
+    return verdict;
+  };
+  return expectation;
+}
+
+}
+
 Action readAction(WordCursor& words) {
-  for (const auto reader : {readStoreAction, readWorldAction, readDeviceAction, readLifecycleAction}) {
+  for (const auto reader : ACTION_READERS) {
     if (auto action = reader(words)) {
       words.requireEnd();
       return std::move(*action);
@@ -17,7 +54,8 @@ Action readAction(WordCursor& words) {
 }
 
 Expectation readExpectation(WordCursor& words) {
-  for (const auto reader : {readLogExpectation, readStoreExpectation, readTriggerExpectation, readWorldExpectation}) {
+  if (words.takeIf("failure")) return expectFailure(words);
+  for (const auto reader : EXPECTATION_READERS) {
     if (auto expectation = reader(words)) {
       words.requireEnd();
       return std::move(*expectation);

@@ -18,18 +18,6 @@ struct EntityDirective {
 EntityDirective readEntityDirective(WordCursor& words);
 Action readSetDirective(WordCursor& words);
 
-/// The parts of readExpectation by theme; each returns nothing if the next word isn't its own.
-std::optional<Expectation> readLogExpectation(WordCursor& words);
-std::optional<Expectation> readStoreExpectation(WordCursor& words);
-std::optional<Expectation> readTriggerExpectation(WordCursor& words);
-std::optional<Expectation> readWorldExpectation(WordCursor& words);
-
-/// The parts of readAction.
-std::optional<Action> readStoreAction(WordCursor& words);
-std::optional<Action> readWorldAction(WordCursor& words);
-std::optional<Action> readDeviceAction(WordCursor& words);
-std::optional<Action> readLifecycleAction(WordCursor& words);
-
 /// `[N times|never]`, at least once if nothing stands there.
 struct Times {
   std::optional<std::uint64_t> exactly;

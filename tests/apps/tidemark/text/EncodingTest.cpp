@@ -40,6 +40,27 @@ TEST(Encoding, CarriageReturnsAreNotDoubled) {
 
 TEST(Encoding, WidthCountsCharacters) { EXPECT_EQ(displayWidth("aß€"), 3u); }
 
+TEST(Encoding, SurrogatesAndOverlongFormsAreNoUtf8) {
+  EXPECT_TRUE(isUtf8("a\xF0\x9F\x9A\x92"));
+  for (const char* text : {"\xED\xA0\x80", "\xE0\x80\xA7", "\xC0\x80", "\xF4\x90\x80\x80", "\xF8\x88\x80\x80\x80"})
+    EXPECT_FALSE(isUtf8(text)) << text;
+}
+
+TEST(Encoding, CellsAreShortAndWithoutControlCharacters) {
+  EXPECT_EQ(toCell("grün\x1b[2J", 80), "grün?[2J");
+  EXPECT_EQ(toCell("a\xC2\x9B"
+                   "b",
+                   80),
+            "a?b");
+  EXPECT_EQ(toCell("äöü", 3), "äöü");
+  EXPECT_EQ(toCell("äöüß", 3), "äöü...");
+}
+
+TEST(Encoding, XmlTextsHoldWhatXmlAllows) {
+  EXPECT_EQ(toXmlText("a\tb\n\x01\x7F<ü\xFF"), "a\tb\n?"
+                                               "?<Ã¼ÿ");
+}
+
 }
 
 }

@@ -1,17 +1,14 @@
 #include "qsf/log/LogSystem.h"
 #include "qsf/Qsf.h"
-#include "qsf/log/ConsoleLog.h"
 #include "qsf/log/ErrorHandling.h"
 #include "qsf/log/FaultCounter.h"
 
 #include <gtest/gtest.h>
 
-#include <sstream>
 #include <stdexcept>
 
 namespace {
 
-using qsf::ConsoleLog;
 using qsf::LogSystem;
 
 using Lines = std::vector<std::pair<int, std::string>>;
@@ -130,33 +127,6 @@ TEST(FaultCounter, CountsFaultsOfTheRunningHost) {
   EXPECT_EQ(host.getFaultCounter().getCount(), 2u);
   EXPECT_EQ(host.getFaultCounter().getLastFault(), "Fault in a test: unknown exception");
   EXPECT_EQ(lines, (Lines{{4, "Fault in a test: it broke"}, {4, "Fault in a test: unknown exception"}}));
-}
-
-TEST(ConsoleLog, WritesTextWithSeverityAndSimulatedTime) {
-  LogSystem log;
-  std::ostringstream stream;
-  qsf::Time now = qsf::Time::fromSeconds(1.25);
-  {
-    ConsoleLog console(log, ConsoleLog::Format::TEXT, stream, [&] { return now; });
-    log.log(LogSystem::INFO, "a % {} line");
-    now = qsf::Time::fromSeconds(12.3);
-    log.log(LogSystem::WARNING, "second");
-    log.log(LogSystem::NONE, "third");
-  }
-  log.log(LogSystem::ERROR, "after the end");
-  EXPECT_EQ(stream.str(), "[    1.250] INFO    a % {} line\n[   12.300] WARNING second\n[   12.300] NONE    third\n");
-}
-
-TEST(ConsoleLog, WritesOneJsonObjectALine) {
-  LogSystem log;
-  std::ostringstream stream;
-  {
-    ConsoleLog console(log, ConsoleLog::Format::JSON_LINES, stream, [] { return qsf::Time::fromSeconds(0.05); });
-    log.log(LogSystem::ERROR, "say \"no\"\nnow");
-    log.log(LogSystem::INFO, "byte \xA7.");
-  }
-  EXPECT_EQ(stream.str(), "{\"time\":0.05,\"severity\":\"ERROR\",\"message\":\"say \\\"no\\\"\\nnow\"}\n"
-                          "{\"time\":0.05,\"severity\":\"INFO\",\"message\":\"byte \xEF\xBF\xBD.\"}\n");
 }
 
 }

@@ -1,0 +1,171 @@
+// `tidemark run`: tables, reports, faults of its inputs.
+#include "apps/tidemark/ProgramFixture.h"
+
+#include <nlohmann/json.hpp>
+
+namespace tidemark {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+using RunCommand = Program;
+
+TEST_F(RunCommand, FaultyProjectFilesNameFileAndPlace) {
+  write("project.json", "{\"name\": 5}");
+  const Outcome outcome = run({"run", folder()});
+  EXPECT_EQ(outcome.code, 3);
+  EXPECT_NE(outcome.output.find("project.json"), std::string::npos) << outcome.output;
+  EXPECT_NE(outcome.output.find("/name"), std::string::npos) << outcome.output;
+  write("project.json", "{\"name\": \"p\", \"map\": []}");
+  const Outcome map = run({"run", folder()});
+  EXPECT_EQ(map.code, 3);
+  EXPECT_NE(map.output.find("/map"), std::string::npos) << map.output;
+}
+
+TEST_F(RunCommand, TheTableStaysReadable) {
+  write("project.json", "{\"name\": \"p\"}");
+  write("x64/tidemark/MapScript.json",
+        R"({"MapScripts": {"a": {"Path": "a.script", "Mode": "MAP_STARTUP", "Maps": ["All"]}}})");
+  std::string script = "InitNewTrigger(\"Long\");\nInitEffects();\nSetStringVariableToValue(\"text\", \"x\x1b[2J" +
+                       std::string(100'000, 'y') + "\");\n";
+  for (int i = 0; i < 500; ++i)
+    script += "InitNewTrigger(\"Trigger " + std::to_string(i) + "\");\n";
+  write("x64/tidemark/a.script", script);
+  const Outcome outcome =
+      run({"run", folder(), "--seconds", "0.1", "--log-level", "none", "--report", folder() + "/r.json"});
+  EXPECT_EQ(outcome.code, 0);
+  EXPECT_LT(outcome.output.size(), 30'000u);
+  EXPECT_EQ(outcome.output.find('\x1b'), std::string::npos);
+  EXPECT_NE(outcome.output.find("yyy..."), std::string::npos) << outcome.output;
+  EXPECT_NE(outcome.output.find("more, which --report FILE lists"), std::string::npos) << outcome.output;
+  const auto report = nlohmann::json::parse(readAll(folder() + "/r.json"));
+  EXPECT_EQ(report["scripts"][0]["triggers"].size(), 501u);
+}
+
+TEST_F(RunCommand, UnknownMapsAreToldWithNearOnes) {
+  write("project.json", "{\"name\": \"p\"}");
+  write("map/sea/coast.json", "{}");
+  const Outcome near = run({"run", folder(), "--map", "p/map/sea/cost"});
+  EXPECT_EQ(near.code, 3);
+  EXPECT_NE(near.output.find("no mounted project has a map 'p/map/sea/cost' (did you mean \"p/map/sea/coast\"?)"),
+            std::string::npos)
+      << near.output;
+  const Outcome far = run({"run", folder(), "--map", "mountains"});
+  EXPECT_EQ(far.code, 3);
+  EXPECT_NE(far.output.find("; there are em5/map/test/empty, em5/map/test/other, "), std::string::npos) << far.output;
+  EXPECT_NE(far.output.find(", p/map/sea/coast\n"), std::string::npos) << far.output;
+}
+
+TEST_F(RunCommand, ALanguageWithoutTextsIsWrongUsage) {
+  writeProject(BEAT);
+  const Outcome outcome = run({"run", folder(), "--language", "xx"});
+  EXPECT_EQ(outcome.code, 2);
+  EXPECT_NE(outcome.output.find("no project has texts in 'xx'; there are de, en"), std::string::npos) << outcome.output;
+  write("text/xx/a.json", "{}");
+  EXPECT_EQ(run({"run", folder(), "--language", "xx", "--seconds", "0"}).code, 0);
+}
+
+TEST_F(RunCommand, RunPrintsTheTableAndWritesTheReport) {
+  writeProject(BEAT);
+  const Outcome outcome = run({"run", folder(), "--seconds", "3.2", "--report", folder() + "/report.json"});
+  EXPECT_EQ(outcome.code, 0) << outcome.output;
+  EXPECT_NE(outcome.output.find("INFO    beat"), std::string::npos) << outcome.output;
+  EXPECT_NE(outcome.output.find("Beat     3      active, looped"), std::string::npos) << outcome.output;
+  EXPECT_NE(outcome.output.find("variable  beats  3"), std::string::npos) << outcome.output;
+  const auto report = nlohmann::json::parse(readAll(folder() + "/report.json"));
+  EXPECT_EQ(report["frames"], 64);
+  EXPECT_EQ(report["map"], "em5/map/test/empty");
+  EXPECT_EQ(report["scripts"][0]["key"], "main");
+  EXPECT_EQ(report["scripts"][0]["triggers"][0]["fired"], 3);
+  EXPECT_EQ(report["scripts"][0]["stores"]["variables"][0]["value"], 3.0);
+}
+
+TEST_F(RunCommand, AScriptThatCannotBeUsedMakesTheRunFail) {
+  writeProject("Timer(\"1\");\n" + BEAT);
+  const Outcome outcome = run({"run", folder(), "--seconds", "1"});
+  EXPECT_EQ(outcome.code, 1) << outcome.output;
+  EXPECT_NE(outcome.output.find("1 fault, the last: The script"), std::string::npos) << outcome.output;
+}
+
+TEST_F(RunCommand, EqualRunsGiveEqualOutput) {
+  writeProject(BEAT + "SetVariableRandom(\"1\", \"1000\", \"die\");\nDoLogEntry(\"INFO\", \"die\");\n");
+  const Outcome first = run({"run", folder(), "--seed", "3", "--log-level", "trace"});
+  EXPECT_EQ(first.output, run({"run", folder(), "--seed", "3", "--log-level", "trace"}).output);
+  EXPECT_NE(first.output, run({"run", folder(), "--seed", "4", "--log-level", "trace"}).output);
+}
+
+TEST_F(RunCommand, LogLinesCanBeJson) {
+  writeProject(BEAT);
+  const Outcome outcome = run({"run", folder(), "--seconds", "1.2", "--log-format", "jsonl"});
+  std::istringstream lines(outcome.output);
+  std::string line;
+  std::getline(lines, line);
+  EXPECT_TRUE(nlohmann::json::accept(line)) << line;
+  EXPECT_NE(outcome.output.find("\"message\":\"beat\""), std::string::npos) << outcome.output;
+}
+
+TEST_F(RunCommand, TheLogIsUtf8WhateverScriptsWrite) {
+  writeProject("InitNewTrigger(\"Once\");\nInitEffects();\nDoLogEntry(\"INFO\", \"gr\xFC\xDF \x80\");\n");
+  for (const char* format : {"text", "jsonl"})
+    EXPECT_NE(run({"run", folder(), "--seconds", "0.1", "--log-format", format}).output.find("grüß €"),
+              std::string::npos)
+        << format;
+}
+
+TEST_F(RunCommand, AReportOnStandardOutputStandsThereAlone) {
+  writeProject(BEAT);
+  const Outcome outcome = runInShell("\"$0\" run \"$1\" --seconds 1.2 --report - 2>/dev/null");
+  EXPECT_EQ(outcome.code, 0);
+  ASSERT_TRUE(nlohmann::json::accept(outcome.output)) << outcome.output;
+  EXPECT_EQ(nlohmann::json::parse(outcome.output)["frames"], 24);
+}
+
+TEST_F(RunCommand, AReportThatCannotBeWrittenIsToldBeforeTheRun) {
+  writeProject(BEAT);
+  for (const std::string& path : {folder() + "/none/report.json", folder()}) {
+    const Outcome outcome = run({"run", folder(), "--report", path});
+    EXPECT_EQ(outcome.code, 3);
+    EXPECT_TRUE(outcome.output.starts_with("tidemark run: --report: " + path + " can't be written: "))
+        << outcome.output;
+  }
+}
+
+TEST_F(RunCommand, AReportOfARunThatFailsLeavesNoFile) {
+  writeProject(BEAT);
+  EXPECT_EQ(run({"run", folder(), "--map", "none", "--report", folder() + "/report.json"}).code, 3);
+  EXPECT_FALSE(fs::exists(folder() + "/report.json"));
+}
+
+TEST_F(RunCommand, ATableThatCannotBeWrittenIsAnError) {
+  writeProject(BEAT);
+  const Outcome outcome = runInShell("\"$0\" run \"$1\" --log-level none >/dev/full");
+  EXPECT_EQ(outcome.code, 3);
+  EXPECT_EQ(outcome.output, "tidemark: standard output can't be written: No space left on device\n");
+}
+
+TEST_F(RunCommand, TheWorkingDirectoryIsTheFirstProjectsFolder) {
+  writeProject("InitNewTrigger(\"Once\");\nInitEffects();\nStartScenario(\"x64/tidemark/helper.script\");\n");
+  write("x64/tidemark/helper.script", "InitNewTrigger(\"Help\");\nInitEffects();\nDoLogEntry(\"INFO\", \"here\");\n");
+  const Outcome outcome = runInShell("cd \"$1/..\" && \"$0\" run input --seconds 1 --report report.json && ls");
+  EXPECT_EQ(outcome.code, 0) << outcome.output;
+  EXPECT_NE(outcome.output.find("INFO    here"), std::string::npos) << outcome.output;
+  EXPECT_NE(outcome.output.find("report.json"), std::string::npos) << outcome.output;
+}
+
+TEST_F(RunCommand, ARequestToEndEndsTheRunWithItsTable) {
+  writeProject("InitNewTrigger(\"Once\");\nInitEffects();\nDoLogEntry(\"WARNING\", \"begun\");\n");
+  for (const std::string signal : {"INT", "TERM"}) {
+    // The run would go on for days; it is ended when its first line has been seen.
+    const Outcome outcome =
+        runInShell("{ sh -c 'echo $$; exec \"$0\" run \"$1\" --seconds 10000000 --log-level warning 2>&1' \"$0\" "
+                   "\"$1\"; echo \"code $?\"; } | { read process; read line; kill -" +
+                   signal + " $process; cat; }");
+    EXPECT_NE(outcome.output.find("script p/main"), std::string::npos) << outcome.output;
+    EXPECT_TRUE(outcome.output.ends_with("code 0\n")) << outcome.output;
+  }
+}
+
+}
+
+}
