@@ -1,4 +1,5 @@
 #pragma once
+#include "apps/tidemark/session/Maps.h"
 #include "apps/tidemark/test/LogBook.h"
 #include "apps/tidemark/test/directives/Words.h"
 
@@ -56,6 +57,7 @@ struct ScriptSection {
   std::string key;  ///< its name in MapScript.json
   std::string mode; ///< empty: installed, not listed
   std::string text;
+  int line = 0;
 };
 
 struct FileSection {
@@ -63,10 +65,11 @@ struct FileSection {
   std::string text;
 };
 
-/// A project to mount: one that the test brings along, or an existing folder.
+/// A project to mount: one that the test brings along, an existing folder, or a copy of one.
 struct ProjectPlan {
   std::string name;
   std::string directory; ///< of an existing project, absolute; empty for one that the test brings along
+  std::string original;  ///< folder of which the test brings a copy along, absolute; empty for none
   bool enabled = true;
   bool mounted = true;
   std::vector<ScriptSection> scripts;
@@ -74,14 +77,16 @@ struct ProjectPlan {
   int line = 0;
 };
 
-/// All that a test file asks for. The first project is `test`, its first script `main`.
+/// All that a test file asks for. The first project is `test`, its first script `main`; a test that plays an existing
+/// project has a copy of that in their place.
 struct TestPlan {
   std::string file;
   std::vector<ProjectPlan> projects;
   std::vector<std::string> mainMaps{"All"};
   enum class Encoding { AS_WRITTEN, CODE_PAGE_1252 } encoding = Encoding::AS_WRITTEN;
   enum class LineEnd { AS_WRITTEN, CARRIAGE_RETURN } lineEnd = LineEnd::AS_WRITTEN;
-  std::string map = "em5/map/test/empty";
+  std::string map = DEFAULT_MAP;
+  int mapLine = 0; ///< of the directive that names it; 0: none does
   em5::GameModeType gameMode = em5::GameModeType::FREEPLAY_ENDLESS;
   bool editor = false;
   std::string language = "en";
@@ -95,6 +100,8 @@ struct TestPlan {
   std::vector<Step> steps;         ///< by time; equal times in the order of the lines
   std::vector<Expectation> expectations;
 
+  /// True if an existing project takes the place of the test's own.
+  bool playsProject() const { return !projects.front().original.empty(); }
   std::uint64_t framesUntil(double seconds) const;
   std::uint64_t numberOfFrames() const { return framesUntil(duration); }
 };

@@ -1,6 +1,7 @@
 #include "apps/tidemark/test/TestSession.h"
 
 #include "apps/tidemark/session/Installation.h"
+#include "apps/tidemark/session/Maps.h"
 #include "apps/tidemark/session/ModuleAccess.h"
 #include "apps/tidemark/test/project/ProjectWriter.h"
 #include "apps/tidemark/test/steps/ScriptScope.h"
@@ -12,6 +13,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <filesystem>
 
 namespace tidemark::test {
 
@@ -72,12 +74,33 @@ void TestSession::startHost() {
   });
   mHost->mountBaseProject(mBaseProject);
   for (const ProjectPlan& project : mPlan.projects)
-    mHost->mountMod(projectDirectory(project, mProjects), {.mounted = project.mounted, .enabled = project.enabled});
+    guard(project.line, "", [&] {
+      mHost->mountMod(projectDirectory(project, mProjects), {.mounted = project.mounted, .enabled = project.enabled});
+    });
   mHost->startup();
+  startModule();
+  mHost->setMapPreparation([this](qsf::Map&) { prepareMap(); });
+  guard(mPlan.mapLine, "", [this] {
+    requireMap(mHost->getQsf().getProjectManager(), mPlan.map);
+    mHost->startGame(mPlan.map);
+  });
+}
+
+void TestSession::startModule() {
   if (!mHost->loadPlugin(modulePath())) throw std::runtime_error("the module refuses to start");
   mTooling = &findTooling();
-  mHost->setMapPreparation([this](qsf::Map&) { prepareMap(); });
-  mHost->startGame(mPlan.map);
+}
+
+// A fault of a part of the test ends the test; it is told with the line that asked for the part.
+void TestSession::guard(int line, const std::string& text, const std::function<void()>& part) {
+  try {
+    part();
+  } catch (const Aborted&) {
+    throw;
+  } catch (const std::exception& fault) {
+    fail(line, fault.what(), text);
+    throw Aborted();
+  }
 }
 
 // What the directives put on the map belongs to the map of the test: it is there again after a restart, and not on
@@ -86,16 +109,7 @@ void TestSession::prepareMap() {
   if (mHost->getQsf().getMainMap().getLocalAssetName() != mPlan.map) return;
   for (const std::vector<WorldLine>* lines : {&mPlan.entities, &mPlan.world})
     for (const WorldLine& line : *lines)
-      place(line);
-}
-
-void TestSession::place(const WorldLine& line) {
-  try {
-    line.action(*this);
-  } catch (const std::exception& fault) {
-    fail(line.line, fault.what(), line.text);
-    throw Aborted();
-  }
+      guard(line.line, line.text, [&] { line.action(*this); });
 }
 
 void TestSession::runSteps(std::uint64_t frame) {
@@ -108,12 +122,7 @@ void TestSession::runStep(const Step& step) {
     check(*step.expectation);
     return;
   }
-  try {
-    step.action(*this);
-  } catch (const std::exception& fault) {
-    fail(step.line, fault.what(), step.text);
-    throw Aborted();
-  }
+  guard(step.line, step.text, [&] { step.action(*this); });
 }
 
 void TestSession::check(const Expectation& expectation) {
@@ -147,7 +156,10 @@ bool TestSession::isScriptInstalled(const std::string& name) const {
   for (const ProjectPlan& project : mPlan.projects)
     for (const ScriptSection& section : project.scripts)
       if (section.key == plain || plain.ends_with("/" + section.path) || plain == section.path) return true;
-  return false;
+  // Scripts of a played project, by key or path: the working directory is its folder.
+  std::error_code ignored;
+  return mPlan.playsProject() && (std::filesystem::is_regular_file("x64/tidemark/" + plain + ".script", ignored) ||
+                                  std::filesystem::is_regular_file(plain, ignored));
 }
 
 std::size_t TestSession::findScript(const std::string& name) const {

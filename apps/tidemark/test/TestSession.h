@@ -64,7 +64,7 @@ public:
 
   /// A script by its key, with `#2` for the second running instance. Throws NotThere.
   std::size_t findScript(const std::string& name) const;
-  /// True if the test installed a script of that name, known to the module or not.
+  /// True if the test's project has a script of that name, known to the module or not.
   bool isScriptInstalled(const std::string& name) const;
   /// The id that the reference stands for now. Throws NotThere.
   std::uint64_t resolve(const EntityReference& reference) const;
@@ -74,8 +74,9 @@ public:
 private:
   void runHost();
   void startHost();
+  void startModule();
+  void guard(int line, const std::string& text, const std::function<void()>& part);
   void prepareMap();
-  void place(const WorldLine& line);
   void runSteps(std::uint64_t frame);
   void runStep(const Step& step);
   void check(const Expectation& expectation);

@@ -18,9 +18,7 @@
 class SessionTest : public testing::Test {
 protected:
   void SetUp() override {
-    const auto* info = testing::UnitTest::GetInstance()->current_test_info();
-    mFolder = std::filesystem::temp_directory_path() /
-              ("tidemark_" + std::to_string(getpid()) + "_" + info->test_suite_name() + "_" + info->name());
+    mFolder = std::filesystem::temp_directory_path() / ("tidemark_session_" + std::to_string(getpid()));
     std::filesystem::remove_all(mFolder);
     std::filesystem::create_directories(mFolder);
   }

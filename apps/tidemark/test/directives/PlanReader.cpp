@@ -1,5 +1,6 @@
 #include "apps/tidemark/test/directives/PlanReader.h"
 
+#include "apps/tidemark/session/Languages.h"
 #include "apps/tidemark/test/steps/Steps.h"
 
 #include <fmt/format.h>
@@ -42,6 +43,11 @@ double takePositive(WordCursor& words, std::string_view what, double least, doub
   return value;
 }
 
+// A line with a dollar sign anywhere is a comment to the language.
+bool isCode(std::string_view line) {
+  return line.find('$') == std::string_view::npos && line.find_first_not_of(" \t\r\n") != std::string_view::npos;
+}
+
 std::string keyOf(const std::string& path) {
   const std::size_t slash = path.rfind('/');
   const std::size_t dot = path.rfind('.');
@@ -55,7 +61,7 @@ PlanReader::PlanReader(const std::string& file) {
   mResult.plan.file = file;
   ProjectPlan& test = mResult.plan.projects.emplace_back();
   test.name = "test";
-  test.scripts.push_back({"main.script", "main", DEFAULT_MODE, ""});
+  test.scripts.push_back({"main.script", "main", DEFAULT_MODE, "", 0});
   mText = &test.scripts.front().text;
 }
 
@@ -77,7 +83,10 @@ void PlanReader::readLine(std::string_view line, int number) {
     return;
   }
   *mText += line;
-  if (!mInMain) mainText() += '\n';
+  if (!mInMain)
+    mainText() += '\n';
+  else if (mCodeLine == 0 && isCode(line))
+    mCodeLine = number;
 }
 
 // Whether the line belongs to the raw file that is being read.
@@ -89,14 +98,14 @@ bool PlanReader::readRawLine(std::string_view line) {
 }
 
 void PlanReader::readDirectiveLine(std::string_view line, int number) {
-  static const std::set<std::string_view> BOUNDS = {"script", "file", "mod", "project", "end"};
+  static const std::set<std::string_view> BOUNDS = {"script", "file", "mod", "project", "play", "end"};
   const bool wasInMain = mInMain;
   try {
     const auto directive = readDirective(line, number);
     WordCursor words(directive->words);
     dispatch(*directive, words);
   } catch (const DirectiveError& fault) {
-    mResult.faults.push_back({number, fmt::format("@{}: {}", *directiveName(line), fault.what())});
+    addFault(number, fmt::format("@{}: {}", *directiveName(line), fault.what()));
   }
   // A directive is a comment of the script in which it stands; those that bound sections stand in main.
   if (wasInMain || BOUNDS.contains(*directiveName(line))) {
@@ -108,7 +117,7 @@ void PlanReader::readDirectiveLine(std::string_view line, int number) {
 }
 
 void PlanReader::dispatch(const Directive& directive, WordCursor& words) {
-  if (!readSection(directive, words) && !readSetting(directive, words) && !readGameSetting(directive, words) &&
+  if (!readSection(directive, words) && !readScriptSetting(directive, words) && !readGameSetting(directive, words) &&
       !readStep(directive, words))
     throw DirectiveError("unknown directive");
   words.requireEnd();
@@ -117,6 +126,7 @@ void PlanReader::dispatch(const Directive& directive, WordCursor& words) {
 bool PlanReader::readSection(const Directive& directive, WordCursor& words) {
   if (directive.name == "script") {
     beginScript(words);
+    project().scripts.back().line = directive.line;
   } else if (directive.name == "file") {
     beginFile(words);
     mFileLine = directive.line;
@@ -124,6 +134,8 @@ bool PlanReader::readSection(const Directive& directive, WordCursor& words) {
     beginProject(directive, words);
   } else if (directive.name == "project") {
     mountProject(directive, words);
+  } else if (directive.name == "play") {
+    playProject(directive, words);
   } else if (directive.name == "end") {
     mInFile = false;
     mInMain = true;
@@ -176,21 +188,35 @@ void PlanReader::beginProject(const Directive& directive, WordCursor& words) {
   mText = &mainText();
 }
 
-void PlanReader::mountProject(const Directive& directive, WordCursor& words) {
+// An existing folder, relative to the test file.
+std::string PlanReader::takeFolder(WordCursor& words) const {
   namespace fs = std::filesystem;
-  ProjectPlan plan;
   const fs::path path = words.take("the project's folder");
   const fs::path folder = fs::absolute(fs::path(mResult.plan.file).parent_path() / path).lexically_normal();
   if (std::error_code ignored; !fs::is_directory(folder, ignored))
     throw DirectiveError(fmt::format("there is no folder '{}'", folder.string()));
-  plan.directory = folder.string();
+  return folder.string();
+}
+
+void PlanReader::mountProject(const Directive& directive, WordCursor& words) {
+  ProjectPlan plan;
+  plan.directory = takeFolder(words);
   plan.line = directive.line;
   mResult.plan.projects.push_back(std::move(plan));
   mText = &mainText();
   mInMain = true;
 }
 
-bool PlanReader::readSetting(const Directive& directive, WordCursor& words) {
+void PlanReader::playProject(const Directive& directive, WordCursor& words) {
+  ProjectPlan& played = mResult.plan.projects.front();
+  if (mResult.plan.playsProject()) throw DirectiveError("a test plays one project");
+  played.original = takeFolder(words);
+  played.line = directive.line;
+  mText = &mainText();
+  mInMain = true;
+}
+
+bool PlanReader::readScriptSetting(const Directive& directive, WordCursor& words) {
   TestPlan& plan = mResult.plan;
   if (directive.name == "mode") {
     plan.projects.front().scripts.front().mode = words.take("a mode");
@@ -208,6 +234,7 @@ bool PlanReader::readSetting(const Directive& directive, WordCursor& words) {
   } else {
     return false;
   }
+  if (mScriptSettingLine == 0) mScriptSettingLine = directive.line;
   return true;
 }
 
@@ -215,6 +242,7 @@ bool PlanReader::readGameSetting(const Directive& directive, WordCursor& words) 
   TestPlan& plan = mResult.plan;
   if (directive.name == "map") {
     plan.map = words.take("the map's name");
+    plan.mapLine = directive.line;
   } else if (directive.name == "game") {
     const std::string name = words.take("a game mode");
     const auto mode = em5::parseGameModeType(name);
@@ -226,6 +254,8 @@ bool PlanReader::readGameSetting(const Directive& directive, WordCursor& words) 
     plan.editor = true;
   } else if (directive.name == "language") {
     plan.language = words.take("a language");
+    if (!isLanguageCode(plan.language))
+      throw DirectiveError(fmt::format("'{}' is no language; one is written as in en or pt-BR", plan.language));
   } else if (directive.name == "account") {
     plan.account = words.take("the account's name");
   } else if (directive.name == "seed") {
@@ -284,19 +314,41 @@ void PlanReader::readTimedStep(const Directive& directive, WordCursor& words) {
 
 void PlanReader::finish() {
   TestPlan& plan = mResult.plan;
-  if (mInFile) mResult.faults.push_back({mFileLine, "@file: its '$ @end' is missing"});
+  if (mInFile) addFault(mFileLine, "@file: its '$ @end' is missing");
+  if (plan.playsProject()) finishPlay();
   std::stable_sort(plan.steps.begin(), plan.steps.end(),
                    [&](const Step& a, const Step& b) { return plan.framesUntil(a.time) < plan.framesUntil(b.time); });
-  for (const Step& step : plan.steps)
-    if (plan.framesUntil(step.time) > plan.numberOfFrames())
-      mResult.faults.push_back(
-          {step.line, fmt::format("@at: {} s is behind the end of the test, which runs {} s; write '@for {}'",
-                                  step.time, plan.duration, step.time)});
+  checkTimes();
   const bool expects =
       !plan.expectations.empty() ||
       std::any_of(plan.steps.begin(), plan.steps.end(), [](const Step& step) { return step.expectation.has_value(); });
-  if (!expects && mResult.faults.empty())
-    mResult.faults.push_back({1, "the test expects nothing; it needs an @expect"});
+  if (!expects && mResult.faults.empty()) addFault(1, "the test expects nothing; it needs an @expect");
+}
+
+// The played project has scripts and a map of its own.
+void PlanReader::finishPlay() {
+  ProjectPlan& played = mResult.plan.projects.front();
+  if (mCodeLine > 0) addFault(mCodeLine, "a line of a script; a test with @play holds directives only");
+  if (mScriptSettingLine > 0) addFault(mScriptSettingLine, "a project that is played lists its scripts itself");
+  for (std::size_t i = 1; i < played.scripts.size(); ++i)
+    addFault(played.scripts[i].line,
+             "@script: a project that is played has its own scripts; another belongs to a @mod");
+  played.scripts.clear();
+  if (mResult.plan.mapLine > 0) return;
+  try {
+    mResult.plan.map = findMapOfProject(played.original).value_or(DEFAULT_MAP);
+    mResult.plan.mapLine = played.line;
+  } catch (const std::exception& wrong) {
+    addFault(played.line, fmt::format("@play: {}", wrong.what()));
+  }
+}
+
+void PlanReader::checkTimes() {
+  const TestPlan& plan = mResult.plan;
+  for (const Step& step : plan.steps)
+    if (plan.framesUntil(step.time) > plan.numberOfFrames())
+      addFault(step.line, fmt::format("@at: {} s is behind the end of the test, which runs {} s; write '@for {}'",
+                                      step.time, plan.duration, step.time));
 }
 
 std::uint64_t TestPlan::framesUntil(double seconds) const {

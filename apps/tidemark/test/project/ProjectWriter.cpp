@@ -46,7 +46,7 @@ Json describeScripts(const TestPlan& plan, const ProjectPlan& project) {
   Json scripts = Json::object();
   for (const ScriptSection& script : project.scripts) {
     if (script.mode.empty()) continue;
-    const bool isMain = &script == &plan.projects.front().scripts.front();
+    const bool isMain = &script == plan.projects.front().scripts.data();
     scripts[script.key] = {{"Path", script.path},
                            {"Mode", script.mode},
                            {"Maps", isMain ? plan.mainMaps : std::vector<std::string>{"All"}}};
@@ -57,13 +57,31 @@ Json describeScripts(const TestPlan& plan, const ProjectPlan& project) {
 // Names of maps may hold bytes that are no UTF-8; they go into the file as they are.
 std::string dump(const Json& json) { return json.dump(2, ' ', false, Json::error_handler_t::ignore) + "\n"; }
 
+// Names that begin with a dot are no part of a project.
+void copyFolder(const fs::path& from, const fs::path& to) {
+  fs::create_directories(to);
+  const auto options = fs::directory_options::follow_directory_symlink;
+  for (auto entry = fs::recursive_directory_iterator(from, options); entry != fs::recursive_directory_iterator();
+       ++entry) {
+    const fs::path target = to / entry->path().lexically_relative(from);
+    if (entry->path().filename().string().starts_with('.'))
+      entry.disable_recursion_pending();
+    else if (entry->is_directory())
+      fs::create_directories(target);
+    else if (entry->is_regular_file())
+      fs::copy_file(entry->path(), target);
+  }
+}
+
 void writeProject(const TestPlan& plan, const ProjectPlan& project, const fs::path& folder) {
+  if (!project.original.empty()) copyFolder(project.original, folder);
   for (const ScriptSection& script : project.scripts)
     writeFile(folder / SCRIPT_FOLDER / script.path, encode(plan, script));
   const Json scripts = describeScripts(plan, project);
   if (!scripts.empty() && !bringsFile(project, CONFIGURATION))
     writeFile(folder / CONFIGURATION, dump({{"MapScripts", scripts}}));
-  if (!bringsFile(project, "project.json")) writeFile(folder / "project.json", dump({{"name", project.name}}));
+  if (project.original.empty() && !bringsFile(project, "project.json"))
+    writeFile(folder / "project.json", dump({{"name", project.name}}));
   for (const FileSection& file : project.files)
     writeFile(folder / file.path, file.text);
 }

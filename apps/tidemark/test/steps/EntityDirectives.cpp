@@ -111,9 +111,11 @@ EntityDirective readEntityDirective(WordCursor& words) {
 Action readSetDirective(WordCursor& words) {
   const EntityReference reference = takeEntityReference(words);
   const PropertyName name = parsePropertyName(words.take("COMPONENT.PROPERTY"));
-  const std::string value = words.take("the value");
+  const PropertyValue value = takePropertyValue(words, "the value");
   words.requireEnd();
-  return [=](TestSession& session) { writeProperty(session.findEntity(session.resolve(reference)), name, value); };
+  return [=](TestSession& session) {
+    writeProperty(session.findEntity(session.resolve(reference)), name, resolveValue(session, value));
+  };
 }
 
 }

@@ -1,6 +1,7 @@
 #include "apps/tidemark/test/steps/Reflection.h"
 
 #include "apps/tidemark/test/directives/TextMatch.h"
+#include "apps/tidemark/test/steps/ScriptScope.h"
 
 #include "qsf/map/Entity.h"
 #include "qsf/reflection/ClassRegistry.h"
@@ -42,6 +43,19 @@ PropertyName parsePropertyName(std::string_view text) {
   if (dot == std::string_view::npos || dot == 0 || dot + 1 == text.size())
     throw DirectiveError(fmt::format("'{}' is no COMPONENT.PROPERTY", text));
   return {std::string(text.substr(0, dot)), std::string(text.substr(dot + 1))};
+}
+
+PropertyValue takePropertyValue(WordCursor& words, std::string_view what) {
+  const bool quoted = words.peek() && words.peek()->quoted;
+  PropertyValue value{words.take(what), std::nullopt};
+  const auto reference = parseEntityReference(value.text);
+  if (!quoted && reference && !reference->list.empty()) value.reference = *reference;
+  return value;
+}
+
+std::string resolveValue(const TestSession& session, const PropertyValue& value) {
+  if (!value.reference || !findList(session, value.reference->list)) return value.text;
+  return fmt::format("{}", session.resolve(*value.reference));
 }
 
 void requireComponentClass(const std::string& component) {

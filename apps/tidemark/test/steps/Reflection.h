@@ -20,6 +20,15 @@ struct PropertyName {
 /// Throws DirectiveError without a dot.
 PropertyName parsePropertyName(std::string_view text);
 
+/// A property's value as a directive writes it: text, or without quotes an id of a list of main.
+struct PropertyValue {
+  std::string text;
+  std::optional<EntityReference> reference;
+};
+PropertyValue takePropertyValue(WordCursor& words, std::string_view what);
+/// What it stands for now. `NAME[I]` of a list that main doesn't have is itself. Throws NotThere behind a list's end.
+std::string resolveValue(const TestSession& session, const PropertyValue& value);
+
 /// Throws DirectiveError for a component class that nobody has declared.
 void requireComponentClass(const std::string& component);
 /// Null if the entity lacks it. Throws DirectiveError for an unknown class.

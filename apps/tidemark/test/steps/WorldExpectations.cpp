@@ -164,12 +164,12 @@ Expectation expectComponent(WordCursor& words, const EntityReference& reference,
 Expectation expectProperty(WordCursor& words, const EntityReference& reference) {
   const PropertyName name = parsePropertyName(words.take("COMPONENT.PROPERTY"));
   words.require("==");
-  const std::string expected = words.take("the expected value");
+  const PropertyValue expected = takePropertyValue(words, "the expected value");
   const std::optional<double> within = takeWithin(words);
   Expectation expectation;
   expectation.check = [=](TestSession& session) {
     const std::string found = readProperty(session.findEntity(session.resolve(reference)), name);
-    return Verdict{valueMatches(expected, found, within), fmt::format("\"{}\"", found), {}};
+    return Verdict{valueMatches(resolveValue(session, expected), found, within), fmt::format("\"{}\"", found), {}};
   };
   return expectation;
 }

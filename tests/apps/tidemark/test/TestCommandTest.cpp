@@ -74,6 +74,8 @@ INSTANTIATE_TEST_SUITE_P(
                     FaultyLine{"$ @at 0 map x/map/y/z", "x/map/y/z"},
                     FaultyLine{"$ @at 0 push 100 em5::X", "has no qsf::ActionComponent"},
                     FaultyLine{"$ @at 0 in other variable x = 1", "no script 'other'"},
+                    FaultyLine{"$ @map em5/map/test/emty", "did you mean \"em5/map/test/empty\"?"},
+                    FaultyLine{"$ @mod other\n$ @file project.json\n{\n$ @end", "project.json"},
                     FaultyLine{"$ @expct x", "unknown directive"}));
 
 TEST_F(TestCommand, ATestThatRunsTooLongIsEnded) {

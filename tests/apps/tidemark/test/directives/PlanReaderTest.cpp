@@ -167,12 +167,31 @@ INSTANTIATE_TEST_SUITE_P(
         Fault{"$ @script /x.script", "inside the project"}, Fault{"$ @script main.script", "already"},
         Fault{"$ @mod em5", "base project"}, Fault{"$ @mod a/b", "is no name of a project"},
         Fault{"$ @mod other asleep", "neither disabled"}, Fault{"$ @project nowhere", "there is no folder"},
+        Fault{"$ @play nowhere", "there is no folder"}, Fault{"$ @language english", "is no language"},
         Fault{"$ @encoding utf7", "is no encoding"}, Fault{"$ @eol lf", "is no line's end"},
         Fault{"$ @game chess", "is no game mode"}, Fault{"$ @maps", "a map's name is missing"},
         Fault{"$ @file a.json\n{}", "'$ @end' is missing"}, Fault{"$ @expect string x == \"open", "not closed"}));
 
 TEST(PlanReader, ATestWithoutExpectationIsAnError) {
   EXPECT_NE(readFaulty("$ @for 2\nInitNewTrigger();\n").text.find("expects nothing"), std::string::npos);
+}
+
+const std::string PLAY = "$ @play " TIDEMARK_SOURCE_DIRECTORY "/examples/harbour\n";
+
+TEST(PlanReader, APlayedProjectBringsItsMap) {
+  const TestPlan played = readGood(PLAY + EXPECTATION);
+  EXPECT_TRUE(played.playsProject());
+  EXPECT_TRUE(played.projects.front().scripts.empty());
+  EXPECT_EQ(played.map, "harbour/map/harbour/harbour");
+  EXPECT_EQ(readGood("$ @map a/map/b/c\n" + PLAY + EXPECTATION).map, "a/map/b/c");
+}
+
+TEST(PlanReader, ATestThatPlaysAProjectHoldsDirectivesOnly) {
+  for (const char* line : {"InitEffects();", "$ @mode MAP_STARTUP", "$ @encoding cp1252", "$ @script x.script",
+                           "$ @play " TIDEMARK_SOURCE_DIRECTORY}) {
+    const PlanFault fault = readFaulty("$ A comment.\n\n" + EXPECTATION + PLAY + line + "\n");
+    EXPECT_EQ(fault.line, 5) << fault.text;
+  }
 }
 
 TEST(PlanReader, AllFaultsAreTold) { EXPECT_EQ(readPlan("t", "$ @a\n$ @b\n" + EXPECTATION).faults.size(), 2u); }
