@@ -4,9 +4,8 @@
 //   idle    CompareValues("v_i","==","1") is false, a second condition stands behind it
 //   firing  CompareValues("v_i",">=","0") holds, VariableModify("v_i","+","1","v_i") runs, in each tick
 #include "bench/support/Benchmarks.h"
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ScriptParser.h"
-#include "game_plugin/scenario/records/Records.h"
+#include "game_plugin/scenario/loading/ScriptParser.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include "qsf/job/JobArguments.h"
 
@@ -41,9 +40,10 @@ std::string makeScript(Load load, std::int64_t triggers) {
 
 template <Load LOAD> void script(benchmark::State& state) {
   const std::string text = makeScript(LOAD, state.range(0));
-  const std::unique_ptr<script::ScriptDocument> document(script::ScriptParser().parseText(text, "bench", "bench/tick"));
+  const auto document =
+      std::make_shared<script::ScriptDocument>(script::ScriptParser().parseText(text, "bench", "bench/tick"));
   script::ScenarioHandler handler(std::make_shared<script::GlobalStores>());
-  handler.SetDocument(document.get());
+  handler.SetDocument(document);
   handler.Start(script::StartKind::Realtime);
   const qsf::JobArguments arguments(TICK);
   handler.Update(arguments);

@@ -3,8 +3,8 @@
 // the cost should stay the same on both maps; a plain walk over all entities stands beside it. In the second part an
 // entry works on every entity of the map, and its cost for each should grow no more than that of the plain walk.
 #include "bench/support/Benchmarks.h"
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ScriptParser.h"
+#include "game_plugin/scenario/loading/ScriptParser.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include "em5/game/HostSession.h"
 #include "qsf/Qsf.h"

@@ -1,6 +1,10 @@
 #include "game_plugin/tooling/Tooling.h"
 
+#include "game_plugin/scenario/hints/ExecutionPoint.h"
+#include "game_plugin/scenario/hints/Hints.h"
 #include "game_plugin/scenario/lifecycle/MapScriptManager.h"
+#include "game_plugin/scenario/lifecycle/ScriptFates.h"
+#include "game_plugin/scenario/loading/ProgramCache.h"
 #include "game_plugin/scenario/stores/JsonStore.h"
 
 #include "em5/game/Game.h"
@@ -64,36 +68,77 @@ const Store<EntityList>* listsOf(std::optional<std::size_t> script) {
 }
 
 TriggerView viewOf(const ScenarioTrigger& trigger) {
+  const TriggerProgram& program = *trigger.program;
   TriggerView view;
-  view.name = trigger.name;
-  view.globalName = trigger.globalName;
-  view.hash = trigger.globalNameHash;
-  view.line = trigger.line;
+  view.name = program.name;
+  view.globalName = program.globalName;
+  view.hash = program.globalNameHash;
+  view.line = program.line;
   view.active = trigger.active;
   view.looped = trigger.looped;
   view.fulfilledConditions = trigger.fulfilledConditions;
-  view.requiredConditions = trigger.requiredConditions;
-  for (const DefaultCondition* condition : trigger.conditions)
+  view.requiredConditions = program.requiredConditions;
+  for (const DefaultCondition* condition : program.conditions)
     view.conditions.push_back({std::string(condition->name()), condition->expected, condition->line});
-  for (const DefaultEffect* effect : trigger.effects)
+  for (const DefaultEffect* effect : program.effects)
     view.effects.push_back({std::string(effect->name()), true, effect->line});
-  view.numberOfBlocks = static_cast<std::uint32_t>(trigger.conditionalBlocks.size());
+  view.numberOfBlocks = static_cast<std::uint32_t>(program.conditionalBlocks.size());
   view.lastTimeActive = trigger.lastTimeActive;
-  view.multiplayerMode = trigger.multiplayerMode;
-  view.player = trigger.player;
+  view.multiplayerMode = program.multiplayerMode;
+  view.player = trigger.player();
+  view.callers = trigger.callers();
+  view.target = trigger.target();
   view.timesFired = trigger.timesFired;
   return view;
+}
+
+ScriptView viewOf(const MapScriptEntry& entry) {
+  ScriptView view;
+  view.key = entry.key;
+  view.project = entry.project;
+  view.path = entry.path;
+  view.mode = toText(entry.mode);
+  view.running = entry.handler != nullptr;
+  view.state = view.running ? "running" : "stopped";
+  const Program& program = *entry.document->program;
+  if (program.hasFailed())
+    view.state = "can't be used, line " + std::to_string(program.droppedLines().back().line) + ": " +
+                 program.droppedLines().back().reason;
+  view.time = entry.document->time;
+  view.numberOfTriggers = entry.document->triggers.size();
+  return view;
+}
+
+std::string_view nameOf(HintKind kind) {
+  static constexpr std::string_view NAMES[] = {"word",   "operator", "conversion", "component", "property",
+                                               "entity", "asset",    "name",       "link"};
+  return NAMES[static_cast<std::size_t>(kind)];
+}
+
+/// The store that a name belongs to when it is set from outside; null if the script doesn't run.
+template <class T>
+Store<T>* storeToSet(std::optional<std::size_t> script, const std::string& name, Store<T> ScenarioHandler::*local,
+                     Store<T> GlobalStores::*global) {
+  return findStore(isGlobalName(name) ? std::nullopt : script, local, global);
+}
+
+template <class T> bool assign(Store<T>* store, const std::string& name, T value) {
+  if (!store) return false;
+  store->value(store->findOrAppend(name)) = std::move(value);
+  if (hints::isOn()) hints::noteWritten(store, store->name(store->find(name)));
+  return true;
 }
 
 /// The tools' view of the living manager, whichever it is at the time of a call.
 class ManagerTooling : public Tooling {
 public:
+  std::vector<CatalogueEntry> getCatalogue() const override { return describeCatalogue(); }
+
   std::vector<ScriptView> getScripts() const override {
     std::vector<ScriptView> views;
     if (const MapScriptManager* manager = MapScriptManager::Get())
       for (const MapScriptEntry* entry : manager->GetScriptEntries())
-        views.push_back({entry->key, entry->project, entry->path, std::string(toText(entry->mode)),
-                         entry->handler != nullptr, entry->document->time, entry->document->triggers.size()});
+        views.push_back(viewOf(*entry));
     return views;
   }
 
@@ -102,6 +147,40 @@ public:
     if (const MapScriptEntry* entry = findEntry(script))
       for (const ScenarioTrigger& trigger : entry->document->triggers)
         views.push_back(viewOf(trigger));
+    return views;
+  }
+
+  std::vector<FateView> getFates() const override {
+    std::vector<FateView> views;
+    for (const fates::Fate& fate : fates::all())
+      views.push_back({fate.key, fate.project, fate.path, fate.mode, fate.what, fate.time, fate.count});
+    return views;
+  }
+
+  std::vector<std::string> getUnreadableConfigurations() const override { return fates::unreadableFiles(); }
+
+  std::vector<DroppedLineView> getDroppedLines() const override {
+    std::vector<DroppedLineView> views;
+    if (const MapScriptManager* manager = MapScriptManager::Get())
+      for (const auto& [path, lines] : manager->programs().droppedLines())
+        for (const DroppedLine& line : lines)
+          views.push_back({path, line.line, line.column, line.reason});
+    return views;
+  }
+
+  std::optional<Origin> getOrigin() const override {
+    const ExecutionPoint& point = executionPoint;
+    if (!point.source || point.line == 0) return std::nullopt;
+    return Origin{point.source->path(), point.line, std::string(point.source->triggerAt(point.line))};
+  }
+
+  void switchHints(bool on) override { hints::switchTo(on); }
+
+  std::vector<HintView> getHints() const override {
+    std::vector<HintView> views;
+    for (const Hint& hint : hints::all())
+      views.push_back(
+          {{hint.path, hint.line, hint.trigger}, std::string(nameOf(hint.kind)), hint.text, hint.nearest, hint.count});
     return views;
   }
 
@@ -153,30 +232,25 @@ public:
     return value ? std::optional<std::string>(*value) : std::nullopt;
   }
 
-  bool setVariable(std::size_t script, const std::string& name, float value) override {
-    ScenarioHandler* handler = findHandler(script);
-    if (handler) handler->SetFloatVariable(name, value);
-    return handler != nullptr;
+  bool setVariable(std::optional<std::size_t> script, const std::string& name, float value) override {
+    return assign(storeToSet(script, name, &ScenarioHandler::variables, &GlobalStores::variables), name, value);
   }
-  bool setString(std::size_t script, const std::string& name, const std::string& value) override {
-    ScenarioHandler* handler = findHandler(script);
-    if (handler) handler->SetStringVariable(name, value);
-    return handler != nullptr;
+  bool setString(std::optional<std::size_t> script, const std::string& name, const std::string& value) override {
+    return assign(storeToSet(script, name, &ScenarioHandler::stringVariables, &GlobalStores::stringVariables), name,
+                  value);
   }
   bool setBool(std::size_t script, const std::string& name, bool value) override {
     ScenarioHandler* handler = findHandler(script);
     if (handler) handler->SetBoolVariable(name, value);
     return handler != nullptr;
   }
-  bool setList(std::size_t script, const std::string& name, const std::vector<std::uint64_t>& ids) override {
-    ScenarioHandler* handler = findHandler(script);
-    if (!handler) return false;
-    Store<EntityList>& store = isGlobalName(name) ? handler->GetGlobalStores().entityLists : handler->entityLists;
-    EntityList& list = store.value(store.findOrAppend(name)); // also an empty list exists then
-    list.clear();
+  bool setList(std::optional<std::size_t> script, const std::string& name,
+               const std::vector<std::uint64_t>& ids) override {
+    EntityList list;
     for (const std::uint64_t id : ids)
       list.add(id);
-    return true;
+    return assign(storeToSet(script, name, &ScenarioHandler::entityLists, &GlobalStores::entityLists), name,
+                  std::move(list)); // also an empty list exists then
   }
 
   void reload() override {

@@ -1,4 +1,6 @@
 #pragma once
+#include "game_plugin/tooling/Catalogue.h"
+
 #include "qsf/Export.h"
 #include "qsf/base/Time.h"
 
@@ -33,7 +35,9 @@ struct TriggerView {
   qsf::Time lastTimeActive;
   std::uint32_t multiplayerMode = 0;
   std::uint32_t player = 0;
-  std::uint64_t timesFired = 0; ///< since the start of the host, over restarts and reloads
+  std::vector<std::uint64_t> callers; ///< entities that a client sent along
+  std::uint64_t target = 0;           ///< entity that a client sent along; all bits set for none
+  std::uint64_t timesFired = 0;       ///< since the start of the host, over restarts and reloads
 };
 
 /// A script that the module knows: configured in a MapScript.json, or a temporary one.
@@ -43,8 +47,44 @@ struct ScriptView {
   std::string path;    ///< the file, as the module opens it
   std::string mode;    ///< mode text
   bool running = false;
+  std::string state; ///< "running", "stopped", or why the script can't be used
   qsf::Time time;
   std::size_t numberOfTriggers = 0;
+};
+
+/// A script that the module knows no more, or never took.
+struct FateView {
+  std::string key;     ///< as in ScriptView
+  std::string project; ///< empty for a temporary script
+  std::string path;
+  std::string mode;
+  std::string what; ///< what became of it and why: "stopped by StopScenario, day.script:12", or a message of the load
+  qsf::Time time;   ///< how long the last instance ran
+  std::uint64_t count = 1; ///< instances with this fate
+};
+
+/// Where in a script something happens.
+struct Origin {
+  std::string path;       ///< the script's file
+  std::uint32_t line = 0; ///< from 1
+  std::string trigger;    ///< local name of the trigger that the line belongs to; empty above the first
+};
+
+/// What the language passed over without a word, at one place of a script.
+struct HintView {
+  Origin origin;
+  std::string kind; ///< "word", "operator", "conversion", "component", "property", "entity", "asset", "name", "link"
+  std::string text;
+  std::string nearest; ///< the nearest right name; empty if none comes close
+  std::uint64_t count = 0;
+};
+
+/// A line of a script that the loader dropped.
+struct DroppedLineView {
+  std::string path;
+  std::uint32_t line = 0;   ///< from 1
+  std::uint32_t column = 0; ///< from 1, in bytes
+  std::string reason;
 };
 
 enum class StoreKind { Variables, Strings, Lists, Bools, Jsons, StringLists };
@@ -55,8 +95,23 @@ class QSF_API Tooling {
 public:
   virtual ~Tooling() = default;
 
+  /// All conditions and effects; needs no host.
+  virtual std::vector<CatalogueEntry> getCatalogue() const = 0;
+
   virtual std::vector<ScriptView> getScripts() const = 0;
   virtual std::vector<TriggerView> getTriggers(std::size_t script) const = 0;
+  /// Scripts that have ended or were never taken, in the order in which that happened.
+  virtual std::vector<FateView> getFates() const = 0;
+  /// What is wrong with each MapScript.json that can't be read.
+  virtual std::vector<std::string> getUnreadableConfigurations() const = 0;
+  virtual std::vector<DroppedLineView> getDroppedLines() const = 0;
+
+  /// The line of a script that is being read, tested or run at this moment: what is logged now is about it. Nothing
+  /// while no script is at work.
+  virtual std::optional<Origin> getOrigin() const = 0;
+  /// Hints tell what the language passes over without a word. They are off at first; switching forgets those so far.
+  virtual void switchHints(bool on) = 0;
+  virtual std::vector<HintView> getHints() const = 0;
 
   /// Names of a store in its order. Without a script: the global store; empty for kinds that have none and for a script
   /// that doesn't run.
@@ -71,12 +126,13 @@ public:
   virtual std::optional<std::string> getJson(std::size_t script, const std::string& name,
                                              const std::string& path) const = 0;
 
-  /// Set as a script would, in the script's local stores or, for a name with the global mark, in the global ones. False
-  /// if the script doesn't run.
-  virtual bool setVariable(std::size_t script, const std::string& name, float value) = 0;
-  virtual bool setString(std::size_t script, const std::string& name, const std::string& value) = 0;
+  /// Set as a script would, in the script's local stores or, for a name with the global mark, in the global ones, which
+  /// needs no script. False if the script doesn't run, or there is no manager.
+  virtual bool setVariable(std::optional<std::size_t> script, const std::string& name, float value) = 0;
+  virtual bool setString(std::optional<std::size_t> script, const std::string& name, const std::string& value) = 0;
   virtual bool setBool(std::size_t script, const std::string& name, bool value) = 0;
-  virtual bool setList(std::size_t script, const std::string& name, const std::vector<std::uint64_t>& ids) = 0;
+  virtual bool setList(std::optional<std::size_t> script, const std::string& name,
+                       const std::vector<std::uint64_t>& ids) = 0;
 
   /// What the debugger's reload button does: a new manager reads all files anew and starts the scripts of the running
   /// map.

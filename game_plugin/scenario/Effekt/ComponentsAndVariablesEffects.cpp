@@ -1,4 +1,5 @@
-#include "game_plugin/scenario/ScenarioEffects.h"
+#include "game_plugin/scenario/program/EntryGroup.h"
+#include "game_plugin/scenario/tick/ScenarioEffects.h"
 
 namespace script {
 
@@ -25,6 +26,6 @@ namespace script {
   ENTRY(ConvertVariableToStringvar)                                                                                    \
   ENTRY(ConvertStringvarToVariable)                                                                                    \
   ENTRY(AppendStringToStringVar)
-EFFECT_GROUP_CHAIN(ComponentsAndVariablesEffects, MANIFEST)
+EFFECT_GROUP(ComponentsAndVariablesEffects, MANIFEST)
 
 }

@@ -1,4 +1,5 @@
-#include "game_plugin/scenario/ScenarioEffects.h"
+#include "game_plugin/scenario/program/EntryGroup.h"
+#include "game_plugin/scenario/tick/ScenarioEffects.h"
 
 namespace script {
 

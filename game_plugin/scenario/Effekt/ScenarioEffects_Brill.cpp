@@ -1,4 +1,5 @@
-#include "game_plugin/scenario/ScenarioEffects.h"
+#include "game_plugin/scenario/program/EntryGroup.h"
+#include "game_plugin/scenario/tick/ScenarioEffects.h"
 
 namespace script {
 
@@ -34,6 +35,6 @@ namespace script {
   ENTRY(LinkEntityToParent)                                                                                            \
   ENTRY(UnlinkFromParent)                                                                                              \
   ENTRY(SetName)
-EFFECT_GROUP_CHAIN(ScenarioEffects_Brill, MANIFEST)
+EFFECT_GROUP(ScenarioEffects_Brill, MANIFEST)
 
 }

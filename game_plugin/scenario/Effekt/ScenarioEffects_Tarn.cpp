@@ -1,4 +1,5 @@
-#include "game_plugin/scenario/ScenarioEffects.h"
+#include "game_plugin/scenario/program/EntryGroup.h"
+#include "game_plugin/scenario/tick/ScenarioEffects.h"
 
 namespace script {
 
@@ -24,6 +25,6 @@ namespace script {
   ENTRY(ActivateComponent)                                                                                             \
   ENTRY(SetVariableFromComponent)                                                                                      \
   ENTRY(FadeInOut)
-EFFECT_GROUP_CHAIN(ScenarioEffects_Tarn, MANIFEST)
+EFFECT_GROUP(ScenarioEffects_Tarn, MANIFEST)
 
 }

@@ -1,4 +1,4 @@
-#include "game_plugin/scenario/ScenarioConditions.h"
+#include "game_plugin/scenario/tick/ScenarioConditions.h"
 
 namespace script {
 
@@ -10,6 +10,6 @@ namespace script {
   ENTRY(ActionPlanIsEmpty)                                                                                             \
   ENTRY(CompareEntityListSizes)                                                                                        \
   ENTRY(CompareEntityListSizeWithValue)
-CONDITION_GROUP_CHAIN(ComponentsAndVariablesConditions, MANIFEST)
+CONDITION_GROUP(ComponentsAndVariablesConditions, MANIFEST)
 
 }

@@ -1,4 +1,4 @@
-#include "game_plugin/scenario/ScenarioConditions.h"
+#include "game_plugin/scenario/tick/ScenarioConditions.h"
 
 namespace script {
 

@@ -1,4 +1,4 @@
-#include "game_plugin/scenario/ScenarioConditions.h"
+#include "game_plugin/scenario/tick/ScenarioConditions.h"
 
 namespace script {
 
@@ -24,6 +24,6 @@ namespace script {
   ENTRY(IsOpenHouse)                                                                                                   \
   ENTRY(Timer)                                                                                                         \
   ENTRY(CompareValues)
-CONDITION_GROUP_CHAIN(ScenarioConditions_Brill, MANIFEST)
+CONDITION_GROUP(ScenarioConditions_Brill, MANIFEST)
 
 }

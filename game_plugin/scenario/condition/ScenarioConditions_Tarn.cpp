@@ -1,4 +1,4 @@
-#include "game_plugin/scenario/ScenarioConditions.h"
+#include "game_plugin/scenario/tick/ScenarioConditions.h"
 
 namespace script {
 
@@ -16,6 +16,6 @@ namespace script {
   ENTRY(IsCurrentAction)                                                                                               \
   ENTRY(IsVehicleMoving)                                                                                               \
   ENTRY(IsScenarioActive)
-CONDITION_GROUP_CHAIN(ScenarioConditions_Tarn, MANIFEST)
+CONDITION_GROUP(ScenarioConditions_Tarn, MANIFEST)
 
 }

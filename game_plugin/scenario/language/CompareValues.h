@@ -1,7 +1,12 @@
 #pragma once
+#include <array>
+#include <cstddef>
 #include <string_view>
 
 namespace script {
+
+/// The operators, in the order of ComparisonOperator::Kind.
+inline constexpr std::array<std::string_view, 6> COMPARISON_OPERATORS = {"<", "<=", "==", "!=", ">=", ">"};
 
 /// The comparison of all numeric conditions. Any text that is no operator of the table means less-than, without a
 /// message.
@@ -10,13 +15,10 @@ public:
   enum Kind : unsigned char { Less = 0, LessOrEqual = 1, Equal = 2, NotEqual = 3, GreaterOrEqual = 4, Greater = 5 };
 
   ComparisonOperator() = default;
-  ComparisonOperator(std::string_view text)
-      : mKind(text == "<="   ? LessOrEqual
-              : text == "==" ? Equal
-              : text == "!=" ? NotEqual
-              : text == ">=" ? GreaterOrEqual
-              : text == ">"  ? Greater
-                             : Less) {}
+  ComparisonOperator(std::string_view text) {
+    for (std::size_t i = 0; i < COMPARISON_OPERATORS.size(); ++i)
+      if (COMPARISON_OPERATORS[i] == text) mKind = static_cast<Kind>(i);
+  }
 
   Kind kind() const { return mKind; }
   bool operator()(float a, float b) const {

@@ -1,5 +1,7 @@
 #include "game_plugin/scenario/language/Vocabulary.h"
 
+#include "game_plugin/scenario/language/WordTable.h"
+
 #include "em5/health/Injury.h"
 
 #include <algorithm>
@@ -9,24 +11,13 @@ namespace script {
 
 namespace {
 
-struct Word {
-  std::string_view text;
-  int number;
-};
-
-template <std::size_t SIZE> std::optional<int> lookUp(const Word (&words)[SIZE], std::string_view text) {
-  const auto* found =
-      std::find_if(std::begin(words), std::end(words), [&](const Word& word) { return word.text == text; });
-  return found == std::end(words) ? std::nullopt : std::optional<int>(found->number);
-}
-
-constexpr Word BAR_TYPES[] = {
+constexpr Word<int> BAR_TYPES[] = {
     {"BAR_TYPE_FIRE", 0}, {"BAR_TYPE_HEALTH", 1}, {"BAR_TYPE_SMALL_HEALTH", 2},
     {"BAR_TYPE_LIFE", 3}, {"BAR_TYPE_DEATH", 4},  {"BAR_TYPE_PROGRESS", 5},
     {"_BAR_COUNT", 6},
 };
 
-constexpr Word PLAN_MODES[] = {
+constexpr Word<int> PLAN_MODES[] = {
     {"APPEND_TO_BACK", 0},
     {"INSERT_AT_FRONT", 1},
     {"INSERT_BEFORE_CURRENT", 2},
@@ -34,7 +25,7 @@ constexpr Word PLAN_MODES[] = {
 };
 
 // 7 is no mode that scripts may use.
-constexpr Word MOVEMENT_MODES[] = {
+constexpr Word<int> MOVEMENT_MODES[] = {
     {"MOVEMENT_MODE_DEFAULT", 0},
     {"MOVEMENT_MODE_CARRY_PERSON", 1},
     {"MOVEMENT_MODE_WALK_BACKWARDS", 2},
@@ -49,7 +40,7 @@ constexpr Word MOVEMENT_MODES[] = {
 };
 
 // 13 is no icon that scripts may use.
-constexpr Word STATUS_ICONS[] = {
+constexpr Word<int> STATUS_ICONS[] = {
     {"STATUS_ICON_ARSONIST", 0},
     {"STATUS_ICON_ATTACKED", 1},
     {"STATUS_ICON_BOMB", 2},
@@ -149,12 +140,7 @@ constexpr std::string_view MINIMAP_ICONS[] = {
     "_MAX",
 };
 
-struct InjuryWord {
-  std::string_view text;
-  qsf::StringHash injury;
-};
-
-constexpr InjuryWord INJURIES[] = {
+constexpr Word<qsf::StringHash> INJURIES[] = {
     {"BURN_3_GRADE", em5::injury::BURN_3_GRADE},
     {"BURN_4_GRADE", em5::injury::BURN_4_GRADE},
     {"BURN_OF_BREATH", em5::injury::BURN_OF_BREATH},
@@ -215,6 +201,13 @@ static_assert(std::size(INJURIES) == 53, "no injury that scripts know may get lo
 constexpr std::string_view GANGSTER_LOGICS[] = {"em5::GangsterArsonist", "em5::GangsterBlackoutFP",
                                                 "em5::GangsterCivilArmedLogic", "em5::GangsterAttackEveryoneLogic"};
 
+constexpr Word<ArithmeticOperator> ARITHMETIC_OPERATORS[] = {
+    {"+", ArithmeticOperator::Add},
+    {"-", ArithmeticOperator::Subtract},
+    {"*", ArithmeticOperator::Multiply},
+    {":", ArithmeticOperator::Divide},
+};
+
 }
 
 int ToBarType(std::string_view text) { return lookUp(BAR_TYPES, text).value_or(0); }
@@ -228,9 +221,8 @@ int ToMinimapIcon(std::string_view text) {
 }
 
 std::optional<std::uint32_t> ToInjury(std::string_view text) {
-  const auto* found =
-      std::find_if(std::begin(INJURIES), std::end(INJURIES), [&](const InjuryWord& word) { return word.text == text; });
-  return found == std::end(INJURIES) ? std::nullopt : std::optional<std::uint32_t>(found->injury.getHash());
+  const std::optional<qsf::StringHash> injury = lookUp(INJURIES, text);
+  return injury ? std::optional<std::uint32_t>(injury->getHash()) : std::nullopt;
 }
 
 std::string ToGangsterLogic(std::string_view text) {
@@ -239,10 +231,16 @@ std::string ToGangsterLogic(std::string_view text) {
 }
 
 ArithmeticOperator ToArithmeticOperator(std::string_view text) {
-  if (text == "-") return ArithmeticOperator::Subtract;
-  if (text == "*") return ArithmeticOperator::Multiply;
-  if (text == ":") return ArithmeticOperator::Divide;
-  return ArithmeticOperator::Add; // kept: "/" adds, too
+  return lookUp(ARITHMETIC_OPERATORS, text).value_or(ArithmeticOperator::Add);
 }
+
+std::span<const std::string_view> barTypeWords() { return wordsOf<BAR_TYPES>(); }
+std::span<const std::string_view> planModeWords() { return wordsOf<PLAN_MODES>(); }
+std::span<const std::string_view> movementModeWords() { return wordsOf<MOVEMENT_MODES>(); }
+std::span<const std::string_view> statusIconWords() { return wordsOf<STATUS_ICONS>(); }
+std::span<const std::string_view> minimapIconWords() { return MINIMAP_ICONS; }
+std::span<const std::string_view> injuryWords() { return wordsOf<INJURIES>(); }
+std::span<const std::string_view> gangsterLogicWords() { return GANGSTER_LOGICS; }
+std::span<const std::string_view> arithmeticWords() { return wordsOf<ARITHMETIC_OPERATORS>(); }
 
 }

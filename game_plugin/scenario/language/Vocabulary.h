@@ -1,9 +1,9 @@
 #pragma once
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace script {
 
@@ -29,12 +29,15 @@ enum class ArithmeticOperator { Add = 0, Subtract = 1, Multiply = 2, Divide = 3 
 /// `-`, `*`, `:`; anything else, `/` included, adds.
 ArithmeticOperator ToArithmeticOperator(std::string_view text);
 
-/// Whether the entity is of a unit type such as "PlayerVehicles". A missing entity is of none; an unknown type is
-/// logged.
-bool CheckUnitType(std::uint64_t entityId, const std::string& unitType);
+// The words of each table, in its order: what a parameter accepts that is converted by it.
 
-/// Ids of the entities of a unit type within range of the centre entity, or on the whole map if there is no such
-/// entity.
-std::vector<std::uint64_t> findEntitiesOfUnitType(const std::string& unitType, std::uint64_t centerId, float range);
+std::span<const std::string_view> barTypeWords();
+std::span<const std::string_view> planModeWords();
+std::span<const std::string_view> movementModeWords();
+std::span<const std::string_view> statusIconWords();
+std::span<const std::string_view> minimapIconWords();
+std::span<const std::string_view> injuryWords();
+std::span<const std::string_view> gangsterLogicWords();
+std::span<const std::string_view> arithmeticWords();
 
 }

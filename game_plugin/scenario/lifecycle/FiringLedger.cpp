@@ -20,8 +20,8 @@ template <class Visit> void visitTriggers(const MapScriptEntry& entry, const Vis
   if (!entry.document || entry.globalNamePrefix.empty()) return;
   std::unordered_map<std::string_view, std::size_t> seen; // triggers of equal names are told apart by their order
   for (ScenarioTrigger& trigger : entry.document->triggers)
-    visit(entry.project + '\n' + entry.key + '\n' + std::string(trigger.globalName) + '\n' +
-              std::to_string(seen[trigger.name]++),
+    visit(entry.project + '\n' + entry.key + '\n' + std::string(trigger.globalName()) + '\n' +
+              std::to_string(seen[trigger.name()]++),
           trigger);
 }
 

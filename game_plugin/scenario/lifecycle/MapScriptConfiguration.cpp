@@ -2,6 +2,7 @@
 #include "game_plugin/scenario/Log.h"
 #include "game_plugin/scenario/lifecycle/MapScriptManager.h"
 #include "game_plugin/scenario/lifecycle/ReadableFile.h"
+#include "game_plugin/scenario/lifecycle/ScriptFates.h"
 
 #include "em5/plugin/ModSystem.h"
 #include "qsf/asset/Project.h"
@@ -71,8 +72,15 @@ ptree readJsonFile(const std::string& file) {
   return root;
 }
 
-void logMissingNode(const std::string& node) {
-  logError("MapscriptManager: The node \"" + node + "\" cant be found. Skipping Creation Process");
+/// Logs why a script can't be used, and notes it for tools. Gives false.
+bool refuse(const MapScriptEntry& entry, const std::string& message) {
+  logError(message);
+  fates::noteRefused(entry, message);
+  return false;
+}
+
+bool refuseMissingNode(const MapScriptEntry& entry, const std::string& node) {
+  return refuse(entry, "MapscriptManager: The node \"" + node + "\" cant be found. Skipping Creation Process");
 }
 
 std::vector<std::string> readMaps(const ptree& values) {
@@ -91,18 +99,14 @@ std::vector<std::string> readMaps(const ptree& values) {
 /// Reads `<node>.Mode`. False, with a message, if the script can't be made.
 bool readMode(const ptree& root, const std::string& node, MapScriptEntry& entry) {
   const auto text = root.get_optional<std::string>(node + ".Mode");
-  if (!text) {
-    logMissingNode(node + ".Mode");
-    return false;
-  }
+  if (!text) return refuseMissingNode(entry, node + ".Mode");
   entry.mode = toScriptMode(*text);
   if (entry.mode != ScriptMode::Unknown) return true;
-  logError(
-      "MapscriptManager: " + entry.key +
-      " cant be created because the Mode \"5\" does not exist. Try to use \"GAME_STARTUP\", "
-      "\"MAP_STARTUP_SIMULATION\", \"MAP_STARTUP\" or \"EDITOR_STARTUP\" (but Editor_Startup can cause crashes! GUI "
-      "Functions and Select-Conditions+ Effects arent supported)");
-  return false;
+  return refuse(entry, "MapscriptManager: " + entry.key +
+                           " cant be created because the Mode \"5\" does not exist. Try to use \"GAME_STARTUP\", "
+                           "\"MAP_STARTUP_SIMULATION\", \"MAP_STARTUP\" or \"EDITOR_STARTUP\" (but Editor_Startup can "
+                           "cause crashes! GUI "
+                           "Functions and Select-Conditions+ Effects arent supported)");
 }
 
 }
@@ -132,6 +136,7 @@ void MapScriptManager::ReadMod(const em5::Mod& mod) {
     root = readJsonFile(file);
   } catch (const std::exception& error) {
     logError(error.what());
+    fates::noteUnreadable(error.what());
     return;
   }
   ReadScripts(mod, root);
@@ -160,27 +165,18 @@ bool MapScriptManager::ReadScript(const em5::Mod& mod, const ptree& root, MapScr
   // The key becomes part of a path whose separator is the dot: a key that holds one names another node, or none.
   const std::string node = "MapScripts." + entry.key;
   const auto path = root.get_optional<std::string>(node + ".Path");
-  if (!path) {
-    logMissingNode(node + ".Path");
-    return false;
-  }
+  if (!path) return refuseMissingNode(entry, node + ".Path");
   entry.globalNamePrefix = entry.project + "/" + *path;
   entry.path = scriptDirectoryOf(mod) + *path;
-  if (!canOpenFile(entry.path)) {
-    logError("MapscriptManager: " + entry.key + " cant be created because the Mapscriptfile \"" + entry.path +
-             "\" does not exist or can't be open");
-    return false;
-  }
+  if (!canOpenFile(entry.path))
+    return refuse(entry, "MapscriptManager: " + entry.key + " cant be created because the Mapscriptfile \"" +
+                             entry.path + "\" does not exist or can't be open");
   if (!readMode(root, node, entry)) return false;
   const auto maps = root.get_child_optional(node + ".Maps");
-  if (!maps) {
-    logMissingNode(node + ".Maps");
-    return false;
-  }
+  if (!maps) return refuseMissingNode(entry, node + ".Maps");
   entry.maps = readMaps(*maps);
   if (!entry.maps.empty()) return true;
-  logError("MapscriptManager: Array of valid maps is emptry");
-  return false;
+  return refuse(entry, "MapscriptManager: Array of valid maps is emptry");
 }
 
 }

@@ -1,9 +1,11 @@
 #include "game_plugin/scenario/lifecycle/MapScriptManager.h"
 
 #include "game_plugin/scenario/Log.h"
-#include "game_plugin/scenario/language/ScriptParser.h"
+#include "game_plugin/scenario/hints/ExecutionPoint.h"
 #include "game_plugin/scenario/lifecycle/FiringLedger.h"
 #include "game_plugin/scenario/lifecycle/PreCommandCheck.h"
+#include "game_plugin/scenario/lifecycle/ScriptFates.h"
+#include "game_plugin/scenario/loading/ProgramCache.h"
 
 #include "em5/base/Jobs.h"
 #include "em5/base/Messages.h"
@@ -25,11 +27,11 @@ MapScriptManager* theManager = nullptr;
 bool hasGame() { return static_cast<bool>(qsf::UniqueInstance<em5::Game>()); }
 bool hasGui() { return static_cast<bool>(qsf::UniqueInstance<em5::EmergencyGui>()); }
 
-/// Takes over a document. Handlers and tools may point at one long after its script has stopped, so none ever goes.
-ScriptDocument* keepForGood(ScriptDocument* document) {
-  static auto& documents = *new std::vector<std::unique_ptr<ScriptDocument>>;
-  documents.emplace_back(document);
-  return document;
+/// "what, day.script:12" of the line at work.
+std::string withOrigin(const std::string& what) {
+  if (!executionPoint.source) return what;
+  const std::string& path = executionPoint.source->path();
+  return what + ", " + path.substr(path.find_last_of("/\\") + 1) + ":" + std::to_string(executionPoint.line);
 }
 
 bool isMainMap(const std::string& map) {
@@ -41,8 +43,9 @@ bool isMainMap(const std::string& map) {
 
 MapScriptManager::MapScriptManager() : MapScriptManager(true) {}
 
-MapScriptManager::MapScriptManager(bool writeDocumentation) : mParser(std::make_unique<ScriptParser>()) {
+MapScriptManager::MapScriptManager(bool writeDocumentation) : mPrograms(std::make_unique<ProgramCache>()) {
   theManager = this;
+  ScenarioHandler::setDirectory(this);
   LoadConfiguration(writeDocumentation);
   mGameStartupMessageProxy.registerAt(em5::Messages::GAME_STARTUP_FINISHED,
                                       [this](const qsf::MessageParameters&) { OnGameStartupFinished(); });
@@ -59,7 +62,9 @@ MapScriptManager::~MapScriptManager() {
   for (ScenarioHandler* handler : mLeftRunning)
     ScenarioHandler::Retire(handler);
   ForgetScripts();
-  if (theManager == this) theManager = nullptr;
+  if (theManager != this) return;
+  theManager = nullptr;
+  ScenarioHandler::setDirectory(nullptr);
 }
 
 MapScriptManager* MapScriptManager::Get() { return theManager; }
@@ -73,6 +78,7 @@ void MapScriptManager::LoadConfiguration(bool /*writeDocumentation*/) {
   logInfo("***** MapscriptManager started succesfully *****");
   logInfo("");
   ForgetScripts();
+  fates::clear();
   if (em5::Plugin* game = em5::Plugin::getInstance())
     for (const auto& mod : game->getModSystem().getMods())
       if (mod->isMounted() && mod->isEnabled()) ReadMod(*mod);
@@ -87,7 +93,7 @@ void MapScriptManager::LoadConfiguration(bool /*writeDocumentation*/) {
 
 void MapScriptManager::ParseScripts() {
   for (MapScriptEntry* entry : mScriptEntries) {
-    entry->document = keepForGood(mParser->parse(entry->path, entry->globalNamePrefix));
+    entry->document = std::make_shared<ScriptDocument>(mPrograms->load(entry->path, entry->globalNamePrefix));
     FiringLedger::restore(*entry);
   }
 }
@@ -149,7 +155,7 @@ void MapScriptManager::StartTemporaryScript(const std::string& path) {
     entry->mode = ScriptMode::Temporary;
     entry->path = path;
     entry->key = path;
-    entry->document = keepForGood(mParser->parse(path, entry->globalNamePrefix));
+    entry->document = std::make_shared<ScriptDocument>(mPrograms->load(path, entry->globalNamePrefix));
     mScriptEntries.push_back(entry);
     StartScript(*entry);
     logInfo("\tMapscriptManager: succesfully initialize new temproray Scenario " + path);
@@ -174,8 +180,15 @@ void MapScriptManager::StopScript(const std::string& path) {
   for (std::size_t i = 0; i < mScriptEntries.size(); ++i) {
     if (mScriptEntries[i]->path != path) continue;
     ScenarioHandler::Retire(std::exchange(mScriptEntries[i]->handler, nullptr));
-    RemoveEntry(i);
+    RemoveEntry(i, withOrigin("stopped by StopScenario"));
   }
+}
+
+std::pair<ScenarioHandler*, const ScenarioTrigger*> MapScriptManager::findTrigger(std::uint32_t hash) const {
+  for (const MapScriptEntry* entry : mScriptEntries)
+    if (entry->document)
+      if (const ScenarioTrigger* trigger = entry->document->findTrigger(hash)) return {entry->handler, trigger};
+  return {nullptr, nullptr};
 }
 
 void MapScriptManager::DoShutdown() {
@@ -184,7 +197,7 @@ void MapScriptManager::DoShutdown() {
   // Kept: the entry behind a forgotten temporary one is skipped, and its script goes on into the next map.
   for (std::size_t i = 0; i < mScriptEntries.size(); ++i) {
     ScenarioHandler::Retire(std::exchange(mScriptEntries[i]->handler, nullptr));
-    if (mScriptEntries[i]->mode == ScriptMode::Temporary) RemoveEntry(i);
+    if (mScriptEntries[i]->mode == ScriptMode::Temporary) RemoveEntry(i, "ended with its map");
   }
   logInfo("DoShutdown Finished");
 }
@@ -192,12 +205,13 @@ void MapScriptManager::DoShutdown() {
 void MapScriptManager::ForgetScripts() {
   while (!mScriptEntries.empty()) {
     ScenarioHandler::Retire(mScriptEntries.back()->handler);
-    RemoveEntry(mScriptEntries.size() - 1);
+    RemoveEntry(mScriptEntries.size() - 1, "");
   }
 }
 
-void MapScriptManager::RemoveEntry(std::size_t index) {
+void MapScriptManager::RemoveEntry(std::size_t index, const std::string& fate) {
   MapScriptEntry* entry = mScriptEntries[index];
+  if (!fate.empty()) fates::noteEnded(*entry, fate);
   FiringLedger::store(*entry);
   mScriptEntries.erase(mScriptEntries.begin() + static_cast<std::ptrdiff_t>(index));
   delete entry;

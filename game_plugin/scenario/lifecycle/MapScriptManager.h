@@ -1,5 +1,5 @@
 #pragma once
-#include "game_plugin/scenario/ScenarioHandler.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include "qsf/job/JobProxy.h"
 #include "qsf/message/MessageProxy.h"
@@ -16,7 +16,7 @@ class Mod;
 
 namespace script {
 
-class ScriptParser;
+class ProgramCache;
 
 /// When a script's handler is made.
 enum class ScriptMode : std::uint32_t {
@@ -36,24 +36,24 @@ std::string_view toText(ScriptMode mode);
 /// stop.
 struct MapScriptEntry {
   ScriptMode mode = ScriptMode::Unknown;
-  std::vector<std::string> maps;      ///< local asset names, or "All"
-  std::string path;                   ///< absolute file; for a temporary script the path as given
-  std::string globalNamePrefix;       ///< project, `/`, configured path; empty for a temporary script
-  ScriptDocument* document = nullptr; ///< made at parse time, kept for good
-  ScenarioHandler* handler = nullptr; ///< null while the script doesn't run
-  std::string key;                    ///< child name in MapScript.json, for a temporary script its path; tools show it
-  std::string project;                ///< name of the mod's project; tools show it
+  std::vector<std::string> maps;            ///< local asset names, or "All"
+  std::string path;                         ///< absolute file; for a temporary script the path as given
+  std::string globalNamePrefix;             ///< project, `/`, configured path; empty for a temporary script
+  std::shared_ptr<ScriptDocument> document; ///< made at parse time
+  ScenarioHandler* handler = nullptr;       ///< null while the script doesn't run
+  std::string key;     ///< child name in MapScript.json, for a temporary script its path; tools show it
+  std::string project; ///< name of the mod's project; tools show it
 };
 
 /// Decides which scripts exist and when they run: reads the MapScript.json of each enabled mod, parses every script
 /// that it lists, and makes handlers as their modes demand. Owns the global stores. One lives at a time, made by the
 /// plug-in. It may be destroyed while one of its scripts ticks; that script's effects then end.
-class MapScriptManager {
+class MapScriptManager : public ScriptDirectory {
 public:
   /// Reads all configurations; also writes the reference documentation.
   MapScriptManager();
   explicit MapScriptManager(bool writeDocumentation);
-  /// Runs DoShutdown, stops what it has left running, and lets the stores go; documents stay.
+  /// Runs DoShutdown, stops what it has left running, and lets documents and stores go.
   virtual ~MapScriptManager();
   MapScriptManager(const MapScriptManager&) = delete;
   MapScriptManager& operator=(const MapScriptManager&) = delete;
@@ -74,8 +74,11 @@ public:
   /// Stops all scripts; temporary scripts are forgotten. The entry behind a forgotten one is skipped and goes on.
   void DoShutdown();
 
+  std::pair<ScenarioHandler*, const ScenarioTrigger*> findTrigger(std::uint32_t hash) const override;
+
   const std::vector<MapScriptEntry*>& GetScriptEntries() const { return mScriptEntries; }
   const std::shared_ptr<GlobalStores>& GetGlobalStores() const { return mGlobalStores; }
+  const ProgramCache& programs() const { return *mPrograms; }
   /// Entities that may not be extinguished; emptied at each start.
   std::vector<std::uint64_t>& GetBlockedEntityIds() { return mBlockedEntityIds; }
 
@@ -91,8 +94,8 @@ private:
   void StartGameScript();
   void StartScriptsOfMap(bool (*isStarted)(ScriptMode));
   void StartScript(MapScriptEntry& entry);
-  /// Takes the entry off the list; what it was running has been stopped.
-  void RemoveEntry(std::size_t index);
+  /// Takes the entry off the list; what it was running has been stopped. Tools are told what became of it, if anything.
+  void RemoveEntry(std::size_t index, const std::string& fate);
   /// Stops and removes all entries.
   void ForgetScripts();
   bool MayStartAnother(const std::string& path);
@@ -103,7 +106,7 @@ private:
   std::vector<MapScriptEntry*> mScriptEntries;
   /// Handlers that a shutdown has skipped and whose entry runs a new one since: they go on until the manager ends.
   std::vector<ScenarioHandler*> mLeftRunning;
-  std::unique_ptr<ScriptParser> mParser;
+  std::unique_ptr<ProgramCache> mPrograms;
   qsf::MessageProxy mGameStartupMessageProxy;
   qsf::MessageProxy mGameShutdownMessageProxy;
   std::vector<std::uint64_t> mBlockedEntityIds;

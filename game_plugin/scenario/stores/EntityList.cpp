@@ -1,19 +1,9 @@
 #include "game_plugin/scenario/stores/EntityList.h"
 
-#include "game_plugin/scenario/stores/Store.h"
-
 #include <algorithm>
 #include <bit>
 
 namespace script {
-
-std::uint32_t detail::nextStoreEpoch() {
-  static std::uint32_t epoch = 0;
-  do
-    ++epoch;
-  while (epoch == 0 || epoch == ~0u);
-  return epoch;
-}
 
 std::size_t EntityList::findSlot(std::uint64_t id) const {
   const std::size_t mask = mSlots.size() - 1;

@@ -14,12 +14,23 @@ namespace detail {
 std::uint32_t nextStoreEpoch();
 }
 
-/// Named values in the order of their first use. Look-ups give the first entry of a name; entries are appended and,
+/// The global mark `§` is one byte in a code page and two in UTF-8; scripts of both share the global stores.
+enum class StoreMarks : unsigned char { AsWritten, One };
+
+namespace detail {
+/// The name with its marks in UTF-8, written to `buffer` if that differs.
+std::string_view withOneMark(std::string_view name, std::string& buffer);
+}
+
+/// Named values in the order of their first use. With one mark, names that differ only in the mark's encoding are one
+/// name. Look-ups give the first entry of a name; entries are appended and,
 /// seldom, erased. Each erase gives the store a new epoch, so that a remembered index is valid as long as the epoch is
 /// the same. References to values hold until an entry is erased, for floats until one is appended.
 template <class T> class Store {
 public:
   static constexpr std::size_t NOT_FOUND = ~std::size_t{0};
+
+  explicit Store(StoreMarks marks = StoreMarks::AsWritten) : mMarks(marks) {}
 
   std::size_t size() const { return mNames.size(); }
   const std::string& name(std::size_t index) const { return mNames[index]; }
@@ -27,7 +38,9 @@ public:
   const T& value(std::size_t index) const { return mValues[index]; }
   std::uint32_t epoch() const { return mEpoch; }
 
-  std::size_t find(std::string_view name) const {
+  std::size_t find(std::string_view written) const {
+    std::string buffer;
+    const std::string_view name = mMarks == StoreMarks::One ? detail::withOneMark(written, buffer) : written;
     if (size() <= LINEAR_LIMIT) {
       for (std::size_t i = 0; i < mNames.size(); ++i)
         if (mNames[i] == name) return i;
@@ -43,8 +56,9 @@ public:
     const std::size_t found = find(name);
     return found != NOT_FOUND ? found : append(name, T());
   }
-  std::size_t append(std::string_view name, T value) {
-    mNames.emplace_back(name);
+  std::size_t append(std::string_view written, T value) {
+    std::string buffer;
+    mNames.emplace_back(mMarks == StoreMarks::One ? detail::withOneMark(written, buffer) : written);
     mValues.push_back(std::move(value));
     return mNames.size() - 1;
   }
@@ -72,6 +86,7 @@ private:
   // Built when first needed; the views point into mNames, whose elements don't move on append.
   mutable std::unordered_map<std::string_view, std::uint32_t, Hash, std::equal_to<>> mIndex;
   mutable std::size_t mIndexed = 0;
+  StoreMarks mMarks;
   std::uint32_t mEpoch = detail::nextStoreEpoch();
 };
 

@@ -1,7 +1,7 @@
 #include "em5/game/Game.h"
 #include "game_plugin/ModuleFixture.h"
-#include "game_plugin/scenario/ScenarioConditions.h"
-#include "game_plugin/scenario/ScenarioEffects.h"
+#include "game_plugin/scenario/tick/ScenarioConditions.h"
+#include "game_plugin/scenario/tick/ScenarioEffects.h"
 #include "qsf/component/TransformComponent.h"
 #include "qsf/prototype/PrototypeManager.h"
 
@@ -83,13 +83,11 @@ protected:
   }
   std::string randomScript() {
     std::vector<std::string> conditions, effects;
-    const ScenarioConditions allConditions(nullptr);
-    const ScenarioEffects allEffects(nullptr);
-    for (const ConditionGroup* group : allConditions.groupsInCreationOrder())
-      for (const ConditionEntry* entry : group->chain())
+    for (const ConditionGroup* group : ScenarioConditions::groups())
+      for (const ConditionEntry* entry : group->chain)
         conditions.emplace_back(entry->name);
-    for (const EffectGroup* group : allEffects.groupsInCreationOrder())
-      for (const EffectEntry* entry : group->chain())
+    for (const EffectGroup* group : ScenarioEffects::groups())
+      for (const EffectEntry* entry : group->chain)
         if (entry->kind != EffectKind::Return) effects.emplace_back(entry->name);
     std::string text;
     for (int trigger = 0; trigger < 40; ++trigger) {

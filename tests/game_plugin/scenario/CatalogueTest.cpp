@@ -1,6 +1,6 @@
-#include "game_plugin/scenario/ScenarioConditions.h"
-#include "game_plugin/scenario/ScenarioEffects.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/tick/ScenarioConditions.h"
+#include "game_plugin/scenario/tick/ScenarioEffects.h"
 #include "tests/game_plugin/scenario/LogCapture.h"
 
 #include <gtest/gtest.h>
@@ -15,19 +15,11 @@ using namespace script;
 
 namespace {
 
-template <class Group> std::vector<std::string> namesOf(const std::vector<const Group*>& groups) {
+template <class Groups> std::vector<std::string> namesOf(const Groups& groups) {
   std::vector<std::string> names;
-  for (const Group* group : groups)
-    for (const auto* entry : group->chain())
+  for (const auto* group : groups)
+    for (const auto* entry : group->chain)
       names.emplace_back(entry->name);
-  return names;
-}
-
-std::vector<std::string> effectNames() {
-  const ScenarioEffects effects(nullptr);
-  std::vector<std::string> names = namesOf(effects.groupsInCreationOrder());
-  for (const EffectEntry* entry : ScenarioEffects::ownEntries())
-    names.emplace_back(entry->name);
   return names;
 }
 
@@ -63,127 +55,149 @@ void expectOneFileEach(const std::vector<std::string>& listed, const std::multim
 }
 
 TEST(Catalogue, EachConditionHasItsLineAndItsFile) {
-  expectOneFileEach(namesOf(ScenarioConditions(nullptr).groupsInCreationOrder()),
+  expectOneFileEach(namesOf(ScenarioConditions::groups()),
                     entriesInSources("condition", {"CONDITION"}));
 }
 
 TEST(Catalogue, EachEffectHasItsLineAndItsFile) {
-  expectOneFileEach(effectNames(), entriesInSources("Effekt", {"EFFECT", "EFFECT_OF_KIND"}));
+  expectOneFileEach(namesOf(ScenarioEffects::groups()), entriesInSources("Effekt", {"EFFECT", "EFFECT_OF_KIND"}));
 }
 
-template <class Expected, class Group> bool isGroup(const Group* group) {
-  return dynamic_cast<const Expected*>(group) != nullptr;
+using Names = std::vector<std::string_view>;
+
+template <class Groups> Names groupNames(const Groups& groups) {
+  Names names;
+  for (const auto* group : groups)
+    names.push_back(group->name);
+  return names;
 }
 
-TEST(Catalogue, ConditionGroupsAreMadeInOneOrderAndEvaluatedInAnother) {
-  const ScenarioConditions conditions(nullptr);
-  const auto creation = conditions.groupsInCreationOrder();
-  const auto evaluation = conditions.groupsInEvaluationOrder();
-  ASSERT_EQ(creation.size(), 6u);
-  EXPECT_TRUE(isGroup<ScenarioConditions_Brill>(creation[0]));
-  EXPECT_TRUE(isGroup<ScenarioConditions_Tarn>(creation[1]));
-  EXPECT_TRUE(isGroup<ScenarioConditions_Event>(creation[2]));
-  EXPECT_TRUE(isGroup<ComponentsAndVariablesConditions>(creation[3]));
-  EXPECT_TRUE(isGroup<MPConditions>(creation[4]));
-  EXPECT_TRUE(isGroup<GamepadConditions>(creation[5]));
-  EXPECT_EQ(std::vector(creation.begin(), creation.begin() + 4),
-            std::vector(evaluation.begin(), evaluation.begin() + 4));
-  EXPECT_EQ(evaluation[4], creation[5]);
-  EXPECT_EQ(evaluation[5], creation[4]);
+TEST(Catalogue, GroupsAreAskedInTheirOrder) {
+  EXPECT_EQ(groupNames(ScenarioConditions::groups()),
+            (Names{"ScenarioConditions_Brill", "ScenarioConditions_Tarn", "ScenarioConditions_Event",
+                   "ComponentsAndVariablesConditions", "MPConditions", "GamepadConditions"}));
+  EXPECT_EQ(groupNames(ScenarioEffects::groups()),
+            (Names{"OwnEffects", "ScenarioEffects_Brill", "ScenarioEffects_Tarn", "ScenarioEffects_Event",
+                   "ComponentsAndVariablesEffects", "ScenarioEffects_Gui", "MPEffects", "PositionAndRotationEffects",
+                   "GamepadEffects", "ScenarioEffects_Editor"}));
 }
 
-TEST(Catalogue, EffectGroupsAreAskedInTheirOrder) {
-  const ScenarioEffects effects(nullptr);
-  const auto groups = effects.groupsInExecutionOrder();
-  ASSERT_EQ(groups.size(), 9u);
-  EXPECT_TRUE(isGroup<ScenarioEffects_Brill>(groups[0]));
-  EXPECT_TRUE(isGroup<ScenarioEffects_Tarn>(groups[1]));
-  EXPECT_TRUE(isGroup<ScenarioEffects_Event>(groups[2]));
-  EXPECT_TRUE(isGroup<ComponentsAndVariablesEffects>(groups[3]));
-  EXPECT_TRUE(isGroup<ScenarioEffects_Gui>(groups[4]));
-  EXPECT_TRUE(isGroup<MPEffects>(groups[5]));
-  EXPECT_TRUE(isGroup<PositionAndRotationEffects>(groups[6]));
-  EXPECT_TRUE(isGroup<GamepadEffects>(groups[7]));
-  EXPECT_TRUE(isGroup<ScenarioEffects_Editor>(groups[8]));
+TEST(Catalogue, ANameLeadsToItsEntry) {
+  for (const ConditionGroup* group : ScenarioConditions::groups())
+    for (const ConditionEntry* entry : group->chain)
+      EXPECT_EQ(ScenarioConditions::find(entry->name), entry) << entry->name;
+  for (const EffectGroup* group : ScenarioEffects::groups())
+    for (const EffectEntry* entry : group->chain)
+      EXPECT_EQ(ScenarioEffects::find(entry->name), entry) << entry->name;
+  for (const char* name : {"", "NoSuch", "setvariable", "SetVariable ", "CompareValues"})
+    EXPECT_EQ(ScenarioEffects::find(name), nullptr) << name;
+  for (const char* name : {"Always", "SetVariable", "If"})
+    EXPECT_EQ(ScenarioConditions::find(name), nullptr) << name;
 }
 
-TEST(Catalogue, UnknownNamesAreNamedInTheLog) {
-  const LogCapture log;
-  EXPECT_EQ(ScenarioConditions(nullptr).create({"NoSuch"}), nullptr);
-  EXPECT_EQ(log.count(2, "[MS] Error: Condition NoSuch was not found"), 1);
-  EXPECT_EQ(ScenarioEffects(nullptr).create({"NoSuch"}), nullptr);
-  EXPECT_EQ(log.count(4, "Effect of type: NoSuch can't be found."), 1);
-  EXPECT_EQ(ScenarioConditions(nullptr).create({"Always"}), nullptr);
-  EXPECT_EQ(log.lines.size(), 2u);
+TEST(Catalogue, EveryEntryCanBeTestedOrRun) {
+  for (const ConditionGroup* group : ScenarioConditions::groups())
+    for (const ConditionEntry* entry : group->chain)
+      EXPECT_NE(entry->test, nullptr) << entry->name;
+  for (const EffectGroup* group : ScenarioEffects::groups())
+    for (const EffectEntry* entry : group->chain)
+      EXPECT_EQ(entry->run != nullptr, entry->kind == EffectKind::Ordinary) << entry->name;
 }
 
-TEST(Catalogue, AGroupAnswersOnlyForItsOwn) {
-  const ScenarioEffects effects(nullptr);
-  const auto groups = effects.groupsInCreationOrder();
-  EXPECT_NE(groups[0]->create({"SetVariable"}), nullptr);
-  EXPECT_EQ(groups[1]->create({"SetVariable"}), nullptr);
-  const DefaultEffect* returns = effects.create({"Return"});
-  ASSERT_NE(returns, nullptr);
-  EXPECT_FALSE(groups[0]->execute(*returns, 0)) << "the effect loop runs it itself";
-}
+struct Parameters {
+  std::string_view entry;
+  ParameterReader::Documentation all;
 
-struct Described {
-  const char* name;
-  const char* category;
-  const char* parameters; ///< "type name=default", in order
+  const ParameterDocumentation* at(int index) const {
+    for (const ParameterDocumentation& parameter : all)
+      if (parameter.index == index) return &parameter;
+    return nullptr;
+  }
 };
 
-/// What the reference shows of the entries that steer scripts.
-TEST(Catalogue, EffectsOfScriptControlReadTheirParameters) {
-  const Described rows[] = {
-      {"Return", "ScriptControl", ""},
-      {"SendHint", "General", "string Hint=;"},
-      {"ShowDebuggingGui", "GUI", "bool =true;"},
-      {"PrintTriggerInfo", "TidemarkScripts", ""},
-      {"ActivateTrigger", "TidemarkScripts", "string Trigger Name=Trigger_1;bool Enable=false;"},
-      {"ActivateGlobalTrigger", "TidemarkScripts", "string Trigger Name=Trigger_1;bool Enable=false;"},
-      {"StartScenario", "TidemarkScripts", "string ScenarioFile=no_file;"},
-      {"StopScenario", "TidemarkScripts", "string ScenrarioFile=no_file;"},
-      {"SetVariable", "Variables", "string Variable=var;string value=0;"},
-      {"VariableModify", "Variables",
-       "string Value1=0;string Operation=+;string Value2=0;string Result=var;bool Round=true;"},
-      {"SetVariableRandom", "Variables", "string MinValue=0;string MaxValue=1;string Variable=var;bool Round=true;"},
-      {"ConvertEntityToVariable", "Variables", "string EntityList=no_list;string Index=0;string variablename=myvar;"},
-      {"SetLocalVariableGlobal", "Variables", "string LocalVariable=no_var;string GlobalVariable=no_varG;"},
-      {"SetLocalEntityListGlobal", "EntityLists", "string LocalEntiyList=no_list;string GlobalEntiyList=no_listG;"},
-      {"SetStringVariableToValue", "StringVar", "string Variable=no_var;string Value=;"},
-      {"WriteStringvarToEntityList", "Convertfunctions", "string EntityList=no_list;string stringvar=stringvar;"},
-      {"DoLogEntry", "General", "string SeverityLevel=INFO;string Message=No Message inside;"},
-      {"EnableFreeplayEvents", "Events", "bool Enable=true;"},
-      {"StartEvent", "Events", "string Event Definition=EventDefinition;bool Unlock Win and Loose - Ability=false;"},
-      {"AddFreeplayEventPool", "Events", "string Evenpool=em5/em5_eventpool/worldevents/MY_CUSTOM_WORLDEVENTPOOL;"},
+/// What every entry tells of its parameters.
+std::vector<Parameters> describeAll() {
+  std::vector<Parameters> described;
+  const auto describe = [&](const auto& groups) {
+    for (const auto* group : groups)
+      for (const auto* entry : group->chain) {
+        described.push_back({entry->name, {}});
+        ParameterReader in(described.back().all);
+        entry->describe(in);
+      }
   };
-  const ScenarioEffects effects(nullptr);
-  for (const Described& row : rows) {
-    std::vector<ParameterDocumentation> parameters;
-    const DocumentationScope scope(parameters);
-    const DefaultEffect* record = effects.create({row.name});
-    ASSERT_NE(record, nullptr) << row.name;
-    EXPECT_EQ(record->category(), row.category) << row.name;
-    EXPECT_FALSE(record->description().empty()) << row.name;
-    std::string described;
-    for (const ParameterDocumentation& parameter : parameters)
-      described += parameter.type + " " + parameter.name + "=" + parameter.defaultValue + ";";
-    EXPECT_EQ(described, row.parameters) << row.name;
-  }
+  describe(ScenarioConditions::groups());
+  describe(ScenarioEffects::groups());
+  return described;
 }
 
-/// Authors know these two by their words.
-TEST(Catalogue, TheRegistrysOwnEffectsAreDescribedInTheirWords) {
-  const ScenarioEffects effects(nullptr);
-  std::vector<ParameterDocumentation> parameters;
-  const DocumentationScope scope(parameters);
-  EXPECT_EQ(effects.create({"SendHint"})->description(), "Sends a hint message. Supervisor is not visible");
-  EXPECT_EQ(effects.create({"ShowDebuggingGui"})->description(),
-            "Enables or disables the debugging gui. Usefull for events or to test some stuff out.");
-  ASSERT_EQ(parameters.size(), 2u);
-  EXPECT_EQ(parameters[0].description, "Message which will be displayed.");
-  EXPECT_EQ(parameters[1].description, "true-> gui will be shown\nfalse->gui will be hidden");
+/// A parameter without a name throws when it is missing, so each one that has none is meant to.
+TEST(Catalogue, ParametersHaveNamesButForThreeThatNeverHad) {
+  std::vector<std::string> unnamed;
+  for (const Parameters& parameters : describeAll())
+    for (const ParameterDocumentation& parameter : parameters.all)
+      if (parameter.name.empty()) unnamed.push_back(std::string(parameters.entry) + " " + std::to_string(parameter.index));
+  EXPECT_EQ(unnamed, (std::vector<std::string>{"ShowDebuggingGui 1", "UseConditionalBlock 1", "UseConditionalBlock 2"}));
+}
+
+TEST(Catalogue, ParametersStandSideBySideFromTheFirstPlaceOn) {
+  for (const Parameters& parameters : describeAll())
+    for (int index = 1; index <= static_cast<int>(parameters.all.size()); ++index)
+      EXPECT_NE(parameters.at(index), nullptr) << parameters.entry << " has no parameter " << index;
+}
+
+TEST(Catalogue, TheRoleOfAParameterIsOneOfItsType) {
+  const auto typeOf = [](ParameterRole role) -> std::string_view {
+    switch (role) {
+    case ParameterRole::Flag:
+      return "bool";
+    case ParameterRole::Integer:
+      return "int";
+    case ParameterRole::Decimal:
+      return "float";
+    case ParameterRole::Id:
+      return "uint64";
+    default:
+      return "string";
+    }
+  };
+  for (const Parameters& parameters : describeAll())
+    for (const ParameterDocumentation& parameter : parameters.all) {
+      ASSERT_LT(parameter.role, ParameterRole::Count_) << parameters.entry;
+      EXPECT_EQ(parameter.type, typeOf(parameter.role)) << parameters.entry << " " << parameter.index;
+    }
+}
+
+TEST(Catalogue, APropertyIsOneOfAComponentThatTheLineNames) {
+  for (const Parameters& parameters : describeAll())
+    for (const ParameterDocumentation& parameter : parameters.all) {
+      if (parameter.role != ParameterRole::Property) {
+        EXPECT_EQ(parameter.componentIndex, 0) << parameters.entry << " " << parameter.index;
+        continue;
+      }
+      const ParameterDocumentation* component = parameters.at(parameter.componentIndex);
+      ASSERT_NE(component, nullptr) << parameters.entry;
+      EXPECT_EQ(component->role, ParameterRole::Component) << parameters.entry << " " << parameter.index;
+    }
+}
+
+TEST(Catalogue, WhereOneOfSomeWordsIsExpectedTheWordsAreTold) {
+  for (const Parameters& parameters : describeAll())
+    for (const ParameterDocumentation& parameter : parameters.all) {
+      const bool hasWords = parameter.role == ParameterRole::Words || parameter.role == ParameterRole::Comparison ||
+                            parameter.role == ParameterRole::Flag;
+      EXPECT_EQ(!parameter.words.empty(), hasWords) << parameters.entry << " " << parameter.index;
+      const std::set<std::string_view> words(parameter.words.begin(), parameter.words.end());
+      EXPECT_EQ(words.size(), parameter.words.size()) << parameters.entry << " tells a word twice";
+    }
+}
+
+TEST(Catalogue, RolesHaveNamesThatTellThemApart) {
+  std::set<std::string_view> names;
+  for (std::size_t role = 0; role < static_cast<std::size_t>(ParameterRole::Count_); ++role)
+    names.insert(nameOf(static_cast<ParameterRole>(role)));
+  EXPECT_EQ(names.size(), static_cast<std::size_t>(ParameterRole::Count_));
+  EXPECT_FALSE(names.contains(""));
 }
 
 }

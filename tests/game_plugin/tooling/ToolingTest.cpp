@@ -26,6 +26,8 @@ TEST_F(ToolingTest, ShowsNothingWithoutAManager) {
   EXPECT_TRUE(tooling.getNames(std::nullopt, StoreKind::Variables).empty());
   EXPECT_EQ(tooling.getVariable(0, "a"), std::nullopt);
   EXPECT_FALSE(tooling.setVariable(0, "a", 1));
+  EXPECT_TRUE(tooling.getDroppedLines().empty());
+  EXPECT_EQ(tooling.getOrigin(), std::nullopt);
 }
 
 TEST_F(ToolingTest, ShowsScriptsAndTriggers) {
@@ -122,6 +124,65 @@ TEST_F(ToolingTest, CountsBeginAnewWithTheHost) {
   session.reset();
   start();
   EXPECT_EQ(tooling.getTriggers(0)[0].timesFired, 0u);
+}
+
+TEST_F(ToolingTest, ToldWhatALoadHasDropped) {
+  addScript("main", "MAP_STARTUP", "InitNewTrigger(\"t\");\n\tNoSuch();\nno command\n");
+  addScript("fault", "MAP_STARTUP", "$ a comment\nCompareValues();\n");
+  start();
+  const std::vector<DroppedLineView> lines = tooling.getDroppedLines();
+  ASSERT_EQ(lines.size(), 3u);
+  EXPECT_EQ(lines[0].path, scriptPath("fault"));
+  EXPECT_EQ(lines[0].line, 2u);
+  EXPECT_EQ(lines[0].reason, "invalid vector<T> subscript (the line stands before the first InitNewTrigger)");
+  EXPECT_EQ(lines[1].path, scriptPath("main"));
+  EXPECT_EQ(lines[1].line, 2u);
+  EXPECT_EQ(lines[1].column, 2u);
+  EXPECT_EQ(lines[1].reason, "[MS] Error: Condition NoSuch was not found");
+  EXPECT_EQ(lines[2].line, 3u);
+  EXPECT_EQ(lines[2].column, 1u);
+  EXPECT_EQ(lines[2].reason, "Command is invalid: no command");
+}
+
+TEST_F(ToolingTest, TheStateOfAScriptTellsWhyItCantBeUsed) {
+  addScript("fault", "MAP_STARTUP", "\nCompareValues();\n");
+  addScript("idle", "TEMPORARY", "");
+  addScript("main", "MAP_STARTUP", "");
+  start();
+  EXPECT_EQ(tooling.getScripts()[0].state, "can't be used, line 2: invalid vector<T> subscript (the line stands before "
+                                           "the first InitNewTrigger)");
+  EXPECT_EQ(tooling.getScripts()[1].state, "stopped");
+  EXPECT_EQ(tooling.getScripts()[2].state, "running");
+}
+
+TEST_F(ToolingTest, SwitchesHintsAndShowsThem) {
+  addScript("main", "MAP_STARTUP", "InitNewTrigger(\"t\",true,true);\nCompareValues(\"v\",\"==\",\"1\");\n");
+  start();
+  run(0.1);
+  EXPECT_TRUE(tooling.getHints().empty());
+  tooling.switchHints(true);
+  tooling.reload();
+  run(0.1);
+  const std::vector<HintView> hints = tooling.getHints();
+  ASSERT_EQ(hints.size(), 1u);
+  EXPECT_EQ(hints[0].origin.path, scriptPath("main"));
+  EXPECT_EQ(hints[0].origin.line, 2u);
+  EXPECT_EQ(hints[0].origin.trigger, "t");
+  EXPECT_EQ(hints[0].kind, "name");
+  EXPECT_EQ(hints[0].text, "the variable \"v\" is read, but nobody has written it");
+  EXPECT_EQ(hints[0].count, 2u);
+  tooling.setVariable(0, "v", 0);
+  EXPECT_TRUE(tooling.getHints().empty()) << "tools write as scripts do";
+  tooling.switchHints(false);
+}
+
+TEST_F(ToolingTest, GlobalNamesAreSetAndReadInEitherEncoding) {
+  addScript("main", "MAP_STARTUP", "");
+  start();
+  EXPECT_TRUE(tooling.setVariable(std::nullopt, "\xA7g", 1));
+  EXPECT_TRUE(tooling.setVariable(0, "\xC2\xA7g", 2));
+  EXPECT_EQ(tooling.getVariable(std::nullopt, "\xA7g"), 2);
+  EXPECT_EQ(tooling.getNames(std::nullopt, StoreKind::Variables), std::vector<std::string>{"\xC2\xA7g"});
 }
 
 TEST_F(ToolingTest, AReloadInTheEditorGoesByItsMessage) {

@@ -9,15 +9,19 @@ namespace {
 
 constexpr std::string_view MARK = "\xC2\xA7";
 
+// Bytes of the mark that the text begins with, in either encoding; 0 if it doesn't.
+std::size_t markLength(std::string_view text) { return text.starts_with(MARK) ? 2 : text.starts_with('\xA7') ? 1 : 0; }
+
 // How many bytes of `actual` the directive's text takes from there on; nothing if it doesn't match.
 std::optional<std::size_t> matchAt(std::string_view directive, std::string_view actual) {
   std::size_t position = 0;
   for (std::size_t i = 0; i < directive.size();) {
-    if (directive.substr(i).starts_with(MARK)) {
-      const std::string_view rest = actual.substr(std::min(position, actual.size()));
-      if (!rest.starts_with(MARK) && !rest.starts_with('\xA7')) return std::nullopt;
-      position += rest.starts_with(MARK) ? 2 : 1;
-      i += MARK.size();
+    const std::size_t mark = markLength(directive.substr(i));
+    if (mark > 0) {
+      const std::size_t taken = markLength(actual.substr(std::min(position, actual.size())));
+      if (taken == 0) return std::nullopt;
+      position += taken;
+      i += mark;
     } else {
       if (position >= actual.size() || actual[position] != directive[i]) return std::nullopt;
       ++position;

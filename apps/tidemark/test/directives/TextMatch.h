@@ -4,7 +4,7 @@
 namespace tidemark::test {
 
 /// True if `actual` is what a directive wrote. A `§` of the directive stands for the mark in UTF-8 and in a single
-/// byte; a byte written as \xA7 stands for itself.
+/// byte; so does the byte \xA7, since a mark is one mark however it is written.
 bool textMatches(std::string_view directive, std::string_view actual);
 /// The same for a text inside another.
 bool textContained(std::string_view directive, std::string_view actual);

@@ -1,7 +1,8 @@
 #include "game_plugin/scenario/Log.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ListOut.h"
-#include "game_plugin/scenario/shared/Reflection.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/lists/ListOut.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
+#include "game_plugin/scenario/world/Reflection.h"
 
 namespace script {
 
@@ -11,10 +12,10 @@ struct ActivateComponentEffect : DefaultEffect {
   bool activate = true;
 };
 
-static void read(ActivateComponentEffect& effect, const Tokens& tokens) {
-  effect.component = readStringParameter(tokens, 1, "no_component", "Component", "Class name of the component");
-  effect.entityList = readStringParameter(tokens, 2, "empty_list", "EntityList", "Entities that have it");
-  effect.activate = readBoolParameter(tokens, 3, true, "ActivateComponent", "true activates it, false deactivates it");
+static void read(ActivateComponentEffect& effect, ParameterReader& in) {
+  effect.component = in.component(1, "no_component", "Component", "Class name of the component");
+  effect.entityList = in.list(2, "empty_list", "EntityList", "Entities that have it");
+  effect.activate = in.flag(3, true, "ActivateComponent", "true activates it, false deactivates it");
 }
 
 static void run(const ActivateComponentEffect& effect, ScenarioHandler& handler) {

@@ -1,6 +1,7 @@
 #include "game_plugin/scenario/Log.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ListOut.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/lists/ListOut.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include "qsf/component/Component.h"
 
@@ -9,14 +10,17 @@
 namespace script {
 
 struct CreateComponentByIdEffect : DefaultEffect {
+  static constexpr std::string_view ODDITIES[] = {
+      "ComponentName is not the name of a class but the hash of that name, in decimal.",
+  };
+
   Argument entityList;
   Argument componentId; ///< hash of the component's class name, in decimal
 };
 
-static void read(CreateComponentByIdEffect& effect, const Tokens& tokens) {
-  effect.entityList =
-      readStringParameter(tokens, 1, "no_list", "EntityList", "Entity or entityList, which should be affected");
-  effect.componentId = readStringParameter(tokens, 2, "no_component", "ComponentName", "Id of component");
+static void read(CreateComponentByIdEffect& effect, ParameterReader& in) {
+  effect.entityList = in.list(1, "no_list", "EntityList", "Entity or entityList, which should be affected");
+  effect.componentId = in.raw(2, "no_component", "ComponentName", "Id of component");
 }
 
 static void run(const CreateComponentByIdEffect& effect, ScenarioHandler& handler) {

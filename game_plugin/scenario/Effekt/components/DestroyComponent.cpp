@@ -1,17 +1,21 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ComponentWalk.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/components/ComponentWalk.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 namespace script {
 
 struct DestroyComponentEffect : DefaultEffect {
+  static constexpr std::string_view ODDITIES[] = {
+      "Each run logs the name of the component, also if nothing is destroyed.",
+  };
+
   Argument entityList;
   Argument component;
 };
 
-static void read(DestroyComponentEffect& effect, const Tokens& tokens) {
-  effect.entityList = readStringParameter(tokens, 1, "no_list", "EntityList", "Entities whose component is destroyed");
-  effect.component =
-      readStringParameter(tokens, 2, "em5::MoveToDespawnComponent", "ComponentName", "Class name of the component");
+static void read(DestroyComponentEffect& effect, ParameterReader& in) {
+  effect.entityList = in.list(1, "no_list", "EntityList", "Entities whose component is destroyed");
+  effect.component = in.component(2, "em5::MoveToDespawnComponent", "ComponentName", "Class name of the component");
 }
 
 static void run(const DestroyComponentEffect& effect, ScenarioHandler& handler) {

@@ -1,18 +1,24 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ComponentWalk.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/components/ComponentWalk.h"
 
 #include <camp/class.hpp>
 
 namespace script {
 
 struct LogAllComponentPropertiesEffect : DefaultEffect {
+  static constexpr std::string_view ODDITIES[] = {
+      "The first parameter is called Component as well, but takes the entities.",
+      "The default of the second parameter names no component: the class is called qsf::MetadataComponent.",
+      "A missing component is logged in the words of LogComponentValue.",
+  };
+
   Argument entityList;
   Argument component;
 };
 
-static void read(LogAllComponentPropertiesEffect& effect, const Tokens& tokens) {
-  effect.entityList = readStringParameter(tokens, 1, "no_list", "Component", "Units which has the Component");
-  effect.component = readStringParameter(tokens, 2, "qsf::MetaDataComponent", "Component", "The name of the Component");
+static void read(LogAllComponentPropertiesEffect& effect, ParameterReader& in) {
+  effect.entityList = in.list(1, "no_list", "Component", "Units which has the Component");
+  effect.component = in.component(2, "qsf::MetaDataComponent", "Component", "The name of the Component");
 }
 
 static void logProperties(const camp::UserObject& object, const std::string& className) {
@@ -23,7 +29,7 @@ static void logProperties(const camp::UserObject& object, const std::string& cla
     const camp::Property& property = metaclass.property(i);
     logInfo("Property with the id " + std::to_string(i) + " is called " + property.name());
     // An empty array, for one, has no value to show; its line is left out.
-    tryReflected([&] { logInfo("Value is: " + property.get(object).to<std::string>()); });
+    tryReflected([&] { logInfo("Value is: " + property.get(object).to<std::string>()); }, [](const std::string&) {});
   }
 }
 
@@ -31,7 +37,7 @@ static void run(const LogAllComponentPropertiesEffect& effect, ScenarioHandler& 
   const std::string& className = effect.component.text();
   forEachComponent(handler, effect.entityList, className, reportMissing("LogComponentValue", className),
                    [&](const qsf::Entity&, qsf::Component& component) {
-                     tryReflected([&] { logProperties(reflect(component), className); });
+                     tryReflected([&] { logProperties(reflect(component), className); }, [](const std::string&) {});
                    });
 }
 

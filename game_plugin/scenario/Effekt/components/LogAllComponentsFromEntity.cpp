@@ -1,16 +1,20 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ComponentWalk.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/components/ComponentWalk.h"
 
 #include <camp/class.hpp>
 
 namespace script {
 
 struct LogAllComponentsFromEntityEffect : DefaultEffect {
+  static constexpr std::string_view ODDITIES[] = {
+      "The parameter is called Component, but takes the entities.",
+  };
+
   Argument entityList;
 };
 
-static void read(LogAllComponentsFromEntityEffect& effect, const Tokens& tokens) {
-  effect.entityList = readStringParameter(tokens, 1, "no_list", "Component", "Units which has the Component");
+static void read(LogAllComponentsFromEntityEffect& effect, ParameterReader& in) {
+  effect.entityList = in.list(1, "no_list", "Component", "Units which has the Component");
 }
 
 static void run(const LogAllComponentsFromEntityEffect& effect, ScenarioHandler& handler) {

@@ -1,22 +1,27 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ComponentWalk.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/components/ComponentWalk.h"
 
 namespace script {
 
 struct LogComponentArrayValueEffect : DefaultEffect {
+  static constexpr std::string_view ODDITIES[] = {
+      "The first parameter is called Component as well, but takes the entities.",
+      "The array isn't read, and nothing is logged of an entity that has the component; WriteArrayEntriesIntoTheLog "
+      "shows an array.",
+      "A missing component is logged in the words of LogComponentValue.",
+  };
+
   Argument entityList;
   Argument component;
   Argument property;
 };
 
-static void read(LogComponentArrayValueEffect& effect, const Tokens& tokens) {
-  effect.entityList = readStringParameter(tokens, 1, "no_list", "Component", "Units which shall be checked");
-  effect.component = readStringParameter(tokens, 2, "no_list", "Component", "The name of the Component");
-  effect.property = readStringParameter(tokens, 3, "no_list", "Property", "a property <-> an example is \"Lights\"");
+static void read(LogComponentArrayValueEffect& effect, ParameterReader& in) {
+  effect.entityList = in.list(1, "no_list", "Component", "Units which shall be checked");
+  effect.component = in.component(2, "no_list", "Component", "The name of the Component");
+  effect.property = in.unused(3, "no_list", "Property", "a property <-> an example is \"Lights\"");
 }
 
-/// Kept: the array isn't read and nothing is logged on success. Scripts use the entry as a test for a missing
-/// component; WriteArrayEntriesIntoTheLog shows an array.
 static void run(const LogComponentArrayValueEffect& effect, ScenarioHandler& handler) {
   const std::string& className = effect.component.text();
   forEachComponent(handler, effect.entityList, className, reportMissing("LogComponentValue", className),

@@ -1,18 +1,23 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ComponentWalk.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/components/ComponentWalk.h"
 
 namespace script {
 
 struct LogComponentValueEffect : DefaultEffect {
+  static constexpr std::string_view ODDITIES[] = {
+      "The first parameter is called Component as well, but takes the entities.",
+      "A property that doesn't exist is passed over without a message, though the description promises one.",
+  };
+
   Argument entityList;
   Argument component;
   Argument property;
 };
 
-static void read(LogComponentValueEffect& effect, const Tokens& tokens) {
-  effect.entityList = readStringParameter(tokens, 1, "no_list", "Component", "Units which shall be checked");
-  effect.component = readStringParameter(tokens, 2, "no_list", "Component", "The name of the Component");
-  effect.property = readStringParameter(tokens, 3, "no_list", "Variable", "a property <-> an example is \"Active\"");
+static void read(LogComponentValueEffect& effect, ParameterReader& in) {
+  effect.entityList = in.list(1, "no_list", "Component", "Units which shall be checked");
+  effect.component = in.component(2, "no_list", "Component", "The name of the Component");
+  effect.property = in.property(3, 2, "no_list", "Variable", "a property <-> an example is \"Active\"");
 }
 
 static void run(const LogComponentValueEffect& effect, ScenarioHandler& handler) {
@@ -21,7 +26,7 @@ static void run(const LogComponentValueEffect& effect, ScenarioHandler& handler)
   forEachComponent(
       handler, effect.entityList, className, reportMissing("LogComponentValue", className),
       [&](const qsf::Entity& entity, qsf::Component& component) {
-        tryReflected([&] {
+        tryReflected(component, property, [&] {
           logInfo(describeValue("LogComponentValue", entity, className, property, readAsText(component, property)));
         });
       });

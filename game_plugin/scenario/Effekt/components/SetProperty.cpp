@@ -1,20 +1,27 @@
 #include "game_plugin/scenario/language/TextConversion.h"
-#include "game_plugin/scenario/shared/SetPropertyOfAll.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/components/SetPropertyOfAll.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include <optional>
 
 namespace script {
 
-struct SetPropertyEffect : SetPropertyOfAllEffect {};
+struct SetPropertyEffect : SetPropertyOfAllEffect {
+  static constexpr std::string_view ODDITIES[] = {
+      "A value that is the name of a variable or a list stands for what that holds: the script's numbers, texts, bools "
+      "and lists are searched in this order, then the global numbers and texts.",
+      "A reference such as svar(name) isn't resolved; the plain name is enough.",
+      "A list is written as its ids with slashes between them.",
+  };
+};
 
-static void read(SetPropertyEffect& effect, const Tokens& tokens) {
-  effect.entityList =
-      readStringParameter(tokens, 1, "no_list", "EntityList", "Entity or entityList, which should be affected");
-  effect.component =
-      readStringParameter(tokens, 2, "no_component", "ComponentName", "Which component should be affected");
+static void read(SetPropertyEffect& effect, ParameterReader& in) {
+  effect.entityList = in.list(1, "no_list", "EntityList", "Entity or entityList, which should be affected");
+  effect.component = in.component(2, "no_component", "ComponentName", "Which component should be affected");
   effect.property =
-      readStringParameter(tokens, 3, "property_name", "Property", "Which property of the component should be affected");
-  effect.value = readStringParameter(tokens, 4, "no_value", "Value", "Which value should be used for the property");
+      in.property(3, 2, "property_name", "Property", "Which property of the component should be affected");
+  effect.value = in.raw(4, "no_value", "Value", "Which value should be used for the property");
 }
 
 static std::string valueText(float value) { return floatToText(value); }
@@ -35,8 +42,7 @@ template <class Value> static std::optional<std::string> findIn(const Store<Valu
   return valueText(store.value(index));
 }
 
-/// The value of the first store entry of that name, in an order that scripts rely on; without one, the name itself. A
-/// variable that is called like a literal thus changes what the line means.
+/// The value of the first store entry of that name; without one, the name itself.
 static std::string findValue(const ScenarioHandler& handler, const std::string& name) {
   const GlobalStores& global = handler.GetGlobalStores();
   if (auto text = findIn(handler.variables, name)) return *text;

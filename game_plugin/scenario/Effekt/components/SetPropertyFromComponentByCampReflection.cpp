@@ -1,17 +1,15 @@
-#include "game_plugin/scenario/shared/SetPropertyOfAll.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/components/SetPropertyOfAll.h"
 
 namespace script {
 
 struct SetPropertyFromComponentByCampReflectionEffect : SetPropertyOfAllEffect {};
 
-static void read(SetPropertyFromComponentByCampReflectionEffect& effect, const Tokens& tokens) {
-  effect.entityList =
-      readStringParameter(tokens, 1, "no_list", "EntityList", "Entity or entityList, which should be affected");
-  effect.component =
-      readStringParameter(tokens, 2, "no_component", "ComponentName", "Which component should be affected");
-  effect.property =
-      readStringParameter(tokens, 3, "no_var", "Variable", "Which variable of the component should be affected");
-  effect.value = readStringParameter(tokens, 4, "no_value", "Value", "Which value should be used for the variable");
+static void read(SetPropertyFromComponentByCampReflectionEffect& effect, ParameterReader& in) {
+  effect.entityList = in.list(1, "no_list", "EntityList", "Entity or entityList, which should be affected");
+  effect.component = in.component(2, "no_component", "ComponentName", "Which component should be affected");
+  effect.property = in.property(3, 2, "no_var", "Variable", "Which variable of the component should be affected");
+  effect.value = in.text(4, "no_value", "Value", "Which value should be used for the variable");
 }
 
 static void run(const SetPropertyFromComponentByCampReflectionEffect& effect, ScenarioHandler& handler) {

@@ -1,21 +1,26 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ComponentWalk.h"
-#include "game_plugin/scenario/shared/Placeholder.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/components/ComponentWalk.h"
+#include "game_plugin/scenario/shared/parameters/Placeholder.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 namespace script {
 
 struct SetVariableFromComponentEffect : DefaultEffect {
+  static constexpr std::string_view ODDITIES[] = {
+      "In spite of its name it sets a property of the component; no variable of the script changes.",
+  };
+
   Argument entityList;
   Argument component;
   Argument variable;
   Argument value;
 };
 
-static void read(SetVariableFromComponentEffect& effect, const Tokens& tokens) {
-  effect.entityList = readStringParameter(tokens, 1, "no_list", "EntityList", "Entities that have the component");
-  effect.component = readStringParameter(tokens, 2, "no_component", "ComponentName", "Class name of the component");
-  effect.variable = readStringParameter(tokens, 3, "no_var", "Variable", "Property of the component");
-  effect.value = readStringParameter(tokens, 4, "no_value", "Value", "The new value");
+static void read(SetVariableFromComponentEffect& effect, ParameterReader& in) {
+  effect.entityList = in.list(1, "no_list", "EntityList", "Entities that have the component");
+  effect.component = in.component(2, "no_component", "ComponentName", "Class name of the component");
+  effect.variable = in.property(3, 2, "no_var", "Variable", "Property of the component");
+  effect.value = in.text(4, "no_value", "Value", "The new value");
 }
 
 static void run(const SetVariableFromComponentEffect& effect, ScenarioHandler& handler) {

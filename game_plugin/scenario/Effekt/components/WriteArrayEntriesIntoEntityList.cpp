@@ -1,10 +1,15 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ArrayAccess.h"
-#include "game_plugin/scenario/shared/ComponentWalk.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/components/ComponentWalk.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
+#include "game_plugin/scenario/world/ArrayAccess.h"
 
 namespace script {
 
 struct WriteArrayEntriesIntoEntityListEffect : DefaultEffect {
+  static constexpr std::string_view ODDITIES[] = {
+      "If the out list is emptied, that happens before the in list is read: one name for both gives an empty list.",
+  };
+
   Argument entityList;
   Argument component;
   Argument property;
@@ -12,25 +17,20 @@ struct WriteArrayEntriesIntoEntityListEffect : DefaultEffect {
   Argument entityListOut;
 };
 
-static void read(WriteArrayEntriesIntoEntityListEffect& effect, const Tokens& tokens) {
-  effect.entityList =
-      readStringParameter(tokens, 1, "no_list", "EntityList", "Entity or entityList, which should be affected");
-  effect.component =
-      readStringParameter(tokens, 2, "no_component", "ComponentName", "Which component should be affected");
-  effect.property = readStringParameter(tokens, 3, "property_name", "Property",
-                                        "How is the property called where you want to read from");
-  effect.clearListBefore =
-      readBoolParameter(tokens, 4, true, "Clear EntityList[out]", "Shall the EntityList[out] be cleared before?");
-  effect.entityListOut =
-      readStringParameter(tokens, 5, "no_list", "EntityList[out]", "Entity or entityList, which should be affected");
+static void read(WriteArrayEntriesIntoEntityListEffect& effect, ParameterReader& in) {
+  effect.entityList = in.list(1, "no_list", "EntityList", "Entity or entityList, which should be affected");
+  effect.component = in.component(2, "no_component", "ComponentName", "Which component should be affected");
+  effect.property =
+      in.property(3, 2, "property_name", "Property", "How is the property called where you want to read from");
+  effect.clearListBefore = in.flag(4, true, "Clear EntityList[out]", "Shall the EntityList[out] be cleared before?");
+  effect.entityListOut = in.listOut(5, "no_list", "EntityList[out]", "Entity or entityList, which should be affected");
 }
 
 static void run(const WriteArrayEntriesIntoEntityListEffect& effect, ScenarioHandler& handler) {
-  // Kept: the out list is cleared before the in list is read, so one name for both walks over nothing.
   if (effect.clearListBefore) handler.ClearEntityList(effect.entityListOut);
   forEachComponent(handler, effect.entityList, effect.component.text(), passOver,
                    [&](const qsf::Entity&, qsf::Component& component) {
-                     tryReflected([&] {
+                     tryReflected(component, effect.property, [&] {
                        const camp::UserObject object = reflect(component);
                        const camp::ArrayProperty& array = requireArrayProperty(object, effect.property.text());
                        for (std::size_t i = 0; i < array.size(object); ++i)

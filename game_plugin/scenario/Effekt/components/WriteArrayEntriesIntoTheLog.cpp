@@ -1,6 +1,6 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ArrayAccess.h"
-#include "game_plugin/scenario/shared/ComponentWalk.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/components/ComponentWalk.h"
+#include "game_plugin/scenario/world/ArrayAccess.h"
 
 namespace script {
 
@@ -10,19 +10,16 @@ struct WriteArrayEntriesIntoTheLogEffect : DefaultEffect {
   Argument property;
 };
 
-static void read(WriteArrayEntriesIntoTheLogEffect& effect, const Tokens& tokens) {
-  effect.entityList =
-      readStringParameter(tokens, 1, "no_list", "EntityList", "Entity or entityList, which should be affected");
-  effect.component =
-      readStringParameter(tokens, 2, "no_component", "ComponentName", "Which component should be affected");
-  effect.property =
-      readStringParameter(tokens, 3, "no_var", "Property", "Which Property of the component should be affected");
+static void read(WriteArrayEntriesIntoTheLogEffect& effect, ParameterReader& in) {
+  effect.entityList = in.list(1, "no_list", "EntityList", "Entity or entityList, which should be affected");
+  effect.component = in.component(2, "no_component", "ComponentName", "Which component should be affected");
+  effect.property = in.property(3, 2, "no_var", "Property", "Which Property of the component should be affected");
 }
 
 static void run(const WriteArrayEntriesIntoTheLogEffect& effect, ScenarioHandler& handler) {
   forEachComponent(handler, effect.entityList, effect.component.text(), passOver,
                    [&](const qsf::Entity&, qsf::Component& component) {
-                     tryReflected([&] {
+                     tryReflected(component, effect.property, [&] {
                        const camp::UserObject object = reflect(component);
                        const camp::ArrayProperty& array = requireArrayProperty(object, effect.property.text());
                        for (std::size_t i = 0; i < array.size(object); ++i)

@@ -1,9 +1,14 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ComponentWalk.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/components/ComponentWalk.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 namespace script {
 
 struct WriteComponentPropertyToStringvarEffect : DefaultEffect {
+  static constexpr std::string_view ODDITIES[] = {
+      "Of several entities the value of the last one stays.",
+  };
+
   Argument entityList;
   Argument component;
   Argument property;
@@ -11,15 +16,13 @@ struct WriteComponentPropertyToStringvarEffect : DefaultEffect {
   bool writeLogEntry = false;
 };
 
-static void read(WriteComponentPropertyToStringvarEffect& effect, const Tokens& tokens) {
-  effect.entityList = readStringParameter(tokens, 1, "no_list", "EntityList", "Units which shall be checked");
-  effect.component = readStringParameter(tokens, 2, "no_list", "Component", "The name of the Component");
-  effect.property =
-      readStringParameter(tokens, 3, "Active", "Property", "The name of the property from which you want to read");
-  effect.stringVariable = readStringParameter(tokens, 4, "no_list", "StringVar", "The name of the stringvar");
-  effect.writeLogEntry =
-      readBoolParameter(tokens, 5, false, "WriteLogEntry",
-                        "If true it will write a log entry with the current value of the readed property");
+static void read(WriteComponentPropertyToStringvarEffect& effect, ParameterReader& in) {
+  effect.entityList = in.list(1, "no_list", "EntityList", "Units which shall be checked");
+  effect.component = in.component(2, "no_list", "Component", "The name of the Component");
+  effect.property = in.property(3, 2, "Active", "Property", "The name of the property from which you want to read");
+  effect.stringVariable = in.stringVariableOut(4, "no_list", "StringVar", "The name of the stringvar");
+  effect.writeLogEntry = in.flag(5, false, "WriteLogEntry",
+                                 "If true it will write a log entry with the current value of the readed property");
 }
 
 static void run(const WriteComponentPropertyToStringvarEffect& effect, ScenarioHandler& handler) {
@@ -32,11 +35,11 @@ static void run(const WriteComponentPropertyToStringvarEffect& effect, ScenarioH
         if (effect.writeLogEntry) report(entity);
       },
       [&](const qsf::Entity& entity, qsf::Component& component) {
-        tryReflected([&] {
+        tryReflected(component, property, [&] {
           const std::string value = readAsText(component, property);
           if (effect.writeLogEntry)
             logInfo(describeValue("WriteComponentPropertyToStringvar", entity, className, property, value));
-          handler.SetStringVariable(effect.stringVariable, value); // of several entities the last one stays
+          handler.SetStringVariable(effect.stringVariable, value);
         });
       });
 }

@@ -1,10 +1,17 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ArrayAccess.h"
-#include "game_plugin/scenario/shared/ComponentWalk.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/components/ComponentWalk.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
+#include "game_plugin/scenario/world/ArrayAccess.h"
 
 namespace script {
 
 struct writeComponentPropertyToEntityListEffect : DefaultEffect {
+  static constexpr std::string_view ODDITIES[] = {
+      "The name begins with a small letter, and scripts have to write it so.",
+      "The ids are taken as the property holds them, whether such entities exist or not.",
+      "A missing component is logged in the words of WriteComponentPropertyToStringvar.",
+  };
+
   Argument entityList;
   Argument component;
   Argument property;
@@ -12,18 +19,14 @@ struct writeComponentPropertyToEntityListEffect : DefaultEffect {
   bool clearListBefore = false;
 };
 
-static void read(writeComponentPropertyToEntityListEffect& effect, const Tokens& tokens) {
-  effect.entityList = readStringParameter(tokens, 1, "no_list", "EntityList", "Units which shall be checked");
-  effect.component = readStringParameter(tokens, 2, "no_list", "Component", "The name of the Component");
-  effect.property =
-      readStringParameter(tokens, 3, "Active", "Property", "The name of the property from which you want to read");
-  effect.entityListOut =
-      readStringParameter(tokens, 4, "no_list", "EntityList[out]", "The name of the returned entitylist");
-  effect.clearListBefore =
-      readBoolParameter(tokens, 5, false, "ClearListBefore", "If true it will write the entries into a new list");
+static void read(writeComponentPropertyToEntityListEffect& effect, ParameterReader& in) {
+  effect.entityList = in.list(1, "no_list", "EntityList", "Units which shall be checked");
+  effect.component = in.component(2, "no_list", "Component", "The name of the Component");
+  effect.property = in.property(3, 2, "Active", "Property", "The name of the property from which you want to read");
+  effect.entityListOut = in.listOut(4, "no_list", "EntityList[out]", "The name of the returned entitylist");
+  effect.clearListBefore = in.flag(5, false, "ClearListBefore", "If true it will write the entries into a new list");
 }
 
-/// Takes what the property says, whether entities of these ids exist or not.
 static void addIds(const writeComponentPropertyToEntityListEffect& effect, ScenarioHandler& handler,
                    const camp::UserObject& object) {
   if (const camp::ArrayProperty* array = findArrayProperty(object, effect.property.text())) {
@@ -40,11 +43,10 @@ static void run(const writeComponentPropertyToEntityListEffect& effect, Scenario
   if (effect.clearListBefore) handler.ClearEntityList(effect.entityListOut);
   forEachComponent(ids, className, reportMissing("WriteComponentPropertyToStringvar", className),
                    [&](const qsf::Entity&, qsf::Component& component) {
-                     tryReflected([&] { addIds(effect, handler, reflect(component)); });
+                     tryReflected(component, effect.property, [&] { addIds(effect, handler, reflect(component)); });
                    });
 }
 
-// The name begins with a small letter, and scripts write it so.
 EFFECT(writeComponentPropertyToEntityList, "Components",
        "Reads a component value and insert it into the entitylist. Supports array properties")
 

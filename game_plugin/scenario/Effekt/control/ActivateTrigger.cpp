@@ -1,5 +1,5 @@
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 namespace script {
 
@@ -8,9 +8,9 @@ struct ActivateTriggerEffect : DefaultEffect {
   bool enable = false;
 };
 
-static void read(ActivateTriggerEffect& effect, const Tokens& tokens) {
-  effect.triggerName = readStringParameter(tokens, 1, "Trigger_1", "Trigger Name", "Local name of the trigger");
-  effect.enable = readBoolParameter(tokens, 2, false, "Enable", "true switches the trigger on, false off");
+static void read(ActivateTriggerEffect& effect, ParameterReader& in) {
+  effect.triggerName = in.trigger(1, "Trigger_1", "Trigger Name", "Local name of the trigger");
+  effect.enable = in.flag(2, false, "Enable", "true switches the trigger on, false off");
 }
 
 static void run(const ActivateTriggerEffect& effect, ScenarioHandler& handler) {

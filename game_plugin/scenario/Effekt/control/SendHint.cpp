@@ -1,16 +1,16 @@
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include "em5/gui/HintHelper.h"
 
 namespace script {
 
 struct SendHintEffect : DefaultEffect {
-  Argument message = "Message";
+  Argument message;
 };
 
-static void read(SendHintEffect& effect, const Tokens& tokens) {
-  effect.message = readStringParameter(tokens, 1, "", "Hint", "Message which will be displayed.");
+static void read(SendHintEffect& effect, ParameterReader& in) {
+  effect.message = in.text(1, "", "Hint", "Message which will be displayed.");
 }
 
 static void run(const SendHintEffect& effect, ScenarioHandler& handler) {

@@ -1,5 +1,4 @@
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
 
 #include "em5/gui/EmergencyGui.h"
 
@@ -9,8 +8,8 @@ struct ShowDebuggingGuiEffect : DefaultEffect {
   bool visible = true;
 };
 
-static void read(ShowDebuggingGuiEffect& effect, const Tokens& tokens) {
-  effect.visible = readBoolParameter(tokens, 1, true, "", "true-> gui will be shown\nfalse->gui will be hidden");
+static void read(ShowDebuggingGuiEffect& effect, ParameterReader& in) {
+  effect.visible = in.flag(1, true, "", "true-> gui will be shown\nfalse->gui will be hidden");
 }
 
 static void run(const ShowDebuggingGuiEffect& effect, ScenarioHandler& /*handler*/) {

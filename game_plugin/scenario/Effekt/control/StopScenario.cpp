@@ -1,16 +1,22 @@
 #include "game_plugin/scenario/Log.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
 #include "game_plugin/scenario/lifecycle/MapScriptManager.h"
 #include "game_plugin/scenario/lifecycle/ReadableFile.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 namespace script {
 
 struct StopScenarioEffect : DefaultEffect {
+  static constexpr std::string_view ODDITIES[] = {
+      "Of two scripts of that path that follow each other in the list the second is skipped and goes on.",
+      "The path must be written exactly as it was when the script was started, and the file must still exist.",
+  };
+
   Argument scenarioFile;
 };
 
-static void read(StopScenarioEffect& effect, const Tokens& tokens) {
-  effect.scenarioFile = readStringParameter(tokens, 1, "no_file", "ScenrarioFile", "Path of the script file");
+static void read(StopScenarioEffect& effect, ParameterReader& in) {
+  effect.scenarioFile = in.of(ParameterRole::Script, 1, "no_file", "ScenrarioFile", "Path of the script file");
 }
 
 static void run(const StopScenarioEffect& effect, ScenarioHandler& handler) {

@@ -1,6 +1,5 @@
 #include "game_plugin/scenario/Log.h"
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
 
 #include "em5/freeplay/FreeplaySystem.h"
 #include "em5/plugin/Plugin.h"
@@ -11,9 +10,9 @@ struct AddFreeplayEventPoolEffect : DefaultEffect {
   Argument eventPool;
 };
 
-static void read(AddFreeplayEventPoolEffect& effect, const Tokens& tokens) {
-  effect.eventPool = readStringParameter(tokens, 1, "em5/em5_eventpool/worldevents/MY_CUSTOM_WORLDEVENTPOOL",
-                                         "Evenpool", "Local asset name of the event pool");
+static void read(AddFreeplayEventPoolEffect& effect, ParameterReader& in) {
+  effect.eventPool = in.raw(1, "em5/em5_eventpool/worldevents/MY_CUSTOM_WORLDEVENTPOOL", "Evenpool",
+                            "Local asset name of the event pool");
 }
 
 static void run(const AddFreeplayEventPoolEffect& effect, ScenarioHandler& /*handler*/) {

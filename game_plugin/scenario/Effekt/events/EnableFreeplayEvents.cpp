@@ -1,5 +1,4 @@
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
 
 #include "em5/settings/GameDebugGroup.h"
 
@@ -9,8 +8,8 @@ struct EnableFreeplayEventsEffect : DefaultEffect {
   bool enable = true;
 };
 
-static void read(EnableFreeplayEventsEffect& effect, const Tokens& tokens) {
-  effect.enable = readBoolParameter(tokens, 1, true, "Enable", "false stops the start of further freeplay events");
+static void read(EnableFreeplayEventsEffect& effect, ParameterReader& in) {
+  effect.enable = in.flag(1, true, "Enable", "false stops the start of further freeplay events");
 }
 
 static void run(const EnableFreeplayEventsEffect& effect, ScenarioHandler& /*handler*/) {

@@ -1,6 +1,6 @@
 #include "game_plugin/scenario/Log.h"
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include "em5/freeplay/FreeplaySystem.h"
 #include "em5/map/MapIdentifier.h"
@@ -9,15 +9,20 @@
 namespace script {
 
 struct StartEventEffect : DefaultEffect {
+  static constexpr std::string_view ODDITIES[] = {
+      "Each run also switches the season's event \"christmas\" over, on or off; the script's variable iki remembers "
+      "which is next.",
+      "Each run logs the seasonal events of three maps, with m1, m2 or m3 in front.",
+  };
+
   Argument definition;
   bool unlockEnd = false;
 };
 
-static void read(StartEventEffect& effect, const Tokens& tokens) {
+static void read(StartEventEffect& effect, ParameterReader& in) {
   effect.definition =
-      readStringParameter(tokens, 1, "EventDefinition", "Event Definition", "Path of the event's definition");
-  effect.unlockEnd =
-      readBoolParameter(tokens, 2, false, "Unlock Win and Loose - Ability", "true lets the event be won and lost");
+      in.of(ParameterRole::Event, 1, "EventDefinition", "Event Definition", "Path of the event's definition");
+  effect.unlockEnd = in.flag(2, false, "Unlock Win and Loose - Ability", "true lets the event be won and lost");
 }
 
 static void triggerEvent(const StartEventEffect& effect, ScenarioHandler& handler, em5::FreeplaySystem& freeplay) {
@@ -38,8 +43,6 @@ static void logSeasonalEvents(const char* prefix, const char* map) {
     logInfo(prefix + name);
 }
 
-/// Kept: each StartEvent of a script flips the Christmas event, which it remembers in the script's variable "iki";
-/// scripts switch the season with it.
 static void flipSeason(ScenarioHandler& handler, em5::FreeplayGameMode& gameMode) {
   static const std::string SWITCH = "iki";
   const bool enable = handler.ResolveFloat(SWITCH) == 0;

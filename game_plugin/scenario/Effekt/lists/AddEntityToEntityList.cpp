@@ -1,6 +1,7 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ListOut.h"
-#include "game_plugin/scenario/shared/Placeholder.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/lists/ListOut.h"
+#include "game_plugin/scenario/shared/parameters/Placeholder.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 namespace script {
 
@@ -9,11 +10,10 @@ struct AddEntityToEntityListEffect : DefaultEffect {
   Argument increased;
 };
 
-static void read(AddEntityToEntityListEffect& effect, const Tokens& tokens) {
-  effect.added = readStringParameter(tokens, 1, "no_list", "EntityList_WhichShouldBeAdded",
-                                     "Ids, or name of a list, whose entities are added");
-  effect.increased =
-      readStringParameter(tokens, 2, "no_list", "EntityList_WhichIsIncreased", "List that gets the entities");
+static void read(AddEntityToEntityListEffect& effect, ParameterReader& in) {
+  effect.added =
+      in.list(1, "no_list", "EntityList_WhichShouldBeAdded", "Ids, or name of a list, whose entities are added");
+  effect.increased = in.listOut(2, "no_list", "EntityList_WhichIsIncreased", "List that gets the entities");
 }
 
 static void run(const AddEntityToEntityListEffect& effect, ScenarioHandler& handler) {

@@ -1,6 +1,6 @@
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/Selection.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
+#include "game_plugin/scenario/world/Selection.h"
 
 namespace script {
 
@@ -9,10 +9,9 @@ struct AddSelectionToEntityIdListEffect : DefaultEffect {
   bool deleteOldEntities = false;
 };
 
-static void read(AddSelectionToEntityIdListEffect& effect, const Tokens& tokens) {
-  effect.entityList = readStringParameter(tokens, 1, "no_list", "EntityList", "List that gets the selected units");
-  effect.deleteOldEntities =
-      readBoolParameter(tokens, 2, false, "Delete old entities", "Empties the list before units are added");
+static void read(AddSelectionToEntityIdListEffect& effect, ParameterReader& in) {
+  effect.entityList = in.listOut(1, "no_list", "EntityList", "List that gets the selected units");
+  effect.deleteOldEntities = in.flag(2, false, "Delete old entities", "Empties the list before units are added");
 }
 
 static void run(const AddSelectionToEntityIdListEffect& effect, ScenarioHandler& handler) {

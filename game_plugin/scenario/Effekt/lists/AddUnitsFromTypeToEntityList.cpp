@@ -1,12 +1,19 @@
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
 #include "game_plugin/scenario/language/Truncation.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
+#include "game_plugin/scenario/world/UnitTypes.h"
 
 #include <algorithm>
 
 namespace script {
 
 struct AddUnitsFromTypeToEntityListEffect : DefaultEffect {
+  static constexpr std::string_view ODDITIES[] = {
+      "The default of UnitType is no unit type, as it lacks the final s: nothing is added, and each unit that is "
+      "looked at costs a line in the log.",
+      "CenterUnit is a plain id: it takes neither a list nor a variable.",
+  };
+
   Argument entityListOut;
   Argument unitType;
   bool deleteOldEntities = false;
@@ -15,20 +22,18 @@ struct AddUnitsFromTypeToEntityListEffect : DefaultEffect {
   Argument radius;
 };
 
-static void read(AddUnitsFromTypeToEntityListEffect& effect, const Tokens& tokens) {
-  effect.entityListOut = readStringParameter(tokens, 1, "no_list", "EntityList[out]", "List that gets the units");
-  // Kept: the default is no unit type, as it lacks the final "s".
-  effect.unitType = readStringParameter(tokens, 2, "PlayerVehicle", "UnitType",
-                                        "PlayerVehicles, PlayerPersons, Civilian, Tree, Building, ObjectBurning, "
-                                        "ObjectBurnable, Gangster or InjuredPersons");
-  effect.deleteOldEntities =
-      readBoolParameter(tokens, 3, false, "Delete old entities", "Empties the list before units are added");
-  effect.maximumNumber =
-      readStringParameter(tokens, 4, "1", "MaxNumber", "How many units shall be added, chosen at random");
-  effect.centerUnit = readUInt64Parameter(tokens, 5, ~std::uint64_t{0}, "CenterUnit",
-                                          "Id of the entity round which units are looked for; without such an entity "
-                                          "the whole map counts");
-  effect.radius = readStringParameter(tokens, 6, "200", "Radius", "How far from it units may be");
+static void read(AddUnitsFromTypeToEntityListEffect& effect, ParameterReader& in) {
+  effect.entityListOut = in.listOut(1, "no_list", "EntityList[out]", "List that gets the units");
+  effect.unitType = in.words(2, "PlayerVehicle", "UnitType",
+                             "PlayerVehicles, PlayerPersons, Civilian, Tree, Building, ObjectBurning, "
+                             "ObjectBurnable, Gangster or InjuredPersons",
+                             unitTypeWords());
+  effect.deleteOldEntities = in.flag(3, false, "Delete old entities", "Empties the list before units are added");
+  effect.maximumNumber = in.number(4, "1", "MaxNumber", "How many units shall be added, chosen at random");
+  effect.centerUnit = in.id(5, ~std::uint64_t{0}, "CenterUnit",
+                            "Id of the entity round which units are looked for; without such an entity "
+                            "the whole map counts");
+  effect.radius = in.number(6, "200", "Radius", "How far from it units may be");
 }
 
 static void run(const AddUnitsFromTypeToEntityListEffect& effect, ScenarioHandler& handler) {

@@ -1,6 +1,6 @@
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/Placeholder.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/parameters/Placeholder.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include "qsf/Qsf.h"
 #include "qsf/map/ComponentMapQuery.h"
@@ -8,15 +8,19 @@
 namespace script {
 
 struct GetAllEntitiesWithComponentEffect : DefaultEffect {
+  static constexpr std::string_view ODDITIES[] = {
+      "The list is emptied even if no component is named.",
+  };
+
   Argument entityList;
   Argument component;
   bool clearList = true;
 };
 
-static void read(GetAllEntitiesWithComponentEffect& effect, const Tokens& tokens) {
-  effect.entityList = readStringParameter(tokens, 1, "no_list", "EntityList", "List that gets the entities");
-  effect.component = readStringParameter(tokens, 2, "no_component", "ComponentName", "Class name of the component");
-  effect.clearList = readBoolParameter(tokens, 3, true, "ClearList", "Empties the list before entities are added");
+static void read(GetAllEntitiesWithComponentEffect& effect, ParameterReader& in) {
+  effect.entityList = in.listOut(1, "no_list", "EntityList", "List that gets the entities");
+  effect.component = in.component(2, "no_component", "ComponentName", "Class name of the component");
+  effect.clearList = in.flag(3, true, "ClearList", "Empties the list before entities are added");
 }
 
 static void run(const GetAllEntitiesWithComponentEffect& effect, ScenarioHandler& handler) {

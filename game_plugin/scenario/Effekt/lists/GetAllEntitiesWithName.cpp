@@ -1,5 +1,6 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/PlaceholderNames.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/lists/PlaceholderNames.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include "qsf/Qsf.h"
 #include "qsf/map/EntityMapQuery.h"
@@ -7,16 +8,20 @@
 namespace script {
 
 struct GetAllEntitiesWithNameEffect : DefaultEffect {
+  static constexpr std::string_view ODDITIES[] = {
+      "The test of its parameters stands the wrong way round: it works with the list no_list and the name no_name "
+      "only.",
+  };
+
   Argument entityList;
   Argument entityName;
   bool clearListBefore = true;
 };
 
-static void read(GetAllEntitiesWithNameEffect& effect, const Tokens& tokens) {
-  effect.entityList = readStringParameter(tokens, 1, "no_list", "EntityList", "List that gets the entities");
-  effect.entityName = readStringParameter(tokens, 2, "no_name", "EntityName", "Name of the entities");
-  effect.clearListBefore =
-      readBoolParameter(tokens, 3, true, "ClearListBefore", "Empties the list before entities are added");
+static void read(GetAllEntitiesWithNameEffect& effect, ParameterReader& in) {
+  effect.entityList = in.listOut(1, "no_list", "EntityList", "List that gets the entities");
+  effect.entityName = in.text(2, "no_name", "EntityName", "Name of the entities");
+  effect.clearListBefore = in.flag(3, true, "ClearListBefore", "Empties the list before entities are added");
 }
 
 static void run(const GetAllEntitiesWithNameEffect& effect, ScenarioHandler& handler) {

@@ -1,7 +1,7 @@
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/Placeholder.h"
-#include "game_plugin/scenario/shared/RemainingIds.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/parameters/Placeholder.h"
+#include "game_plugin/scenario/stores/RemainingIds.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -9,15 +9,20 @@
 namespace script {
 
 struct GetEntitiesOutOfEntityListEffect : DefaultEffect {
+  static constexpr std::string_view ODDITIES[] = {
+      "The draws are the same in every run of the game.",
+      "It is called GetNumberOfEntitiesOutOfEntityListEffect in the log.",
+  };
+
   Argument entityList;
   int number = -1;
 };
 
-static void read(GetEntitiesOutOfEntityListEffect& effect, const Tokens& tokens) {
-  effect.entityList = readStringParameter(tokens, 1, "no_list", "EntityList", "Name of the list");
-  effect.number = readIntParameter(tokens, 2, -1, "Number",
-                                   "How many entities stay in the list, chosen at random. -1 "
-                                   "leaves the list as it is");
+static void read(GetEntitiesOutOfEntityListEffect& effect, ParameterReader& in) {
+  effect.entityList = in.listInOut(1, "no_list", "EntityList", "Name of the list");
+  effect.number = in.integer(2, -1, "Number",
+                             "How many entities stay in the list, chosen at random. -1 "
+                             "leaves the list as it is");
 }
 
 static void run(const GetEntitiesOutOfEntityListEffect& effect, ScenarioHandler& handler) {
@@ -28,7 +33,6 @@ static void run(const GetEntitiesOutOfEntityListEffect& effect, ScenarioHandler&
   handler.ClearEntityList(effect.entityList);
   const int number = std::min(effect.number, static_cast<int>(left.size()));
   for (int i = 0; i < number; ++i) {
-    // Kept: the draws come from the C library, unseeded, and stay the same in every run of the game.
     const std::size_t drawn = static_cast<std::size_t>(std::rand()) % left.size();
     handler.AddToEntityList(effect.entityList, left.take(drawn));
   }

@@ -1,5 +1,6 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ListOut.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/lists/ListOut.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include "qsf/component/LinkComponent.h"
 #include "qsf/component/MetadataComponent.h"
@@ -13,15 +14,11 @@ struct GetEntityChildWithDescriptionEffect : DefaultEffect {
   bool clearListBefore = true;
 };
 
-static void read(GetEntityChildWithDescriptionEffect& effect, const Tokens& tokens) {
-  effect.entityList =
-      readStringParameter(tokens, 1, "no_list", "EntityList Caller", "Entities whose children are looked at");
-  effect.entityListOut =
-      readStringParameter(tokens, 2, "no_list", "EntityList Out", "List that gets the children; may be the same");
-  effect.description =
-      readStringParameter(tokens, 3, "no_descriotion", "Description", "Text that the child's description contains");
-  effect.clearListBefore =
-      readBoolParameter(tokens, 4, true, "ClearListBefore", "Empties the list before children are added");
+static void read(GetEntityChildWithDescriptionEffect& effect, ParameterReader& in) {
+  effect.entityList = in.list(1, "no_list", "EntityList Caller", "Entities whose children are looked at");
+  effect.entityListOut = in.listOut(2, "no_list", "EntityList Out", "List that gets the children; may be the same");
+  effect.description = in.raw(3, "no_descriotion", "Description", "Text that the child's description contains");
+  effect.clearListBefore = in.flag(4, true, "ClearListBefore", "Empties the list before children are added");
 }
 
 static void run(const GetEntityChildWithDescriptionEffect& effect, ScenarioHandler& handler) {

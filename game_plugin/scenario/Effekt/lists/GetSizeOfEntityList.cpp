@@ -1,5 +1,5 @@
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 namespace script {
 
@@ -8,10 +8,9 @@ struct GetSizeOfEntityListEffect : DefaultEffect {
   Argument countVariable;
 };
 
-static void read(GetSizeOfEntityListEffect& effect, const Tokens& tokens) {
-  effect.entityList = readStringParameter(tokens, 1, "no_list", "EntityList", "Ids, or name of a list");
-  effect.countVariable =
-      readStringParameter(tokens, 2, "no_var", "EntityCountVar", "Name of the variable that gets the size");
+static void read(GetSizeOfEntityListEffect& effect, ParameterReader& in) {
+  effect.entityList = in.list(1, "no_list", "EntityList", "Ids, or name of a list");
+  effect.countVariable = in.variableOut(2, "no_var", "EntityCountVar", "Name of the variable that gets the size");
 }
 
 static void run(const GetSizeOfEntityListEffect& effect, ScenarioHandler& handler) {

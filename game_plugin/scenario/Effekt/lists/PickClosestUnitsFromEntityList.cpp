@@ -1,9 +1,15 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ClosestSearch.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/lists/ClosestSearch.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 namespace script {
 
 struct PickClosestUnitsFromEntityListEffect : DefaultEffect {
+  static constexpr std::string_view ODDITIES[] = {
+      "A MaxNumber that is negative or has a fraction is never met, so that all units are picked.",
+      "A unit that is 999999 or more away is never picked.",
+  };
+
   Argument entityList;
   Argument newEntityList;
   bool clearNewList = true;
@@ -12,15 +18,12 @@ struct PickClosestUnitsFromEntityListEffect : DefaultEffect {
   bool addCenterToNewList = false; ///< for records made by tools; no parameter of a script sets it
 };
 
-static void read(PickClosestUnitsFromEntityListEffect& effect, const Tokens& tokens) {
-  effect.entityList = readStringParameter(tokens, 1, "no_list", "EntityList", "List from which units are picked");
-  effect.newEntityList =
-      readStringParameter(tokens, 2, "no_list", "NewEntityList", "List that gets the picked units; may be the same");
-  effect.clearNewList =
-      readBoolParameter(tokens, 3, true, "ClearNewList", "Empties the new list before units are added");
-  effect.maximumNumber = readStringParameter(tokens, 4, "1", "MaxNumber", "How many units shall be picked");
-  effect.centerUnit =
-      readStringParameter(tokens, 5, "empty_list", "Center Unit", "Unit to which the picked ones are closest");
+static void read(PickClosestUnitsFromEntityListEffect& effect, ParameterReader& in) {
+  effect.entityList = in.list(1, "no_list", "EntityList", "List from which units are picked");
+  effect.newEntityList = in.listOut(2, "no_list", "NewEntityList", "List that gets the picked units; may be the same");
+  effect.clearNewList = in.flag(3, true, "ClearNewList", "Empties the new list before units are added");
+  effect.maximumNumber = in.number(4, "1", "MaxNumber", "How many units shall be picked");
+  effect.centerUnit = in.list(5, "empty_list", "Center Unit", "Unit to which the picked ones are closest");
 }
 
 static void run(const PickClosestUnitsFromEntityListEffect& effect, ScenarioHandler& handler) {

@@ -1,8 +1,9 @@
 #include "game_plugin/scenario/Log.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ClosestSearch.h"
-#include "game_plugin/scenario/shared/PlaceTree.h"
-#include "game_plugin/scenario/shared/RemainingIds.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/lists/ClosestSearch.h"
+#include "game_plugin/scenario/stores/RemainingIds.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
+#include "game_plugin/scenario/world/PlaceTree.h"
 
 #include "qsf/base/Random.h"
 
@@ -12,6 +13,12 @@
 namespace script {
 
 struct PickUnitsFromEntityListEffect : DefaultEffect {
+  static constexpr std::string_view ODDITIES[] = {
+      "If as many units are wanted as there are, or more, all are picked, whatever the range.",
+      "A MaxNumber that is 0, negative or has a fraction is never met, so that all units are picked, after the message "
+      "that the range is too small.",
+  };
+
   Argument entityList;
   Argument newEntityList;
   bool clearNewListBefore = true;
@@ -19,15 +26,13 @@ struct PickUnitsFromEntityListEffect : DefaultEffect {
   Argument range;
 };
 
-static void read(PickUnitsFromEntityListEffect& effect, const Tokens& tokens) {
-  effect.entityList = readStringParameter(tokens, 1, "no_list", "EntityList", "List from which units are picked");
-  effect.newEntityList =
-      readStringParameter(tokens, 2, "no_list", "NewEntityList", "List that gets the picked units; may be the same");
-  effect.clearNewListBefore =
-      readBoolParameter(tokens, 3, true, "ClearNewListBefore", "Empties the new list before units are added");
-  effect.maximumNumber = readStringParameter(tokens, 4, "1", "MaxNumber", "How many units shall be picked");
-  effect.range = readStringParameter(tokens, 5, "9999999", "Range",
-                                     "All picked units are closer than this to one of them (100 are about 10 metres)");
+static void read(PickUnitsFromEntityListEffect& effect, ParameterReader& in) {
+  effect.entityList = in.list(1, "no_list", "EntityList", "List from which units are picked");
+  effect.newEntityList = in.listOut(2, "no_list", "NewEntityList", "List that gets the picked units; may be the same");
+  effect.clearNewListBefore = in.flag(3, true, "ClearNewListBefore", "Empties the new list before units are added");
+  effect.maximumNumber = in.number(4, "1", "MaxNumber", "How many units shall be picked");
+  effect.range = in.number(5, "9999999", "Range",
+                           "All picked units are closer than this to one of them (100 are about 10 metres)");
 }
 
 namespace {

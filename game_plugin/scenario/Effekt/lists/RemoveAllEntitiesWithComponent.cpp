@@ -1,16 +1,20 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/FilterByComponent.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/lists/FilterByComponent.h"
 
 namespace script {
 
 struct RemoveAllEntitiesWithComponentEffect : DefaultEffect {
+  static constexpr std::string_view ODDITIES[] = {
+      "Ids without an entity are removed, too.",
+  };
+
   Argument entityList;
   Argument component;
 };
 
-static void read(RemoveAllEntitiesWithComponentEffect& effect, const Tokens& tokens) {
-  effect.entityList = readStringParameter(tokens, 1, "no_list", "EntityList", "Name of the list");
-  effect.component = readStringParameter(tokens, 2, "no_component", "ComponentName", "Class name of the component");
+static void read(RemoveAllEntitiesWithComponentEffect& effect, ParameterReader& in) {
+  effect.entityList = in.listInOut(1, "no_list", "EntityList", "Name of the list");
+  effect.component = in.component(2, "no_component", "ComponentName", "Class name of the component");
 }
 
 static void run(const RemoveAllEntitiesWithComponentEffect& effect, ScenarioHandler& handler) {

@@ -1,17 +1,20 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/FilterByComponent.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/lists/FilterByComponent.h"
 
 namespace script {
 
 struct RemoveAllEntitiesWithoutComponentEffect : DefaultEffect {
+  static constexpr std::string_view ODDITIES[] = {
+      "A component that is left out isn't reported as missing: no entity has a no_comp, so that the list is emptied.",
+  };
+
   Argument entityList;
   Argument component;
 };
 
-static void read(RemoveAllEntitiesWithoutComponentEffect& effect, const Tokens& tokens) {
-  effect.entityList = readStringParameter(tokens, 1, "no_list", "EntityList", "Name of the list");
-  // Kept: the default isn't the placeholder "no_component" that is tested, so a component left out empties the list.
-  effect.component = readStringParameter(tokens, 2, "no_comp", "Component", "Class name of the component");
+static void read(RemoveAllEntitiesWithoutComponentEffect& effect, ParameterReader& in) {
+  effect.entityList = in.listInOut(1, "no_list", "EntityList", "Name of the list");
+  effect.component = in.component(2, "no_comp", "Component", "Class name of the component");
 }
 
 static void run(const RemoveAllEntitiesWithoutComponentEffect& effect, ScenarioHandler& handler) {

@@ -1,6 +1,6 @@
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/EntityAccess.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
+#include "game_plugin/scenario/world/EntityAccess.h"
 
 #include "em5/component/PersonComponent.h"
 #include "em5/map/EntityHelper.h"
@@ -13,8 +13,8 @@ struct RemoveInvalidEntitiesFromListEffect : DefaultEffect {
   Argument entityList;
 };
 
-static void read(RemoveInvalidEntitiesFromListEffect& effect, const Tokens& tokens) {
-  effect.entityList = readStringParameter(tokens, 1, "no_list", "EntityList", "Name of the list");
+static void read(RemoveInvalidEntitiesFromListEffect& effect, ParameterReader& in) {
+  effect.entityList = in.listInOut(1, "no_list", "EntityList", "Name of the list");
 }
 
 static bool isInvalid(qsf::Entity* entity) {

@@ -1,22 +1,24 @@
 #include "game_plugin/scenario/Log.h"
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 namespace script {
 
 struct SetLocalEntityListGlobalEffect : DefaultEffect {
+  static constexpr std::string_view ODDITIES[] = {
+      "A target without the global mark is a local list, and one that has the mark gets a second one: the reverse of "
+      "what SetLocalVariableGlobal does.",
+  };
+
   Argument localList;
   Argument globalList;
 };
 
-static void read(SetLocalEntityListGlobalEffect& effect, const Tokens& tokens) {
-  effect.localList = readStringParameter(tokens, 1, "no_list", "LocalEntiyList", "Name of the local list");
-  effect.globalList =
-      readStringParameter(tokens, 2, "no_listG", "GlobalEntiyList", "Target; by default the global list of that name");
+static void read(SetLocalEntityListGlobalEffect& effect, ParameterReader& in) {
+  effect.localList = in.listInOut(1, "no_list", "LocalEntiyList", "Name of the local list");
+  effect.globalList = in.listOut(2, "no_listG", "GlobalEntiyList", "Target; by default the global list of that name");
 }
 
-/// Kept: a name without the global mark stays local, and one that has it gets a second mark. It is the reverse of what
-/// SetLocalVariableGlobal does, and scripts read the lists under these names.
 static std::string targetName(const SetLocalEntityListGlobalEffect& effect, const ScenarioHandler& handler) {
   if (effect.globalList == "no_listG") return handler.GlobalMark() + effect.localList.text();
   if (!effect.globalList.info().isGlobal) return effect.globalList.text();

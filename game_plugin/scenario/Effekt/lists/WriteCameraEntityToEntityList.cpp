@@ -1,5 +1,5 @@
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include "qsf/component/CameraComponent.h"
 #include "qsf/window/RenderWindow.h"
@@ -11,9 +11,9 @@ struct WriteCameraEntityToEntityListEffect : DefaultEffect {
   Argument entityListOut;
 };
 
-static void read(WriteCameraEntityToEntityListEffect& effect, const Tokens& tokens) {
+static void read(WriteCameraEntityToEntityListEffect& effect, ParameterReader& in) {
   effect.entityListOut =
-      readStringParameter(tokens, 1, "no_list", "EntityListOut", "Outputs the entity which contains the PlayerCamera");
+      in.listOut(1, "no_list", "EntityListOut", "Outputs the entity which contains the PlayerCamera");
 }
 
 static void run(const WriteCameraEntityToEntityListEffect& effect, ScenarioHandler& handler) {

@@ -1,5 +1,5 @@
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include "qsf/Qsf.h"
 #include "qsf/map/Map.h"
@@ -10,9 +10,9 @@ struct WriteCoreEntityToEntityListEffect : DefaultEffect {
   Argument entityListOut;
 };
 
-static void read(WriteCoreEntityToEntityListEffect& effect, const Tokens& tokens) {
+static void read(WriteCoreEntityToEntityListEffect& effect, ParameterReader& in) {
   effect.entityListOut =
-      readStringParameter(tokens, 1, "no_list", "EntityListOut", "Outputs the entity which contains the PlayerCamera");
+      in.listOut(1, "no_list", "EntityListOut", "Outputs the entity which contains the PlayerCamera");
 }
 
 static void run(const WriteCoreEntityToEntityListEffect& effect, ScenarioHandler& handler) {

@@ -1,5 +1,6 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ListOut.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/lists/ListOut.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include "qsf/Qsf.h"
 #include "qsf/component/MovableComponent.h"
@@ -15,14 +16,18 @@
 namespace script {
 
 struct SetEntityPositionToPositionUnderMouseEffect : DefaultEffect {
+  static constexpr std::string_view ODDITIES[] = {
+      "The default of Precision is the name of a variable, which is 0 unless the script sets it.",
+  };
+
   Argument entityList;
   Argument precision;
 };
 
-static void read(SetEntityPositionToPositionUnderMouseEffect& effect, const Tokens& tokens) {
-  effect.entityList = readStringParameter(tokens, 1, "no_list", "EntityList", "Entities that follow the mouse");
-  effect.precision = readStringParameter(tokens, 2, "no_list", "Precision",
-                                         "Number or variable: entities that are no farther away stay where they are");
+static void read(SetEntityPositionToPositionUnderMouseEffect& effect, ParameterReader& in) {
+  effect.entityList = in.list(1, "no_list", "EntityList", "Entities that follow the mouse");
+  effect.precision =
+      in.number(2, "no_list", "Precision", "Number or variable: entities that are no farther away stay where they are");
 }
 
 /// The place on the ground that the mouse points at; nothing without a window.

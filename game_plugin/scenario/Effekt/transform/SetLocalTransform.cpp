@@ -1,13 +1,20 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ListOut.h"
-#include "game_plugin/scenario/shared/Placeholder.h"
-#include "game_plugin/scenario/shared/VectorArgument.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/lists/ListOut.h"
+#include "game_plugin/scenario/shared/parameters/Placeholder.h"
+#include "game_plugin/scenario/shared/parameters/VectorArgument.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include "qsf/component/LinkComponent.h"
 
 namespace script {
 
 struct SetLocalTransformEffect : DefaultEffect {
+  static constexpr std::string_view ODDITIES[] = {
+      "A position or rotation of fewer than three parts is a fault that ends the script's tick; more than three are "
+      "not looked at.",
+      "If the parent doesn't exist, position and rotation are set all the same.",
+  };
+
   Argument entityList;
   Argument parentEntity;
   bool setPosition = true;
@@ -16,14 +23,14 @@ struct SetLocalTransformEffect : DefaultEffect {
   Argument rotation;
 };
 
-static void read(SetLocalTransformEffect& effect, const Tokens& tokens) {
-  effect.entityList = readStringParameter(tokens, 1, "no_list", "EntityList", "Entities that become children");
-  effect.parentEntity = readStringParameter(tokens, 2, "no_list", "ParentEntity", "Entity below which they are linked");
-  effect.setPosition = readBoolParameter(tokens, 3, true, "SetPosition", "Sets the position relative to the parent");
-  effect.position = readStringParameter(tokens, 4, "0 0 0", "Position",
-                                        "x y z, each a number or a variable, or svar(name) of such a text");
-  effect.setRotation = readBoolParameter(tokens, 5, true, "SetRotation", "Sets the rotation relative to the parent");
-  effect.rotation = readStringParameter(tokens, 6, "0 0 0", "Rotation", "Angles x y z in degrees");
+static void read(SetLocalTransformEffect& effect, ParameterReader& in) {
+  effect.entityList = in.list(1, "no_list", "EntityList", "Entities that become children");
+  effect.parentEntity = in.list(2, "no_list", "ParentEntity", "Entity below which they are linked");
+  effect.setPosition = in.flag(3, true, "SetPosition", "Sets the position relative to the parent");
+  effect.position =
+      in.vector(4, "0 0 0", "Position", "x y z, each a number or a variable, or svar(name) of such a text");
+  effect.setRotation = in.flag(5, true, "SetRotation", "Sets the rotation relative to the parent");
+  effect.rotation = in.vector(6, "0 0 0", "Rotation", "Angles x y z in degrees");
 }
 
 static void attach(const SetLocalTransformEffect& effect, ScenarioHandler& handler, qsf::Entity& child) {
@@ -34,7 +41,6 @@ static void attach(const SetLocalTransformEffect& effect, ScenarioHandler& handl
     link->setParentId(parent->getId());
     link->setParentLinkType(0);
   }
-  // Fewer than three parts are a fault that ends the script's tick; more than three are not looked at.
   if (effect.setPosition) link->setLocalPosition(resolveParts(handler, splitParts(handler, effect.position)));
   if (effect.setRotation)
     link->setLocalRotation(rotationFromDegrees(resolveParts(handler, splitParts(handler, effect.rotation))));

@@ -1,13 +1,21 @@
 #include "game_plugin/scenario/Log.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/EntityAccess.h"
-#include "game_plugin/scenario/shared/VectorArgument.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/parameters/VectorArgument.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
+#include "game_plugin/scenario/world/EntityAccess.h"
 
 #include "qsf/component/TransformComponent.h"
 
 namespace script {
 
 struct SetTransformEffect : DefaultEffect {
+  static constexpr std::string_view ODDITIES[] = {
+      "A unit to copy from has no influence while it exists: the parameters apply; one that doesn't exist ends the "
+      "effect.",
+      "A position that can't be read costs three lines in the log for each entity, one of them in the words of "
+      "ExecuteCommand.",
+  };
+
   Argument entityList;
   bool setPosition = true;
   Argument position;
@@ -16,19 +24,18 @@ struct SetTransformEffect : DefaultEffect {
   Argument copiedUnit;
 };
 
-static void read(SetTransformEffect& effect, const Tokens& tokens) {
-  effect.entityList = readStringParameter(tokens, 1, "empty_list", "EntityList", "Entities to place");
-  effect.setPosition = readBoolParameter(tokens, 2, true, ".SetPosition", "Sets the position");
-  effect.position = readStringParameter(tokens, 3, "0 0 0", "Position",
-                                        "x y z, each a number or a variable, or svar(name) of such a text");
-  effect.setRotation = readBoolParameter(tokens, 4, false, "SetRotation", "Sets the rotation");
-  effect.rotation = readStringParameter(tokens, 5, "0 0 0", ".Rotation", "Angles x y z in degrees");
-  effect.copiedUnit = readStringParameter(tokens, 6, "", "CopyTransformationFromUnit",
-                                          "Has no influence while that unit exists. Without it, the effect ends");
+static void read(SetTransformEffect& effect, ParameterReader& in) {
+  effect.entityList = in.list(1, "empty_list", "EntityList", "Entities to place");
+  effect.setPosition = in.flag(2, true, ".SetPosition", "Sets the position");
+  effect.position =
+      in.vector(3, "0 0 0", "Position", "x y z, each a number or a variable, or svar(name) of such a text");
+  effect.setRotation = in.flag(4, false, "SetRotation", "Sets the rotation");
+  effect.rotation = in.vector(5, "0 0 0", ".Rotation", "Angles x y z in degrees");
+  effect.copiedUnit = in.list(6, "", "CopyTransformationFromUnit",
+                              "Has no influence while that unit exists. Without it, the effect ends");
 }
 
-/// Kept: the test stands the wrong way round. A unit that exists is not copied from, and scripts rely on the parameters
-/// that apply instead; one that doesn't exist ends the effect, as there is nothing to copy.
+/// Only a unit that doesn't exist is one to copy from, and there is nothing to copy.
 static bool wouldCopyFromMissingUnit(const SetTransformEffect& effect, ScenarioHandler& handler) {
   const EntityIds ids = handler.ResolveEntityList(effect.copiedUnit);
   return !ids.empty() && !findEntity(ids.front());

@@ -1,7 +1,7 @@
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/EntityAccess.h"
-#include "game_plugin/scenario/shared/Placeholder.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/parameters/Placeholder.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
+#include "game_plugin/scenario/world/EntityAccess.h"
 
 #include "qsf/Qsf.h"
 #include "qsf/map/Map.h"
@@ -9,11 +9,15 @@
 namespace script {
 
 struct DestroyObjectEffect : DefaultEffect {
+  static constexpr std::string_view ODDITIES[] = {
+      "An id without an entity is logged in the words of SetStatusIcon.",
+  };
+
   Argument entityList;
 };
 
-static void read(DestroyObjectEffect& effect, const Tokens& tokens) {
-  effect.entityList = readStringParameter(tokens, 1, "no_list", "EntityList", "Entities to destroy");
+static void read(DestroyObjectEffect& effect, ParameterReader& in) {
+  effect.entityList = in.list(1, "no_list", "EntityList", "Entities to destroy");
 }
 
 static void run(const DestroyObjectEffect& effect, ScenarioHandler& handler) {
@@ -21,7 +25,7 @@ static void run(const DestroyObjectEffect& effect, ScenarioHandler& handler) {
   for (const std::uint64_t id : handler.ResolveEntityList(effect.entityList)) {
     if (findEntity(id))
       qsf::getMainMap().destroyObjectById(id);
-    else // in the words of another entry, which authors search for
+    else
       logError("SetStatusIconEffect::EntityList did not found " + std::to_string(id));
   }
 }

@@ -1,6 +1,7 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ListOut.h"
-#include "game_plugin/scenario/shared/Placeholder.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/lists/ListOut.h"
+#include "game_plugin/scenario/shared/parameters/Placeholder.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include "em5/component/FadeEffectComponent.h"
 
@@ -13,11 +14,11 @@ struct FadeInOutEffect : DefaultEffect {
   bool deleteOwner = false;
 };
 
-static void read(FadeInOutEffect& effect, const Tokens& tokens) {
-  effect.entityList = readStringParameter(tokens, 1, "no_list", "EntityList", "Entities to fade");
-  effect.fadeIn = readBoolParameter(tokens, 2, true, "FadeIn", "true fades in, false fades out");
-  effect.time = readStringParameter(tokens, 3, "1.0", "Time", "Seconds that it takes");
-  effect.deleteOwner = readBoolParameter(tokens, 4, false, "DeleteOwner", "Destroys the entities at the end");
+static void read(FadeInOutEffect& effect, ParameterReader& in) {
+  effect.entityList = in.list(1, "no_list", "EntityList", "Entities to fade");
+  effect.fadeIn = in.flag(2, true, "FadeIn", "true fades in, false fades out");
+  effect.time = in.number(3, "1.0", "Time", "Seconds that it takes");
+  effect.deleteOwner = in.flag(4, false, "DeleteOwner", "Destroys the entities at the end");
 }
 
 static void run(const FadeInOutEffect& effect, ScenarioHandler& handler) {

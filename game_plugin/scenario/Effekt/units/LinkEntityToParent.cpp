@@ -1,5 +1,6 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ListOut.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/lists/ListOut.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include "qsf/component/LinkComponent.h"
 #include "qsf/game/BoneToBoneLinkComponent.h"
@@ -11,14 +12,17 @@ struct LinkEntityToParentEffect : DefaultEffect {
   Argument parentEntity;
 };
 
-static void read(LinkEntityToParentEffect& effect, const Tokens& tokens) {
-  effect.children = readStringParameter(tokens, 1, "no_list", "EntityList[Childs]", "Entities that become children");
-  effect.parentEntity = readStringParameter(tokens, 2, "no_list", "ParentEntity", "Entity below which they are linked");
+static void read(LinkEntityToParentEffect& effect, ParameterReader& in) {
+  effect.children = in.list(1, "no_list", "EntityList[Childs]", "Entities that become children");
+  effect.parentEntity = in.list(2, "no_list", "ParentEntity", "Entity below which they are linked");
 }
 
 static void link(qsf::Entity& child, std::uint64_t parentId) {
   auto* link = child.getOrCreateComponent<qsf::LinkComponent>();
   link->setParentId(parentId);
+  if (link->getParentId() != parentId && hints::isOn())
+    hints::tell(HintKind::Link, "entity " + std::to_string(child.getId()) + " can't be linked below " +
+                                    std::to_string(parentId) + ", which is below it");
   link->setParentLinkType(0);
   // A bone link looks for its parent when it starts.
   if (auto* boneLink = child.getComponent<qsf::game::BoneToBoneLinkComponent>()) {

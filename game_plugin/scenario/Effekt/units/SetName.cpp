@@ -1,5 +1,6 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ListOut.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/lists/ListOut.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include "em5/base/Messages.h"
 #include "qsf/Qsf.h"
@@ -9,13 +10,17 @@
 namespace script {
 
 struct SetNameEffect : DefaultEffect {
+  static constexpr std::string_view ODDITIES[] = {
+      "The game is told that the selection has changed, also if the list is empty.",
+  };
+
   Argument unitName;
   Argument entityList;
 };
 
-static void read(SetNameEffect& effect, const Tokens& tokens) {
-  effect.unitName = readStringParameter(tokens, 1, "Standart", "UnitName", "The new name");
-  effect.entityList = readStringParameter(tokens, 2, "no_list", "EntityList", "Entities that get it");
+static void read(SetNameEffect& effect, ParameterReader& in) {
+  effect.unitName = in.text(1, "Standart", "UnitName", "The new name");
+  effect.entityList = in.list(2, "no_list", "EntityList", "Entities that get it");
 }
 
 static void run(const SetNameEffect& effect, ScenarioHandler& handler) {

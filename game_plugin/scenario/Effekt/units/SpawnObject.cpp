@@ -1,14 +1,20 @@
 #include "game_plugin/scenario/Log.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/EntityAccess.h"
-#include "game_plugin/scenario/shared/Spawn.h"
-#include "game_plugin/scenario/shared/VectorArgument.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/parameters/VectorArgument.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
+#include "game_plugin/scenario/world/EntityAccess.h"
+#include "game_plugin/scenario/world/Spawn.h"
 
 #include "qsf/component/TransformComponent.h"
 
 namespace script {
 
 struct SpawnObjectEffect : DefaultEffect {
+  static constexpr std::string_view ODDITIES[] = {
+      "A list called empty_list, or a single blank, counts as left empty.",
+      "A position or rotation that can't be read is logged in the words of SetTransform.",
+  };
+
   Argument localAssetName;
   Argument addToEntityList;
   bool setPosition = true;
@@ -18,18 +24,16 @@ struct SpawnObjectEffect : DefaultEffect {
   Argument spawnPointUnit;
 };
 
-static void read(SpawnObjectEffect& effect, const Tokens& tokens) {
-  effect.localAssetName = readStringParameter(tokens, 1, "LocalAssetNotFound", "LocalAssetName",
-                                              "Name of the prefab, like em5/prefab/test/tree");
-  effect.addToEntityList =
-      readStringParameter(tokens, 2, "", "AddToEntityList", "List that gets the new entity; may be left empty");
-  effect.setPosition = readBoolParameter(tokens, 3, true, ".SetPosition", "Sets the position");
-  effect.position = readStringParameter(tokens, 4, "0 0 0", "Position",
-                                        "x y z, each a number or a variable, or svar(name) of such a text");
-  effect.setRotation = readBoolParameter(tokens, 5, true, "SetRotation", "Sets the rotation");
-  effect.rotation = readStringParameter(tokens, 6, "0 0 0", ".Rotation", "Angles x y z in degrees");
-  effect.spawnPointUnit =
-      readStringParameter(tokens, 7, "", "SpawnPointUnit", "Unit from which position and rotation are taken instead");
+static void read(SpawnObjectEffect& effect, ParameterReader& in) {
+  effect.localAssetName =
+      in.prefab(1, "LocalAssetNotFound", "LocalAssetName", "Name of the prefab, like em5/prefab/test/tree");
+  effect.addToEntityList = in.listOut(2, "", "AddToEntityList", "List that gets the new entity; may be left empty");
+  effect.setPosition = in.flag(3, true, ".SetPosition", "Sets the position");
+  effect.position =
+      in.vector(4, "0 0 0", "Position", "x y z, each a number or a variable, or svar(name) of such a text");
+  effect.setRotation = in.flag(5, true, "SetRotation", "Sets the rotation");
+  effect.rotation = in.vector(6, "0 0 0", ".Rotation", "Angles x y z in degrees");
+  effect.spawnPointUnit = in.list(7, "", "SpawnPointUnit", "Unit from which position and rotation are taken instead");
 }
 
 /// The transform to copy; null if no unit is named or if it doesn't exist.
@@ -42,7 +46,6 @@ static const qsf::TransformComponent* findSpawnPoint(const SpawnObjectEffect& ef
 
 static void placeByParameters(const SpawnObjectEffect& effect, ScenarioHandler& handler,
                               qsf::TransformComponent& transform) {
-  // The messages speak of SetTransform, which authors search for.
   if (effect.setPosition) {
     if (const std::optional<glm::vec3> position = splitVector(handler, effect.position))
       transform.setPosition(*position);

@@ -1,5 +1,5 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ListOut.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/lists/ListOut.h"
 
 #include "em5/map/EntityHelper.h"
 
@@ -9,8 +9,8 @@ struct UnlinkFromParentEffect : DefaultEffect {
   Argument entityList;
 };
 
-static void read(UnlinkFromParentEffect& effect, const Tokens& tokens) {
-  effect.entityList = readStringParameter(tokens, 1, "no_list", "EntityList", "Entities to unlink");
+static void read(UnlinkFromParentEffect& effect, ParameterReader& in) {
+  effect.entityList = in.list(1, "no_list", "EntityList", "Entities to unlink");
 }
 
 static void run(const UnlinkFromParentEffect& effect, ScenarioHandler& handler) {

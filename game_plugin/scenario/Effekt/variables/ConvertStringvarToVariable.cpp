@@ -1,7 +1,7 @@
 #include "game_plugin/scenario/Log.h"
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
 #include "game_plugin/scenario/language/TextConversion.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 namespace script {
 
@@ -10,9 +10,9 @@ struct ConvertStringvarToVariableEffect : DefaultEffect {
   Argument stringVariable;
 };
 
-static void read(ConvertStringvarToVariableEffect& effect, const Tokens& tokens) {
-  effect.variable = readStringParameter(tokens, 1, "no_variable", "Variable", "Variable which we want to set");
-  effect.stringVariable = readStringParameter(tokens, 2, "no_StringVar", "StringVar", "StringVar from which we read");
+static void read(ConvertStringvarToVariableEffect& effect, ParameterReader& in) {
+  effect.variable = in.variableOut(1, "no_variable", "Variable", "Variable which we want to set");
+  effect.stringVariable = in.text(2, "no_StringVar", "StringVar", "StringVar from which we read");
 }
 
 static void run(const ConvertStringvarToVariableEffect& effect, ScenarioHandler& handler) {

@@ -1,17 +1,21 @@
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
 #include "game_plugin/scenario/language/TextConversion.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 namespace script {
 
 struct ConvertVariableToStringvarEffect : DefaultEffect {
+  static constexpr std::string_view ODDITIES[] = {
+      "The text has six significant digits: 1234567 becomes 1.23457e+06.",
+  };
+
   Argument variable;
   Argument stringVariable;
 };
 
-static void read(ConvertVariableToStringvarEffect& effect, const Tokens& tokens) {
-  effect.variable = readStringParameter(tokens, 1, "no_variable", "Variable", "Variable from which we read");
-  effect.stringVariable = readStringParameter(tokens, 2, "no_StringVar", "StringVar", "StringVar which we want to set");
+static void read(ConvertVariableToStringvarEffect& effect, ParameterReader& in) {
+  effect.variable = in.number(1, "no_variable", "Variable", "Variable from which we read");
+  effect.stringVariable = in.stringVariableOut(2, "no_StringVar", "StringVar", "StringVar which we want to set");
 }
 
 static void run(const ConvertVariableToStringvarEffect& effect, ScenarioHandler& handler) {

@@ -1,19 +1,24 @@
 #include "game_plugin/scenario/Log.h"
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 namespace script {
 
 struct SetLocalVariableGlobalEffect : DefaultEffect {
+  static constexpr std::string_view ODDITIES[] = {
+      "With svar(name) the text is copied and the local string variable stays, though the description says otherwise.",
+      "With svar(name) and no global name, the name of the global variable is the global mark and the whole text, "
+      "svar( included.",
+  };
+
   Argument localVariable;
   Argument globalVariable;
 };
 
-static void read(SetLocalVariableGlobalEffect& effect, const Tokens& tokens) {
-  effect.localVariable =
-      readStringParameter(tokens, 1, "no_var", "LocalVariable", "Variable, or svar(name) of a string variable");
+static void read(SetLocalVariableGlobalEffect& effect, ParameterReader& in) {
+  effect.localVariable = in.variableInOut(1, "no_var", "LocalVariable", "Variable, or svar(name) of a string variable");
   effect.globalVariable =
-      readStringParameter(tokens, 2, "no_varG", "GlobalVariable", "Global name; by default that of the local variable");
+      in.variableOut(2, "no_varG", "GlobalVariable", "Global name; by default that of the local variable");
 }
 
 static std::string targetName(const SetLocalVariableGlobalEffect& effect, const ScenarioHandler& handler) {
@@ -31,7 +36,7 @@ static void run(const SetLocalVariableGlobalEffect& effect, ScenarioHandler& han
   const std::string target = targetName(effect, handler);
   if (effect.localVariable.info().isVariableReference) {
     handler.SetStringVariable(target, handler.ResolveString(effect.localVariable));
-    // Kept: the raw text with its "svar(" matches no variable, so the local one stays; scripts go on reading it.
+    // Finds none: the text still has its "svar(".
     handler.RemoveLocalStringVariable(local);
   } else {
     handler.SetFloatVariable(target, handler.ResolveFloat(effect.localVariable));

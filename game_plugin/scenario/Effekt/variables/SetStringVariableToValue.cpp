@@ -1,6 +1,6 @@
 #include "game_plugin/scenario/Log.h"
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 namespace script {
 
@@ -9,9 +9,9 @@ struct SetStringVariableToValueEffect : DefaultEffect {
   Argument value;
 };
 
-static void read(SetStringVariableToValueEffect& effect, const Tokens& tokens) {
-  effect.variable = readStringParameter(tokens, 1, "no_var", "Variable", "Name of the string variable to set");
-  effect.value = readStringParameter(tokens, 2, "", "Value", "Text, or svar(name) of another string variable");
+static void read(SetStringVariableToValueEffect& effect, ParameterReader& in) {
+  effect.variable = in.stringVariableOut(1, "no_var", "Variable", "Name of the string variable to set");
+  effect.value = in.text(2, "", "Value", "Text, or svar(name) of another string variable");
 }
 
 static void run(const SetStringVariableToValueEffect& effect, ScenarioHandler& handler) {

@@ -1,5 +1,5 @@
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 namespace script {
 
@@ -8,9 +8,9 @@ struct SetVariableEffect : DefaultEffect {
   Argument value;
 };
 
-static void read(SetVariableEffect& effect, const Tokens& tokens) {
-  effect.variable = readStringParameter(tokens, 1, "var", "Variable", "Name of the variable to set");
-  effect.value = readStringParameter(tokens, 2, "0", "value", "Number, or name of another variable");
+static void read(SetVariableEffect& effect, ParameterReader& in) {
+  effect.variable = in.variableOut(1, "var", "Variable", "Name of the variable to set");
+  effect.value = in.number(2, "0", "value", "Number, or name of another variable");
 }
 
 static void run(const SetVariableEffect& effect, ScenarioHandler& handler) {

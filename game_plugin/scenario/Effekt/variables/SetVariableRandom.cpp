@@ -1,6 +1,6 @@
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
 #include "game_plugin/scenario/language/Truncation.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include "qsf/base/Random.h"
 
@@ -13,11 +13,11 @@ struct SetVariableRandomEffect : DefaultEffect {
   bool round = true;
 };
 
-static void read(SetVariableRandomEffect& effect, const Tokens& tokens) {
-  effect.minimum = readStringParameter(tokens, 1, "0", "MinValue", "Lower bound, included");
-  effect.maximum = readStringParameter(tokens, 2, "1", "MaxValue", "Upper bound, included if rounded");
-  effect.variable = readStringParameter(tokens, 3, "var", "Variable", "Name of the variable to set");
-  effect.round = readBoolParameter(tokens, 4, true, "Round", "Draws whole numbers; the bounds lose their fraction");
+static void read(SetVariableRandomEffect& effect, ParameterReader& in) {
+  effect.minimum = in.number(1, "0", "MinValue", "Lower bound, included");
+  effect.maximum = in.number(2, "1", "MaxValue", "Upper bound, included if rounded");
+  effect.variable = in.variableOut(3, "var", "Variable", "Name of the variable to set");
+  effect.round = in.flag(4, true, "Round", "Draws whole numbers; the bounds lose their fraction");
 }
 
 static void run(const SetVariableRandomEffect& effect, ScenarioHandler& handler) {

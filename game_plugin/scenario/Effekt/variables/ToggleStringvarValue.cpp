@@ -1,22 +1,26 @@
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 namespace script {
 
 struct ToggleStringvarValueEffect : DefaultEffect {
+  static constexpr std::string_view ODDITIES[] = {
+      "A plain name is compared itself, not what the variable holds.",
+      "With svar(name) the value is compared, but what is written is a variable that is called like the whole text, "
+      "svar( included.",
+  };
+
   Argument stringVariable;
   Argument value1;
   Argument value2;
 };
 
-static void read(ToggleStringvarValueEffect& effect, const Tokens& tokens) {
-  effect.stringVariable = readStringParameter(tokens, 1, "no_variable", "StringVar", "Variable that should change");
-  effect.value1 = readStringParameter(tokens, 2, "0", "Value1", "Value1");
-  effect.value2 = readStringParameter(tokens, 3, "1", "Value2", "Value2");
+static void read(ToggleStringvarValueEffect& effect, ParameterReader& in) {
+  effect.stringVariable = in.stringVariableInOut(1, "no_variable", "StringVar", "Variable that should change");
+  effect.value1 = in.text(2, "0", "Value1", "Value1");
+  effect.value2 = in.text(3, "1", "Value2", "Value2");
 }
 
-/// Kept: the variable is read only if it is written `svar(name)`, otherwise its name is compared; what is written is in
-/// both forms the variable that is named like the whole text.
 static void run(const ToggleStringvarValueEffect& effect, ScenarioHandler& handler) {
   const std::string present = handler.ResolveString(effect.stringVariable);
   const std::string value1 = handler.ResolveString(effect.value1);

@@ -1,5 +1,5 @@
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 namespace script {
 
@@ -9,10 +9,10 @@ struct ToggleVariableValueEffect : DefaultEffect {
   Argument value2;
 };
 
-static void read(ToggleVariableValueEffect& effect, const Tokens& tokens) {
-  effect.variable = readStringParameter(tokens, 1, "no_variable", "Variable", "Variable that should change");
-  effect.value1 = readStringParameter(tokens, 2, "0", "Value1", "Value1");
-  effect.value2 = readStringParameter(tokens, 3, "1", "Value2", "Value2");
+static void read(ToggleVariableValueEffect& effect, ParameterReader& in) {
+  effect.variable = in.variableInOut(1, "no_variable", "Variable", "Variable that should change");
+  effect.value1 = in.number(2, "0", "Value1", "Value1");
+  effect.value2 = in.number(3, "1", "Value2", "Value2");
 }
 
 static void run(const ToggleVariableValueEffect& effect, ScenarioHandler& handler) {

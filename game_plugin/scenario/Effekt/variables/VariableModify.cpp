@@ -1,12 +1,16 @@
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
 #include "game_plugin/scenario/language/Vocabulary.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include <cmath>
 
 namespace script {
 
 struct VariableModifyEffect : DefaultEffect {
+  static constexpr std::string_view ODDITIES[] = {
+      "Any operation but -, * and : adds; a slash adds, too.",
+  };
+
   Argument value1;
   Argument value2;
   Argument result;
@@ -14,12 +18,12 @@ struct VariableModifyEffect : DefaultEffect {
   bool round = true;
 };
 
-static void read(VariableModifyEffect& effect, const Tokens& tokens) {
-  effect.value1 = readStringParameter(tokens, 1, "0", "Value1", "Number, or name of a variable");
-  effect.operation = ToArithmeticOperator(readStringParameter(tokens, 2, "+", "Operation", "(+, -, *, :)"));
-  effect.value2 = readStringParameter(tokens, 3, "0", "Value2", "Number, or name of a variable");
-  effect.result = readStringParameter(tokens, 4, "var", "Result", "Name of the variable that gets the result");
-  effect.round = readBoolParameter(tokens, 5, true, "Round", "Rounds the result to the nearest whole number");
+static void read(VariableModifyEffect& effect, ParameterReader& in) {
+  effect.value1 = in.number(1, "0", "Value1", "Number, or name of a variable");
+  effect.operation = ToArithmeticOperator(in.words(2, "+", "Operation", "(+, -, *, :)", arithmeticWords()));
+  effect.value2 = in.number(3, "0", "Value2", "Number, or name of a variable");
+  effect.result = in.variableOut(4, "var", "Result", "Name of the variable that gets the result");
+  effect.round = in.flag(5, true, "Round", "Rounds the result to the nearest whole number");
 }
 
 static float calculate(ArithmeticOperator operation, float value1, float value2) {

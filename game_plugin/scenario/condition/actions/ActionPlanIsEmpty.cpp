@@ -1,5 +1,6 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ListOut.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/lists/ListOut.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include "qsf/action/ActionComponent.h"
 
@@ -10,9 +11,9 @@ struct ActionPlanIsEmptyCondition : DefaultCondition {
   Argument entityListOut;
 };
 
-static void read(ActionPlanIsEmptyCondition& condition, const Tokens& tokens) {
-  condition.entityList = readStringParameter(tokens, 1, "", "EntityList", "Units that shall be checked");
-  condition.entityListOut = readStringParameter(tokens, 2, "", "EntityListOut", "Units that shall be checked");
+static void read(ActionPlanIsEmptyCondition& condition, ParameterReader& in) {
+  condition.entityList = in.list(1, "", "EntityList", "Units that shall be checked");
+  condition.entityListOut = in.listOut(2, "", "EntityListOut", "Units that shall be checked");
 }
 
 static bool test(const ActionPlanIsEmptyCondition& condition, ScenarioHandler& handler) {

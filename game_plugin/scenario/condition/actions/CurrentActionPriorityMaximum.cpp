@@ -1,5 +1,6 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ListOut.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/lists/ListOut.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include "qsf/action/ActionComponent.h"
 
@@ -11,15 +12,14 @@ struct CurrentActionPriorityMaximumCondition : DefaultCondition {
   Argument entityListOut;
 };
 
-static void read(CurrentActionPriorityMaximumCondition& condition, const Tokens& tokens) {
-  condition.entityList =
-      readStringParameter(tokens, 1, "EntitiesToCheck", "EntityList", "EntityList which should be checked");
-  condition.entityListOut = readStringParameter(
-      tokens, 2, "no_list", "EntityListOut",
+static void read(CurrentActionPriorityMaximumCondition& condition, ParameterReader& in) {
+  condition.entityList = in.list(1, "EntitiesToCheck", "EntityList", "EntityList which should be checked");
+  condition.entityListOut = in.listOut(
+      2, "no_list", "EntityListOut",
       "All the entities which passed the checks are written to this list. Notice that the list is cleared before. BUT "
       "EntityList and EntityList[out] can be the same - this will remove units that dont match this criteria");
-  condition.compareValue = readStringParameter(
-      tokens, 3, "1", "CompareValue",
+  condition.compareValue = in.number(
+      3, "1", "CompareValue",
       "If it is higher then this value, the entity will not pass the check.<br>200->blocked action these shouldnt be "
       "interupted<br>120->is a good value as it is higher then Move and TurnUnit action");
 }

@@ -1,19 +1,27 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ListOut.h"
-#include "game_plugin/scenario/shared/Placeholder.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/lists/ListOut.h"
+#include "game_plugin/scenario/shared/parameters/Placeholder.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include "qsf/action/ActionComponent.h"
+
+#include <algorithm>
 
 namespace script {
 
 struct IsActionInPlanCondition : DefaultCondition {
+  static constexpr std::string_view ODDITIES[] = {
+      "Actions are counted, not entities: two of that kind in one entity's plan make up for an entity that has none.",
+      "It holds for an empty list.",
+  };
+
   Argument entityList;
   Argument actionName;
 };
 
-static void read(IsActionInPlanCondition& condition, const Tokens& tokens) {
-  condition.entityList = readStringParameter(tokens, 1, "no_list", "EntityList", "");
-  condition.actionName = readStringParameter(tokens, 2, "no_action", "ActionName", "");
+static void read(IsActionInPlanCondition& condition, ParameterReader& in) {
+  condition.entityList = in.list(1, "no_list", "EntityList", "");
+  condition.actionName = in.of(ParameterRole::Action, 2, "no_action", "ActionName", "");
 }
 
 static std::size_t countActions(ScenarioHandler& handler, const Argument& list, qsf::StringHash typeId) {
@@ -26,8 +34,6 @@ static std::size_t countActions(ScenarioHandler& handler, const Argument& list, 
   return count;
 }
 
-/// Kept: actions are counted, not entities. Two matches in one plan make up for an entity with none, and an empty list
-/// holds.
 static bool test(const IsActionInPlanCondition& condition, ScenarioHandler& handler) {
   if (isLeftAt(condition.entityList.text(), "no_list", "IsActionInPlanCondition::EntityList was not found"))
     return false;

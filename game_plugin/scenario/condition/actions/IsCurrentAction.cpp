@@ -1,20 +1,24 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ListOut.h"
-#include "game_plugin/scenario/shared/Placeholder.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/lists/ListOut.h"
+#include "game_plugin/scenario/shared/parameters/Placeholder.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include "qsf/action/ActionComponent.h"
 
 namespace script {
 
 struct IsCurrentActionCondition : DefaultCondition {
+  static constexpr std::string_view ODDITIES[] = {
+      "It holds for an empty list.",
+  };
+
   Argument entityList;
   Argument actionName;
 };
 
-static void read(IsCurrentActionCondition& condition, const Tokens& tokens) {
-  condition.entityList =
-      readStringParameter(tokens, 1, "no_list", "EntityList", "The name of the EntityList, which should be used");
-  condition.actionName = readStringParameter(tokens, 2, "no_action", "ActionName", "The action you want to check");
+static void read(IsCurrentActionCondition& condition, ParameterReader& in) {
+  condition.entityList = in.list(1, "no_list", "EntityList", "The name of the EntityList, which should be used");
+  condition.actionName = in.of(ParameterRole::Action, 2, "no_action", "ActionName", "The action you want to check");
 }
 
 static bool test(const IsCurrentActionCondition& condition, ScenarioHandler& handler) {

@@ -1,29 +1,39 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/SensorArea.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
+#include "game_plugin/scenario/world/SensorArea.h"
+#include "game_plugin/scenario/world/WorldHints.h"
 
 namespace script {
 
 struct IsAnyEntityInSensorAreaCondition : DefaultCondition {
+  static constexpr std::string_view ODDITIES[] = {
+      "An empty FilterComponent lets nothing pass.",
+      "An area whose collision mask meets its own group finds itself.",
+      "Without a physics world on the map it fails and leaves the out list as it is.",
+  };
+
   Argument areaEntities;
-  qsf::StringHash filterComponent; ///< the empty text is no component's name and lets nothing pass
+  Argument filterComponent;
+  qsf::StringHash filterComponentId;
   Argument targetListOut;
 };
 
-static void read(IsAnyEntityInSensorAreaCondition& condition, const Tokens& tokens) {
-  condition.areaEntities =
-      readStringParameter(tokens, 1, "Area_Entities", "Area Entities", "All entities which define the area");
-  condition.filterComponent = readStringParameter(tokens, 2, "em5::PersonComponent", "FilterComponent",
-                                                  "The Component our target unit shall have");
+static void read(IsAnyEntityInSensorAreaCondition& condition, ParameterReader& in) {
+  condition.areaEntities = in.list(1, "Area_Entities", "Area Entities", "All entities which define the area");
+  condition.filterComponent =
+      in.component(2, "em5::PersonComponent", "FilterComponent", "The Component our target unit shall have");
+  condition.filterComponentId = qsf::StringHash(condition.filterComponent.text());
   condition.targetListOut =
-      readStringParameter(tokens, 3, "EntityListOut", "TargetList[out]", "All entities which we found in our location");
+      in.listOut(3, "EntityListOut", "TargetList[out]", "All entities which we found in our location");
 }
 
 static bool test(const IsAnyEntityInSensorAreaCondition& condition, ScenarioHandler& handler) {
   if (!canSense()) return false;
+  if (hints::isOn()) hintUnknownComponent(condition.filterComponent);
   const EntityIds areas = handler.ResolveEntityList(condition.areaEntities);
   handler.ClearEntityList(condition.targetListOut);
   for (const qsf::Entity* entity : findEntitiesInAreas(areas))
-    if (entity->getComponentById(condition.filterComponent))
+    if (entity->getComponentById(condition.filterComponentId))
       handler.AddToEntityList(condition.targetListOut, entity->getId());
   return handler.GetEntityListSize(condition.targetListOut) != 0;
 }

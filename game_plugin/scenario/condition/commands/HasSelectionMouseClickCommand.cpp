@@ -1,28 +1,35 @@
 #include "game_plugin/component/ScenarioCommandableComponent.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ListOut.h"
-#include "game_plugin/scenario/shared/Placeholder.h"
-#include "game_plugin/scenario/shared/Selection.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/lists/ListOut.h"
+#include "game_plugin/scenario/shared/parameters/Placeholder.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
+#include "game_plugin/scenario/world/EntityAccess.h"
+#include "game_plugin/scenario/world/Selection.h"
 
 #include <algorithm>
 
 namespace script {
 
 struct HasSelectionMouseClickCommandCondition : DefaultCondition {
+  static constexpr std::string_view ODDITIES[] = {
+      "Only as many mouse click commands of an entity are looked at as it has action bar commands.",
+      "If one selected entity has the command, all of the selection goes into the list, and the list isn't emptied "
+      "before.",
+  };
+
   Argument command;
   Argument entityList;
 };
 
-static void read(HasSelectionMouseClickCommandCondition& condition, const Tokens& tokens) {
-  condition.command = readStringParameter(
-      tokens, 1, "no_command", "Command",
-      "CommandName, which has to be defined in ScenarioComponent for an entity in NonGuiCommandArray");
-  condition.entityList = readStringParameter(tokens, 2, "no_list", "EntityList",
-                                             "Write all selected entities with the Command in this entityList");
+static void read(HasSelectionMouseClickCommandCondition& condition, ParameterReader& in) {
+  condition.command =
+      in.of(ParameterRole::Command, 1, "no_command", "Command",
+            "CommandName, which has to be defined in ScenarioComponent for an entity in NonGuiCommandArray");
+  condition.entityList =
+      in.listOut(2, "no_list", "EntityList", "Write all selected entities with the Command in this entityList");
 }
 
-/// Kept: as many mouse click commands are looked at as there are action bar commands. Scripts pad one array to the
-/// other's length to make a command count.
+/// Scripts pad the array of action bar commands to the other's length to make a command count.
 static bool hasCommand(const ScenarioCommandableComponent& component, const std::string& command) {
   const std::vector<std::string>& mouseClick = component.getMouseClickCommands();
   const std::size_t looked = std::min(component.getActionBarCommands().size(), mouseClick.size());
@@ -44,7 +51,6 @@ static bool test(const HasSelectionMouseClickCommandCondition& condition, Scenar
   });
   if (!hit || condition.entityList == "no_list") return hit;
 
-  // Kept: all of the selection goes into the list, which isn't cleared; scripts collect in it.
   for (const std::uint64_t id : selected)
     if (findEntity(id)) handler.AddToEntityList(condition.entityList, id);
   return true;

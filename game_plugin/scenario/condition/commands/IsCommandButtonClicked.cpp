@@ -1,5 +1,5 @@
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 namespace script {
 
@@ -7,10 +7,10 @@ struct IsCommandButtonClickedCondition : DefaultCondition {
   Argument cmdButtonId;
 };
 
-static void read(IsCommandButtonClickedCondition& condition, const Tokens& tokens) {
+static void read(IsCommandButtonClickedCondition& condition, ParameterReader& in) {
   condition.cmdButtonId =
-      readStringParameter(tokens, 1, "noId", "CmdButtonId",
-                          "CommandName, which has to be defined in ScenarioComponent for an entity in GuiCommandArray");
+      in.of(ParameterRole::Command, 1, "noId", "CmdButtonId",
+            "CommandName, which has to be defined in ScenarioComponent for an entity in GuiCommandArray");
 }
 
 /// A click needs the action bar. The game has none yet, so there is none to ask and nothing was clicked.

@@ -1,4 +1,6 @@
-#include "game_plugin/scenario/shared/ComponentProperty.h"
+#include "game_plugin/scenario/language/CompareValues.h"
+#include "game_plugin/scenario/shared/components/ComponentProperty.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 namespace script {
 
@@ -6,11 +8,10 @@ struct CompareComponentPropertyToFloatVariableCondition : ComponentPropertyCondi
   ComparisonOperator operatorText;
 };
 
-static void read(CompareComponentPropertyToFloatVariableCondition& condition, const Tokens& tokens) {
-  readPropertyAddress(condition, tokens);
-  condition.operatorText =
-      readStringParameter(tokens, 4, "==", "Operator", "String that we hope to find inside the Property-Value");
-  readTextAndListOut(condition, tokens, 5);
+static void read(CompareComponentPropertyToFloatVariableCondition& condition, ParameterReader& in) {
+  readPropertyAddress(condition, in);
+  condition.operatorText = in.comparison(4, "==", "Operator", "String that we hope to find inside the Property-Value");
+  readComparandAndListOut(condition, in, 5, ParameterRole::Number);
 }
 
 static bool test(const CompareComponentPropertyToFloatVariableCondition& condition, ScenarioHandler& handler) {

@@ -1,12 +1,13 @@
-#include "game_plugin/scenario/shared/ComponentProperty.h"
+#include "game_plugin/scenario/shared/components/ComponentProperty.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 namespace script {
 
 struct ComponentPropertyContainsStringCondition : ComponentPropertyCondition {};
 
-static void read(ComponentPropertyContainsStringCondition& condition, const Tokens& tokens) {
-  readPropertyAddress(condition, tokens);
-  readTextAndListOut(condition, tokens, 4);
+static void read(ComponentPropertyContainsStringCondition& condition, ParameterReader& in) {
+  readPropertyAddress(condition, in);
+  readComparandAndListOut(condition, in, 4, ParameterRole::Text);
 }
 
 static bool test(const ComponentPropertyContainsStringCondition& condition, ScenarioHandler& handler) {

@@ -1,12 +1,13 @@
-#include "game_plugin/scenario/shared/ComponentProperty.h"
+#include "game_plugin/scenario/shared/components/ComponentProperty.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 namespace script {
 
 struct ComponentPropertyMatchsStringCondition : ComponentPropertyCondition {};
 
-static void read(ComponentPropertyMatchsStringCondition& condition, const Tokens& tokens) {
-  readPropertyAddress(condition, tokens);
-  readTextAndListOut(condition, tokens, 4);
+static void read(ComponentPropertyMatchsStringCondition& condition, ParameterReader& in) {
+  readPropertyAddress(condition, in);
+  readComparandAndListOut(condition, in, 4, ParameterRole::Text);
 }
 
 static bool test(const ComponentPropertyMatchsStringCondition& condition, ScenarioHandler& handler) {

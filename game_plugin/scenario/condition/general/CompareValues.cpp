@@ -1,5 +1,6 @@
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
+#include "game_plugin/scenario/language/CompareValues.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 namespace script {
 
@@ -9,10 +10,10 @@ struct CompareValuesCondition : DefaultCondition {
   Argument value2;
 };
 
-static void read(CompareValuesCondition& condition, const Tokens& tokens) {
-  condition.value1 = readStringParameter(tokens, 1, "5", "Value1", "");
-  condition.operatorText = readStringParameter(tokens, 2, "==", "Operator", "(<, <=, ==, >=, >)");
-  condition.value2 = readStringParameter(tokens, 3, "5", "Value2", "");
+static void read(CompareValuesCondition& condition, ParameterReader& in) {
+  condition.value1 = in.number(1, "5", "Value1", "");
+  condition.operatorText = in.comparison(2, "==", "Operator", "(<, <=, ==, >=, >)");
+  condition.value2 = in.number(3, "5", "Value2", "");
 }
 
 static bool test(const CompareValuesCondition& condition, ScenarioHandler& handler) {

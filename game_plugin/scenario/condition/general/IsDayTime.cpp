@@ -1,6 +1,6 @@
 #include "game_plugin/scenario/Log.h"
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include "qsf/Qsf.h"
 #include "qsf/game/TimeOfDayComponent.h"
@@ -9,15 +9,19 @@
 namespace script {
 
 struct IsDayTimeCondition : DefaultCondition {
+  static constexpr std::string_view ODDITIES[] = {
+      "Hour and minute are tested each for itself: a span from 8:50 to 9:10 takes two conditions.",
+  };
+
   std::uint32_t minHour;
   std::uint32_t minMinute;
   std::uint32_t maxHour;
   std::uint32_t maxMinute;
 };
 
-static void read(IsDayTimeCondition& condition, const Tokens& tokens) {
+static void read(IsDayTimeCondition& condition, ParameterReader& in) {
   const auto readUnsigned = [&](int index, int defaultValue, std::string_view name, std::string_view description) {
-    return static_cast<std::uint32_t>(readIntParameter(tokens, index, defaultValue, name, description));
+    return static_cast<std::uint32_t>(in.integer(index, defaultValue, name, description));
   };
   condition.minHour = readUnsigned(1, 0, "MinHour", "lower hour");
   condition.maxHour = readUnsigned(2, 24, "MaxHour", "upper hour");
@@ -25,8 +29,6 @@ static void read(IsDayTimeCondition& condition, const Tokens& tokens) {
   condition.maxMinute = readUnsigned(4, 60, "MaxMinute", "upper minute");
 }
 
-/// Kept: hour and minute are tested each for itself. A span from 8:50 to 9:10 can't be told this way; scripts write two
-/// conditions.
 static bool test(const IsDayTimeCondition& condition, ScenarioHandler&) {
   const qsf::Entity* core = qsf::getMainMap().getCoreEntity();
   const auto* timeOfDay = core ? core->getComponent<qsf::game::TimeOfDayComponent>() : nullptr;

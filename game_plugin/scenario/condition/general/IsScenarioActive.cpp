@@ -1,6 +1,7 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
 #include "game_plugin/scenario/lifecycle/MapScriptManager.h"
-#include "game_plugin/scenario/shared/Placeholder.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/parameters/Placeholder.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include <algorithm>
 
@@ -10,8 +11,8 @@ struct IsScenarioActiveCondition : DefaultCondition {
   Argument scenarioFile;
 };
 
-static void read(IsScenarioActiveCondition& condition, const Tokens& tokens) {
-  condition.scenarioFile = readStringParameter(tokens, 1, "no_file", "ScenarioFile", "The scenarioFile to check");
+static void read(IsScenarioActiveCondition& condition, ParameterReader& in) {
+  condition.scenarioFile = in.of(ParameterRole::Script, 1, "no_file", "ScenarioFile", "The scenarioFile to check");
 }
 
 /// A script is known by the path that the manager holds: the file for a listed script, the path as given for a

@@ -1,5 +1,6 @@
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
+#include "game_plugin/scenario/language/CompareValues.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 namespace script {
 
@@ -9,12 +10,10 @@ struct CompareEntityListSizeWithValueCondition : DefaultCondition {
   ComparisonOperator operatorText;
 };
 
-static void read(CompareEntityListSizeWithValueCondition& condition, const Tokens& tokens) {
-  condition.entityList = readStringParameter(tokens, 1, "", "EntityList", "Units that shall be checked");
-  condition.operatorText =
-      readStringParameter(tokens, 2, "==", "Operator", "String that we hope to find inside the Property-Value");
-  condition.value = readStringParameter(tokens, 3, "", "Value",
-                                        "Value which we compare the Unitlist size to - can also hold a variable");
+static void read(CompareEntityListSizeWithValueCondition& condition, ParameterReader& in) {
+  condition.entityList = in.list(1, "", "EntityList", "Units that shall be checked");
+  condition.operatorText = in.comparison(2, "==", "Operator", "String that we hope to find inside the Property-Value");
+  condition.value = in.number(3, "", "Value", "Value which we compare the Unitlist size to - can also hold a variable");
 }
 
 static bool test(const CompareEntityListSizeWithValueCondition& condition, ScenarioHandler& handler) {

@@ -1,5 +1,6 @@
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
+#include "game_plugin/scenario/language/CompareValues.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 namespace script {
 
@@ -9,11 +10,10 @@ struct CompareEntityListSizesCondition : DefaultCondition {
   ComparisonOperator operatorText;
 };
 
-static void read(CompareEntityListSizesCondition& condition, const Tokens& tokens) {
-  condition.entityList = readStringParameter(tokens, 1, "", "EntityList", "Units that shall be checked");
-  condition.operatorText =
-      readStringParameter(tokens, 2, "==", "Operator", "String that we hope to find inside the Property-Value");
-  condition.entityList2 = readStringParameter(tokens, 3, "", "EntityList2", "Units that shall be checked");
+static void read(CompareEntityListSizesCondition& condition, ParameterReader& in) {
+  condition.entityList = in.list(1, "", "EntityList", "Units that shall be checked");
+  condition.operatorText = in.comparison(2, "==", "Operator", "String that we hope to find inside the Property-Value");
+  condition.entityList2 = in.list(3, "", "EntityList2", "Units that shall be checked");
 }
 
 static bool test(const CompareEntityListSizesCondition& condition, ScenarioHandler& handler) {

@@ -1,5 +1,6 @@
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
+#include "game_plugin/scenario/language/CompareValues.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 namespace script {
 
@@ -9,11 +10,10 @@ struct EntityListHasSizeCondition : DefaultCondition {
   Argument compareValue;
 };
 
-static void read(EntityListHasSizeCondition& condition, const Tokens& tokens) {
-  condition.entityList =
-      readStringParameter(tokens, 1, "EntitiesToCheck", "EntityList", "EntityList which should get it's size count.");
-  condition.operatorText = readStringParameter(tokens, 2, "==", "Operator", "(<,<=,==,>=,>)");
-  condition.compareValue = readStringParameter(tokens, 3, "1", "CompareValue", "The size is compared to this value");
+static void read(EntityListHasSizeCondition& condition, ParameterReader& in) {
+  condition.entityList = in.list(1, "EntitiesToCheck", "EntityList", "EntityList which should get it's size count.");
+  condition.operatorText = in.comparison(2, "==", "Operator", "(<,<=,==,>=,>)");
+  condition.compareValue = in.number(3, "1", "CompareValue", "The size is compared to this value");
 }
 
 static bool test(const EntityListHasSizeCondition& condition, ScenarioHandler& handler) {

@@ -1,22 +1,27 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ListOut.h"
-#include "game_plugin/scenario/shared/Placeholder.h"
-#include "game_plugin/scenario/shared/Selection.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/lists/ListOut.h"
+#include "game_plugin/scenario/shared/parameters/Placeholder.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
+#include "game_plugin/scenario/world/EntityAccess.h"
+#include "game_plugin/scenario/world/Selection.h"
 
 namespace script {
 
 struct IsAnyEntitySelectedCondition : DefaultCondition {
+  static constexpr std::string_view ODDITIES[] = {
+      "With ClearOldList false it also holds if nothing is selected and the list holds ids from before.",
+  };
+
   Argument entityList;
   bool clearOldList;
 };
 
-static void read(IsAnyEntitySelectedCondition& condition, const Tokens& tokens) {
-  condition.entityList =
-      readStringParameter(tokens, 1, "no_list", "EntityList", "The name of the EntityList, which should be used");
+static void read(IsAnyEntitySelectedCondition& condition, ParameterReader& in) {
+  condition.entityList = in.listOut(1, "no_list", "EntityList", "The name of the EntityList, which should be used");
   condition.clearOldList =
-      readBoolParameter(tokens, 2, true, "ClearOldList",
-                        "true=clear the entries of an existing list<br>false = if entityList is already existing, the "
-                        "entity under mouse will be added");
+      in.flag(2, true, "ClearOldList",
+              "true=clear the entries of an existing list<br>false = if entityList is already existing, the "
+              "entity under mouse will be added");
 }
 
 static bool test(const IsAnyEntitySelectedCondition& condition, ScenarioHandler& handler) {

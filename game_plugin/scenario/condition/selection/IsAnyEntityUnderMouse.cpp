@@ -1,6 +1,6 @@
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/Placeholder.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/parameters/Placeholder.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include "em5/game/Game.h"
 #include "em5/gui/EmergencyGui.h"
@@ -13,17 +13,21 @@
 namespace script {
 
 struct IsAnyEntityUnderMouseCondition : DefaultCondition {
+  static constexpr std::string_view ODDITIES[] = {
+      "Terrain and streets don't count, whatever the description warns of.",
+      "The list is emptied, too, if nothing that counts is under the mouse.",
+  };
+
   Argument entityList;
   bool clearOldList;
 };
 
-static void read(IsAnyEntityUnderMouseCondition& condition, const Tokens& tokens) {
-  condition.entityList =
-      readStringParameter(tokens, 1, "no_list", "EntityList", "The name of the EntityList, which should be used");
+static void read(IsAnyEntityUnderMouseCondition& condition, ParameterReader& in) {
+  condition.entityList = in.listOut(1, "no_list", "EntityList", "The name of the EntityList, which should be used");
   condition.clearOldList =
-      readBoolParameter(tokens, 2, true, "ClearOldList",
-                        "true=clear the entries of an existing list<br>false = if entityList is already existing, the "
-                        "entity under mouse will be added");
+      in.flag(2, true, "ClearOldList",
+              "true=clear the entries of an existing list<br>false = if entityList is already existing, the "
+              "entity under mouse will be added");
 }
 
 static bool isGround(const qsf::Entity& entity) {
@@ -31,7 +35,6 @@ static bool isGround(const qsf::Entity& entity) {
          entity.getComponent<qsf::StreetSectionComponent>();
 }
 
-/// Kept: terrain and streets don't count, whatever the description warns of, and the list is cleared nonetheless.
 static bool test(const IsAnyEntityUnderMouseCondition& condition, ScenarioHandler& handler) {
   const qsf::UniqueInstance<em5::EmergencyGui> gui;
   if (!gui || !qsf::UniqueInstance<em5::Game>()) return false;

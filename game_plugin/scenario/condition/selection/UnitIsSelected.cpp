@@ -1,21 +1,28 @@
 #include "game_plugin/scenario/Log.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ListOut.h"
-#include "game_plugin/scenario/shared/Selection.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/lists/ListOut.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
+#include "game_plugin/scenario/world/EntityAccess.h"
+#include "game_plugin/scenario/world/Selection.h"
 
 namespace script {
 
 struct UnitIsSelectedCondition : DefaultCondition {
+  static constexpr std::string_view ODDITIES[] = {
+      "With AllUnitsFromListMustBeSelected false it also holds if no unit of the list is selected.",
+      "It holds for an empty list.",
+  };
+
   Argument entityList;
   bool allUnitsMustBeSelected;
 };
 
-static void read(UnitIsSelectedCondition& condition, const Tokens& tokens) {
-  condition.entityList = readStringParameter(
-      tokens, 1, "", "EntityList", "Either a variable list with all untits that shall be checked or a entityid");
+static void read(UnitIsSelectedCondition& condition, ParameterReader& in) {
+  condition.entityList =
+      in.list(1, "", "EntityList", "Either a variable list with all untits that shall be checked or a entityid");
   condition.allUnitsMustBeSelected =
-      readBoolParameter(tokens, 2, true, "AllUnitsFromListMustBeSelected",
-                        "If false only one unit must be selected for the condition to return true");
+      in.flag(2, true, "AllUnitsFromListMustBeSelected",
+              "If false only one unit must be selected for the condition to return true");
 }
 
 static bool test(const UnitIsSelectedCondition& condition, ScenarioHandler& handler) {
@@ -29,7 +36,7 @@ static bool test(const UnitIsSelectedCondition& condition, ScenarioHandler& hand
     }
     if (selection->isIdSelected(id) != condition.allUnitsMustBeSelected) return !condition.allUnitsMustBeSelected;
   }
-  // Kept for either mode: scripts rely on the condition holding when one unit is asked for and none is selected.
+  // In either mode, on purpose.
   return true;
 }
 

@@ -1,5 +1,6 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ListOut.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/lists/ListOut.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include "em5/component/VehicleComponent.h"
 
@@ -10,10 +11,9 @@ struct CanBeTowedCondition : DefaultCondition {
   Argument targetListOut;
 };
 
-static void read(CanBeTowedCondition& condition, const Tokens& tokens) {
-  condition.targetListIn = readStringParameter(tokens, 1, "TargetList", "TargetList[in]", "Units which are checked");
-  condition.targetListOut =
-      readStringParameter(tokens, 2, "EntityListOut", "TargetList[out]", "All vehicles which can be towed");
+static void read(CanBeTowedCondition& condition, ParameterReader& in) {
+  condition.targetListIn = in.list(1, "TargetList", "TargetList[in]", "Units which are checked");
+  condition.targetListOut = in.listOut(2, "EntityListOut", "TargetList[out]", "All vehicles which can be towed");
 }
 
 static bool test(const CanBeTowedCondition& condition, ScenarioHandler& handler) {

@@ -1,5 +1,7 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ListOut.h"
+#include "game_plugin/scenario/language/WordTable.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/lists/ListOut.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include "em5/component/DoorComponent.h"
 
@@ -11,35 +13,25 @@ struct DoorHasStateCondition : DefaultCondition {
   Argument doorState;
 };
 
-static void read(DoorHasStateCondition& condition, const Tokens& tokens) {
-  condition.entitiesToCheck =
-      readStringParameter(tokens, 1, "EntityList", "EntitiesToCheck[in]", "Units which are checked");
-  condition.checkedEntities =
-      readStringParameter(tokens, 2, "EntityListOut", "CheckedEntities[out]", "All entities which have the door state");
-  condition.doorState =
-      readStringParameter(tokens, 3, "DOOR_OPEN", "Door_State", "one of the four states from the description");
-}
+static constexpr Word<em5::DoorComponent::DoorState> DOOR_STATES[] = {
+    {"DOOR_CLOSED", em5::DoorComponent::DOOR_CLOSED},
+    {"DOOR_CLOSING", em5::DoorComponent::DOOR_CLOSING},
+    {"DOOR_OPEN", em5::DoorComponent::DOOR_OPEN},
+    {"DOOR_OPENING", em5::DoorComponent::DOOR_OPENING},
+};
 
-static std::string_view nameOf(em5::DoorComponent::DoorState state) {
-  switch (state) {
-  case em5::DoorComponent::DOOR_CLOSED:
-    return "DOOR_CLOSED";
-  case em5::DoorComponent::DOOR_CLOSING:
-    return "DOOR_CLOSING";
-  case em5::DoorComponent::DOOR_OPEN:
-    return "DOOR_OPEN";
-  case em5::DoorComponent::DOOR_OPENING:
-    return "DOOR_OPENING";
-  }
-  return {};
+static void read(DoorHasStateCondition& condition, ParameterReader& in) {
+  condition.entitiesToCheck = in.list(1, "EntityList", "EntitiesToCheck[in]", "Units which are checked");
+  condition.checkedEntities =
+      in.listOut(2, "EntityListOut", "CheckedEntities[out]", "All entities which have the door state");
+  condition.doorState =
+      in.words(3, "DOOR_OPEN", "Door_State", "one of the four states from the description", wordsOf<DOOR_STATES>());
 }
 
 static bool test(const DoorHasStateCondition& condition, ScenarioHandler& handler) {
   return filterIntoList(handler, condition.entitiesToCheck, condition.checkedEntities, [&](const qsf::Entity& entity) {
     const auto* door = entity.getComponent<em5::DoorComponent>();
-    if (!door) return false;
-    const std::string_view state = nameOf(door->getDoorState());
-    return !state.empty() && handler.ResolveString(condition.doorState) == state;
+    return door && lookUp(DOOR_STATES, handler.ResolveString(condition.doorState)) == door->getDoorState();
   });
 }
 

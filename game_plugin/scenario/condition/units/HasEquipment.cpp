@@ -1,5 +1,7 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ListOut.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/lists/ListOut.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
+#include "game_plugin/scenario/world/EntityAccess.h"
 
 #include "em5/map/EntityHelper.h"
 #include "qsf/game/EquipmentComponent.h"
@@ -7,25 +9,24 @@
 namespace script {
 
 struct HasEquipmentCondition : DefaultCondition {
-  std::string equipment;
+  Argument equipment;
   Argument entityList;
   Argument entityListOutWithEquipment;
   Argument entityListOutWithoutEquipment;
 };
 
-static void read(HasEquipmentCondition& condition, const Tokens& tokens) {
-  condition.entityList =
-      readStringParameter(tokens, 1, "EntitiesToCheck", "EntityList", "EntityList which should be checked");
-  condition.equipment = readStringParameter(tokens, 2, "no_Equipment", "Equipment", "Name which should be matched");
-  condition.entityListOutWithEquipment = readStringParameter(
-      tokens, 3, "no_list1", "EntityListOutWithEquipment",
+static void read(HasEquipmentCondition& condition, ParameterReader& in) {
+  condition.entityList = in.list(1, "EntitiesToCheck", "EntityList", "EntityList which should be checked");
+  condition.equipment = in.raw(2, "no_Equipment", "Equipment", "Name which should be matched");
+  condition.entityListOutWithEquipment = in.listOut(
+      3, "no_list1", "EntityListOutWithEquipment",
       "All the entities which passed the checks are written to this list. Notice that the list is cleared before. BUT "
       "EntityList and EntityList[out] can be the same - this will remove units that dont match this criteria.");
   condition.entityListOutWithoutEquipment =
-      readStringParameter(tokens, 4, "no_list2", "EntityListOutWithoutEquipment",
-                          "All the entities which dont pass the check are written here. Usefull if your effect gives "
-                          "the equipment to these "
-                          "entities");
+      in.listOut(4, "no_list2", "EntityListOutWithoutEquipment",
+                 "All the entities which dont pass the check are written here. Usefull if your effect gives "
+                 "the equipment to these "
+                 "entities");
 }
 
 static bool holds(qsf::Entity& entity, const std::string& equipmentName) {
@@ -40,8 +41,8 @@ static bool test(const HasEquipmentCondition& condition, ScenarioHandler& handle
   handler.ClearEntityList(condition.entityListOutWithoutEquipment);
   for (const std::uint64_t id : ids)
     if (qsf::Entity* entity = findEntity(id))
-      handler.AddToEntityList(holds(*entity, condition.equipment) ? condition.entityListOutWithEquipment
-                                                                  : condition.entityListOutWithoutEquipment,
+      handler.AddToEntityList(holds(*entity, condition.equipment.text()) ? condition.entityListOutWithEquipment
+                                                                         : condition.entityListOutWithoutEquipment,
                               id);
   return handler.GetEntityListSize(condition.entityListOutWithEquipment) != 0;
 }

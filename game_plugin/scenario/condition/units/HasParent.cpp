@@ -1,24 +1,27 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ListOut.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/lists/ListOut.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include "em5/map/EntityHelper.h"
 
 namespace script {
 
 struct HasParentCondition : DefaultCondition {
+  static constexpr std::string_view ODDITIES[] = {
+      "With one list as EntitiesToCheck[in] and CheckedEntities[out] it empties the list and fails, since the in list "
+      "is read again after the out list was emptied.",
+  };
+
   Argument entitiesToCheck;
   Argument checkedEntities;
 };
 
-static void read(HasParentCondition& condition, const Tokens& tokens) {
-  condition.entitiesToCheck =
-      readStringParameter(tokens, 1, "EntityList", "EntitiesToCheck[in]", "Units which are checked");
+static void read(HasParentCondition& condition, ParameterReader& in) {
+  condition.entitiesToCheck = in.list(1, "EntityList", "EntitiesToCheck[in]", "Units which are checked");
   condition.checkedEntities =
-      readStringParameter(tokens, 2, "EntityListOut", "CheckedEntities[out]", "All entities which have a parent");
+      in.listOut(2, "EntityListOut", "CheckedEntities[out]", "All entities which have a parent");
 }
 
-/// Kept: the in list is read again after the out list was cleared, so this condition can't filter in place. With one
-/// list for both it empties the list and fails, and scripts rely on that.
 static bool test(const HasParentCondition& condition, ScenarioHandler& handler) {
   handler.GetEntityListSize(condition.entitiesToCheck); // the first read, by which a missing list comes to life
   handler.ClearEntityList(condition.checkedEntities);

@@ -1,17 +1,23 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ListOut.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/lists/ListOut.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
+#include "game_plugin/scenario/world/EntityAccess.h"
 
 #include <algorithm>
 
 namespace script {
 
 struct IsEntityExistingCondition : DefaultCondition {
+  static constexpr std::string_view ODDITIES[] = {
+      "It holds for an empty list.",
+  };
+
   Argument entityList;
 };
 
-static void read(IsEntityExistingCondition& condition, const Tokens& tokens) {
-  condition.entityList = readStringParameter(tokens, 1, "no_list", "EntityList",
-                                             "Entity or entityList, which should be checked to be on the map");
+static void read(IsEntityExistingCondition& condition, ParameterReader& in) {
+  condition.entityList =
+      in.list(1, "no_list", "EntityList", "Entity or entityList, which should be checked to be on the map");
 }
 
 static bool test(const IsEntityExistingCondition& condition, ScenarioHandler& handler) {

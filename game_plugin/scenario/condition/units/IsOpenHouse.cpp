@@ -1,6 +1,6 @@
 #include "game_plugin/component/OpenHouseComponent.h"
-#include "game_plugin/scenario/ScenarioHandler.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include "qsf/Qsf.h"
 #include "qsf/map/Map.h"
@@ -8,18 +8,20 @@
 namespace script {
 
 struct IsOpenHouseCondition : DefaultCondition {
+  static constexpr std::string_view ODDITIES[] = {
+      "Ids are compared only: an entity that is gone still finds the house that lists it.",
+  };
+
   Argument entityList;
   Argument entityListOut;
 };
 
-static void read(IsOpenHouseCondition& condition, const Tokens& tokens) {
-  condition.entityList =
-      readStringParameter(tokens, 1, "EntitiesToCheck", "EntityList", "List of entities that are checked");
-  condition.entityListOut = readStringParameter(
-      tokens, 2, "no_list", "EntityListOut", "If the condition is true it will also write the OpenHouse to this list");
+static void read(IsOpenHouseCondition& condition, ParameterReader& in) {
+  condition.entityList = in.list(1, "EntitiesToCheck", "EntityList", "List of entities that are checked");
+  condition.entityListOut = in.listOut(2, "no_list", "EntityListOut",
+                                       "If the condition is true it will also write the OpenHouse to this list");
 }
 
-/// Kept: ids are compared only, nobody looks for their entities. What is gone still finds the house that lists it.
 static bool test(const IsOpenHouseCondition& condition, ScenarioHandler& handler) {
   const EntityIds ids = handler.ResolveEntityList(condition.entityList);
   handler.ClearEntityList(condition.entityListOut);

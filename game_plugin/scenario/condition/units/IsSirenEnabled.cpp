@@ -1,5 +1,6 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ListOut.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/lists/ListOut.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include "em5/component/VehicleComponent.h"
 
@@ -10,11 +11,10 @@ struct IsSirenEnabledCondition : DefaultCondition {
   Argument checkedEntities;
 };
 
-static void read(IsSirenEnabledCondition& condition, const Tokens& tokens) {
-  condition.entitiesToCheck =
-      readStringParameter(tokens, 1, "EntityList", "EntitiesToCheck[in]", "Units which are checked");
+static void read(IsSirenEnabledCondition& condition, ParameterReader& in) {
+  condition.entitiesToCheck = in.list(1, "EntityList", "EntitiesToCheck[in]", "Units which are checked");
   condition.checkedEntities =
-      readStringParameter(tokens, 2, "EntityListOut", "CheckedEntities[out]", "All vehicles whose siren is enabled");
+      in.listOut(2, "EntityListOut", "CheckedEntities[out]", "All vehicles whose siren is enabled");
 }
 
 static bool test(const IsSirenEnabledCondition& condition, ScenarioHandler& handler) {

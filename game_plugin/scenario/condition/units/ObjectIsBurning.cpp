@@ -1,5 +1,6 @@
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ListOut.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/lists/ListOut.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include "em5/map/EntityHelper.h"
 
@@ -10,10 +11,9 @@ struct ObjectIsBurningCondition : DefaultCondition {
   Argument targetListOut;
 };
 
-static void read(ObjectIsBurningCondition& condition, const Tokens& tokens) {
-  condition.targetListIn = readStringParameter(tokens, 1, "TargetList", "TargetList[in]", "Entities which are checked");
-  condition.targetListOut =
-      readStringParameter(tokens, 2, "EntityListOut", "TargetList[out]", "All entities which are burning");
+static void read(ObjectIsBurningCondition& condition, ParameterReader& in) {
+  condition.targetListIn = in.list(1, "TargetList", "TargetList[in]", "Entities which are checked");
+  condition.targetListOut = in.listOut(2, "EntityListOut", "TargetList[out]", "All entities which are burning");
 }
 
 static bool test(const ObjectIsBurningCondition& condition, ScenarioHandler& handler) {

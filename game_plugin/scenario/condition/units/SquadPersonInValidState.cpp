@@ -1,10 +1,11 @@
 #include "game_plugin/scenario/condition/units/SquadUnitInValidState.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 namespace script {
 
 struct SquadPersonInValidStateCondition : SquadUnitInValidStateCondition {};
 
-static void read(SquadPersonInValidStateCondition& condition, const Tokens& tokens) { readLists(condition, tokens); }
+static void read(SquadPersonInValidStateCondition& condition, ParameterReader& in) { readLists(condition, in); }
 
 static bool test(const SquadPersonInValidStateCondition& condition, ScenarioHandler& handler) {
   return filterSquadPersonsInValidState(condition, handler);

@@ -1,6 +1,7 @@
 #pragma once
-#include "game_plugin/scenario/language/ParameterReaders.h"
-#include "game_plugin/scenario/shared/ListOut.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
+#include "game_plugin/scenario/shared/lists/ListOut.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include "em5/map/EntityHelper.h"
 
@@ -12,11 +13,10 @@ struct SquadUnitInValidStateCondition : DefaultCondition {
   Argument entityListOut;
 };
 
-inline void readLists(SquadUnitInValidStateCondition& condition, const Tokens& tokens) {
-  condition.entityList =
-      readStringParameter(tokens, 1, "EntitiesToCheck", "EntityList", "EntityList which should be checked");
-  condition.entityListOut = readStringParameter(
-      tokens, 2, "no_list", "EntityListOut",
+inline void readLists(SquadUnitInValidStateCondition& condition, ParameterReader& in) {
+  condition.entityList = in.list(1, "EntitiesToCheck", "EntityList", "EntityList which should be checked");
+  condition.entityListOut = in.listOut(
+      2, "no_list", "EntityListOut",
       "All the entities which passed the checks are written to this list. Notice that the list is cleared before. BUT "
       "EntityList and EntityList[out] can be the same - this will remove units that dont match this criteria");
 }

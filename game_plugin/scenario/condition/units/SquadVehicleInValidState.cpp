@@ -1,12 +1,16 @@
 #include "game_plugin/scenario/condition/units/SquadUnitInValidState.h"
+#include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 namespace script {
 
-struct SquadVehicleInValidStateCondition : SquadUnitInValidStateCondition {};
+struct SquadVehicleInValidStateCondition : SquadUnitInValidStateCondition {
+  static constexpr std::string_view ODDITIES[] = {
+      "It tests persons, as SquadPersonInValidState does: vehicles never pass.",
+  };
+};
 
-static void read(SquadVehicleInValidStateCondition& condition, const Tokens& tokens) { readLists(condition, tokens); }
+static void read(SquadVehicleInValidStateCondition& condition, ParameterReader& in) { readLists(condition, in); }
 
-/// Kept: the test is that of persons, whatever the name says. Scripts rely on vehicles being filtered out here.
 static bool test(const SquadVehicleInValidStateCondition& condition, ScenarioHandler& handler) {
   return filterSquadPersonsInValidState(condition, handler);
 }

@@ -39,9 +39,9 @@ bool isBeginningOf(const std::string& name, const std::string& candidate) {
 
 }
 
-std::string nearNamesHint(const std::string& name, const std::vector<std::string>& candidates) {
+std::vector<std::string> findNearNames(const std::string& name, const std::vector<std::string>& candidates) {
   constexpr std::size_t LONGEST_NAME = 200; // a longer one is no typing error, and the distance would be dear
-  constexpr std::size_t MOST_HINTS = 3;
+  constexpr std::size_t MOST_NAMES = 3;
   if (name.size() > LONGEST_NAME) return {};
   std::vector<std::pair<std::size_t, std::string>> near;
   for (const std::string& candidate : candidates) {
@@ -53,9 +53,16 @@ std::string nearNamesHint(const std::string& name, const std::vector<std::string
     if (distance <= std::max<std::size_t>(1, lastPart(name).size() / 3)) near.emplace_back(distance, candidate);
   }
   std::sort(near.begin(), near.end());
+  std::vector<std::string> names;
+  for (std::size_t i = 0; i < std::min(near.size(), MOST_NAMES); ++i)
+    names.push_back(std::move(near[i].second));
+  return names;
+}
+
+std::string nearNamesHint(const std::string& name, const std::vector<std::string>& candidates) {
   std::string hint;
-  for (std::size_t i = 0; i < std::min(near.size(), MOST_HINTS); ++i)
-    hint += (i == 0 ? "\"" : " or \"") + near[i].second + "\"";
+  for (const std::string& near : findNearNames(name, candidates))
+    hint += (hint.empty() ? "\"" : " or \"") + near + "\"";
   return hint.empty() ? hint : " (did you mean " + hint + "?)";
 }
 

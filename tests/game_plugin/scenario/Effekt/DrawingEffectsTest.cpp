@@ -1,9 +1,8 @@
-#include "../LogCapture.h"
-#include "game_plugin/scenario/ScenarioHandler.h"
-
 #include "qsf/base/Random.h"
 #include "qsf/component/TransformComponent.h"
 #include "qsf/map/Map.h"
+#include "tests/game_plugin/scenario/LogCapture.h"
+#include "tests/game_plugin/scenario/ScriptFixture.h"
 
 #include <gtest/gtest.h>
 
@@ -69,8 +68,6 @@ Ids pickByWalking(const Ids& all, float wanted, float range) {
 /// Effects that draw at random, on a bare map of units that stand on a grid at random.
 class DrawingEffectsTest : public testing::Test {
 protected:
-  ~DrawingEffectsTest() override { ScenarioHandler::Retire(handler); }
-
   Ids addUnits(int count) {
     Ids ids;
     const auto drawPlace = [] { return static_cast<float>(qsf::Random::getRandomInt(0, 12)); };
@@ -83,15 +80,12 @@ protected:
     }
     return ids;
   }
-  void run(const Tokens& tokens) {
-    const DefaultEffect* record = handler->GetEffects().create(tokens);
-    ASSERT_NE(record, nullptr);
-    record->entry->run(*record, *handler, 0);
-  }
-  Ids list(const std::string& name) const { return handler->ResolveEntityList(name).vector(); }
+  void run(const Words& words) { runner.run(words); }
+  Ids list(const std::string& name) const { return runner.list(name); }
 
   LogCapture host;
-  ScenarioHandler* handler = new ScenarioHandler(std::make_shared<GlobalStores>());
+  EntryRunner runner;
+  ScenarioHandler* handler = runner.handler;
   std::uint64_t nextId = 100;
 };
 

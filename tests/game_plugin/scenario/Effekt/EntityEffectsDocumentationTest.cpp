@@ -1,5 +1,5 @@
-#include "game_plugin/scenario/ScenarioEffects.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
+#include "game_plugin/scenario/tick/ScenarioEffects.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
 
 #include <gtest/gtest.h>
 
@@ -329,54 +329,55 @@ const ParametersDescribed PARAMETER_DESCRIPTIONS[] = {
 };
 
 /// What the entry's readers describe; `record` gets the record that they made.
-std::vector<ParameterDocumentation> document(const std::string& name, const DefaultEffect*& record) {
+std::vector<ParameterDocumentation> document(const std::string& name, const EffectEntry*& record) {
   std::vector<ParameterDocumentation> parameters;
-  const DocumentationScope scope(parameters);
-  record = ScenarioEffects(nullptr).create({name});
+  record = ScenarioEffects::find(name);
+  ParameterReader in(parameters);
+  record->describe(in);
   return parameters;
 }
 
 TEST(EntityEffectsDocumentation, ParametersHaveTheirNamesTypesAndDefaults) {
   for (const Documented& entry : ENTRIES) {
     SCOPED_TRACE(entry.name);
-    const DefaultEffect* record = nullptr;
+    const EffectEntry* record = nullptr;
     std::vector<Parameter> parameters;
     for (const ParameterDocumentation& parameter : document(entry.name, record)) {
-      parameters.push_back({parameter.type, parameter.name, parameter.defaultValue});
+      parameters.push_back({std::string(parameter.type), std::string(parameter.name), parameter.defaultValue});
       EXPECT_FALSE(parameter.description.empty());
     }
     ASSERT_NE(record, nullptr);
-    EXPECT_EQ(record->name(), entry.name);
-    EXPECT_EQ(record->category(), entry.category);
+    EXPECT_EQ(record->name, entry.name);
+    EXPECT_EQ(record->category, entry.category);
     EXPECT_EQ(parameters, entry.parameters);
   }
 }
 
 TEST(EntityEffectsDocumentation, DescriptionsAreThoseOfTheReference) {
   for (const Described& entry : DESCRIPTIONS) {
-    const DefaultEffect* record = nullptr;
+    const EffectEntry* record = nullptr;
     document(entry.name, record);
     ASSERT_NE(record, nullptr) << entry.name;
-    EXPECT_EQ(record->description(), entry.description) << entry.name;
+    EXPECT_EQ(record->description, entry.description) << entry.name;
   }
 }
 
 TEST(EntityEffectsDocumentation, ParameterDescriptionsAreThoseOfTheReference) {
   for (const ParametersDescribed& entry : PARAMETER_DESCRIPTIONS) {
-    const DefaultEffect* record = nullptr;
+    const EffectEntry* record = nullptr;
     std::vector<std::string> descriptions;
     for (const ParameterDocumentation& parameter : document(entry.name, record))
-      descriptions.push_back(parameter.description);
+      descriptions.emplace_back(parameter.description);
     EXPECT_EQ(descriptions, entry.descriptions) << entry.name;
   }
 }
 
 TEST(EntityEffectsDocumentation, TheTwoEntriesByNameAreUndescribed) {
   for (const char* name : {"GetAllEntitiesWithName", "RemoveAllEntitiesWithName"}) {
-    const DefaultEffect* record = nullptr;
+    const EffectEntry* record = nullptr;
     document(name, record);
     ASSERT_NE(record, nullptr);
-    EXPECT_EQ(record->description(), "");
+    EXPECT_EQ(record->description, "");
   }
 }
 

@@ -1,5 +1,5 @@
-#include "game_plugin/scenario/ScenarioConditions.h"
-#include "game_plugin/scenario/language/ParameterReaders.h"
+#include "game_plugin/scenario/tick/ScenarioConditions.h"
+#include "game_plugin/scenario/program/ParameterReader.h"
 
 #include <gtest/gtest.h>
 
@@ -74,11 +74,12 @@ const Described ENTRIES[] = {
 /// The record that documents a condition, and what its readers tell of the parameters.
 struct Documentation {
   explicit Documentation(const std::string& name) {
-    const DocumentationScope scope(parameters);
-    record = ScenarioConditions(nullptr).create({name});
+    record = ScenarioConditions::find(name);
     if (!record) throw std::invalid_argument(name);
+    ParameterReader in(parameters);
+    record->describe(in);
   }
-  const DefaultCondition* record;
+  const ConditionEntry* record;
   std::vector<ParameterDocumentation> parameters;
 };
 
@@ -86,10 +87,10 @@ class ConditionDocumentationTest : public testing::TestWithParam<Described> {};
 
 TEST_P(ConditionDocumentationTest, TellsCategoryNamesTypesAndDefaults) {
   const Documentation documentation(GetParam().name);
-  EXPECT_EQ(documentation.record->category(), GetParam().category);
+  EXPECT_EQ(documentation.record->category, GetParam().category);
   std::string described;
   for (const ParameterDocumentation& parameter : documentation.parameters)
-    described += parameter.type + " " + parameter.name + "=" + parameter.defaultValue + ";";
+    described += std::string(parameter.type) + " " + std::string(parameter.name) + "=" + parameter.defaultValue + ";";
   EXPECT_EQ(described, GetParam().parameters);
 }
 
@@ -105,7 +106,7 @@ TEST(ConditionDocumentation, DescriptionsKeepTheirTypingErrors) {
   EXPECT_EQ(Documentation("HasName").parameters[2].description, passed);
   EXPECT_EQ(Documentation("HasEquipment").parameters[2].description, passed + ".");
 
-  EXPECT_EQ(Documentation("HasName").record->description(),
+  EXPECT_EQ(Documentation("HasName").record->description,
             "True if at least one entity is a valid vehicle and belongs to the player");
   EXPECT_EQ(Documentation("OnMousePressed").parameters[0].description,
             "hich mouseButton should be used.<br>Right, Left");

@@ -1,9 +1,10 @@
 #include "game_plugin/scenario/language/Vocabulary.h"
 
 #include "em5/health/Injury.h"
-#include "host/em5/SessionFixture.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 using namespace script;
 
@@ -106,48 +107,23 @@ TEST(Vocabulary, DivisionIsAColonAndASlashAdds) {
     EXPECT_EQ(ToArithmeticOperator(text), ArithmeticOperator::Add) << text;
 }
 
-class UnitTypes : public SessionTest {
-protected:
-  void SetUp() override {
-    SessionTest::SetUp();
-    play();
-  }
-  std::uint64_t place(const char* componentId) {
-    qsf::Entity* entity = qsf::getMainMap().createEntity();
-    entity->getOrCreateComponentById("qsf::TransformComponent");
-    entity->getOrCreateComponentById("qsf::MetadataComponent");
-    if (componentId) entity->getOrCreateComponentById(componentId);
-    return entity->getId();
-  }
-};
-
-TEST_F(UnitTypes, ComponentsMakeTreesAndBuildings) {
-  const std::uint64_t tree = place("em5::TreeComponent");
-  const std::uint64_t house = place("em5::BuildingComponent");
-  EXPECT_TRUE(CheckUnitType(tree, "Tree"));
-  EXPECT_FALSE(CheckUnitType(tree, "Building"));
-  EXPECT_TRUE(CheckUnitType(house, "Building"));
-  EXPECT_FALSE(CheckUnitType(house, "Tree"));
-}
-
-TEST_F(UnitTypes, AMissingEntityIsOfNoKnownType) {
-  for (const char* type : {"PlayerVehicles", "PlayerPersons", "Civilian", "Tree", "Building", "ObjectBurning",
-                           "ObjectBurnable", "Gangster", "InjuredPersons"})
-    EXPECT_FALSE(CheckUnitType(987654, type)) << type;
-  EXPECT_FALSE(logged(2, "Unittype"));
-}
-
-TEST_F(UnitTypes, AnUnknownTypeIsLogged) {
-  EXPECT_FALSE(CheckUnitType(place(nullptr), "tree"));
-  EXPECT_TRUE(logged(2, "CheckUnitType: Unittype \"tree\" is not defined"));
-}
-
-TEST_F(UnitTypes, TheSearchTakesTheWholeMapWithoutItsCentre) {
-  const std::uint64_t tree = place("em5::TreeComponent");
-  place(nullptr);
-  EXPECT_EQ(findEntitiesOfUnitType("Tree", qsf::UNINITIALIZED_ID, 0), std::vector<std::uint64_t>{tree});
-  EXPECT_EQ(findEntitiesOfUnitType("Tree", tree, 1), std::vector<std::uint64_t>{tree});
-  EXPECT_TRUE(findEntitiesOfUnitType("Building", qsf::UNINITIALIZED_ID, 0).empty());
+TEST(Vocabulary, TheWordsOfATableAreThoseThatItConverts) {
+  EXPECT_EQ(planModeWords().size(), 4u);
+  for (std::size_t mode = 0; mode < planModeWords().size(); ++mode)
+    EXPECT_EQ(ToPlanMode(planModeWords()[mode]), static_cast<int>(mode));
+  EXPECT_EQ(minimapIconWords().size(), 59u);
+  for (std::size_t icon = 0; icon < minimapIconWords().size(); ++icon)
+    EXPECT_EQ(ToMinimapIcon(minimapIconWords()[icon]), static_cast<int>(icon));
+  EXPECT_EQ(statusIconWords().size(), 34u);
+  for (const std::string_view word : statusIconWords())
+    EXPECT_NE(ToStatusIcon(word), std::nullopt) << word;
+  for (const std::string_view word : injuryWords())
+    EXPECT_NE(ToInjury(word), std::nullopt) << word;
+  for (const std::string_view word : gangsterLogicWords())
+    EXPECT_EQ(ToGangsterLogic(word), word);
+  EXPECT_EQ(std::ranges::count(arithmeticWords(), std::string_view(":")), 1);
+  EXPECT_EQ(std::ranges::count(arithmeticWords(), std::string_view("+")), 1);
+  EXPECT_EQ(std::ranges::count(arithmeticWords(), std::string_view("/")), 0);
 }
 
 }

@@ -5,6 +5,7 @@
 #include "em5/component/CommandableComponent.h"
 #include "game_plugin/ModuleFixture.h"
 #include "qsf/log/FaultCounter.h"
+#include "tests/game_plugin/scenario/AllocationCounter.h"
 
 using namespace script;
 
@@ -65,7 +66,7 @@ TEST_F(MapScriptManagerTest, ATemporaryScriptStartsOncePerScriptOfAnotherPath) {
   manager().StartTemporaryScript(scriptPath("b"));
   ASSERT_EQ(manager().GetScriptEntries().size(), 3u);
   EXPECT_EQ(entry(2).globalNamePrefix, "");
-  EXPECT_EQ(entry(2).document->triggers[0].globalName, "/t");
+  EXPECT_EQ(entry(2).document->triggers[0].globalName(), "/t");
   EXPECT_EQ(count(2, "\tMapscriptManager: succesfully initialize new temproray Scenario " + scriptPath("b")), 1);
   manager().StartTemporaryScript("elsewhere");
   EXPECT_EQ(manager().GetScriptEntries().size(), 6u);
@@ -185,6 +186,64 @@ TEST_F(MapScriptManagerTest, GlobalVariablesEndWithTheManager) {
   EXPECT_EQ(manager().GetGlobalStores()->variables.size(), 1u);
   MapScriptManager::Replace(false);
   EXPECT_EQ(manager().GetGlobalStores()->variables.size(), 0u);
+}
+
+TEST_F(MapScriptManagerTest, InstancesOfAScriptShareItsProgram) {
+  addScript("a", "MAP_STARTUP", COUNTING);
+  addScript("b", "MAP_STARTUP", COUNTING);
+  start();
+  manager().StartTemporaryScript(scriptPath("b"));
+  manager().StartTemporaryScript(scriptPath("b"));
+  ASSERT_EQ(manager().GetScriptEntries().size(), 4u);
+  EXPECT_NE(entry(2).document, entry(3).document);
+  EXPECT_EQ(entry(2).document->program, entry(3).document->program);
+  EXPECT_NE(entry(2).document->program, entry(1).document->program) << "the names of its triggers are others";
+  run(0.1);
+  EXPECT_EQ(entry(2).handler->ResolveFloat(std::string("n")), 2);
+  const std::weak_ptr<const Program> program = entry(2).document->program;
+  while (manager().GetScriptEntries().size() > 2)
+    manager().StopScript(manager().GetScriptEntries().back()->path);
+  EXPECT_TRUE(program.expired());
+}
+
+TEST_F(MapScriptManagerTest, AScriptThatHasChangedIsReadAnewByTheNextInstance) {
+  addScript("a", "MAP_STARTUP", "");
+  start();
+  write("mod", "x64/tidemark/temporary.script", "InitNewTrigger(\"old\");");
+  manager().StartTemporaryScript(scriptPath("temporary"));
+  write("mod", "x64/tidemark/temporary.script", "InitNewTrigger(\"new\");");
+  manager().StartTemporaryScript(scriptPath("temporary"));
+  EXPECT_EQ(entry(1).document->triggers[0].name(), "old");
+  EXPECT_EQ(entry(2).document->triggers[0].name(), "new");
+}
+
+TEST_F(MapScriptManagerTest, AHundredThousandStartsAndStopsLeaveNothingBehind) {
+  addScript("a", "MAP_STARTUP", "");
+  start();
+  std::string text;
+  for (int trigger = 0; trigger < 10; ++trigger)
+    text += "InitNewTrigger(\"a trigger whose name is long " + std::to_string(trigger) +
+            "\",true,true);\nInitConditions();\nCompareValues(\"counter\",\">=\",\"0\");\nOnMousePressed(\"Left\");\n"
+            "InitEffects();\nSetVariable(\"a variable whose name is long\",\"1\");\nNoSuch();\n";
+  write("mod", "x64/tidemark/temporary.script", text);
+  const std::string path = scriptPath("temporary");
+  // As many as a frame allows; the last of them runs for a frame.
+  const auto startAndStop = [&] {
+    for (std::size_t i = 0; i < MapScriptManager::MAXIMUM_SCRIPTS; ++i) {
+      manager().StartTemporaryScript(path);
+      if (i + 1 < MapScriptManager::MAXIMUM_SCRIPTS) manager().StopScript(path);
+    }
+    run(0.05);
+    manager().StopScript(path);
+    log.clear();
+  };
+  for (int i = 0; i < 2; ++i)
+    startAndStop();
+  const std::size_t before = getLiveBytes();
+  for (int i = 0; i < 50; ++i)
+    startAndStop();
+  EXPECT_LT(getLiveBytes(), before + 50'000) << "less than a byte a start";
+  EXPECT_EQ(manager().GetScriptEntries().size(), 1u);
 }
 
 class PreCommandCheckTest : public ModuleTest {

@@ -1,0 +1,20 @@
+#include "game_plugin/scenario/world/LocalPlayer.h"
+
+#include "em5/game/Game.h"
+
+namespace script {
+
+bool hasLocalPlayer() { return static_cast<bool>(qsf::UniqueInstance<em5::Game>()); }
+
+bool isLocalPlayerClient() {
+  const qsf::UniqueInstance<em5::Game> game;
+  return game && game->getPlayerManager()->getLocalPlayer()->getPlayerIndex() != 0;
+}
+
+bool sendTriggerToHost(std::uint32_t /*triggerHash*/, const std::vector<std::uint64_t>& /*callers*/,
+                       std::uint64_t /*target*/) {
+  // The module registers its message handler with a session; there is none in single player.
+  return false;
+}
+
+}

@@ -1,0 +1,110 @@
+#include "game_plugin/syntax/ScriptText.h"
+
+#include <utf8cpp/utf8.h>
+
+#include <algorithm>
+
+namespace script::syntax {
+
+namespace {
+
+constexpr std::string_view BYTE_ORDER_MARK = "\xEF\xBB\xBF";
+constexpr std::string_view BLANKS = " \t\n\v\f\r";
+
+bool isDecoration(char c) { return c == '\t' || c == '{' || c == '}'; }
+
+}
+
+std::uint32_t Line::columnOf(std::uint32_t offset) const {
+  if (text.size() == raw.size()) return offset + 1;
+  std::uint32_t column = 1;
+  for (const char c : raw) {
+    if (!isDecoration(c) && offset-- == 0) break;
+    ++column;
+  }
+  return column;
+}
+
+ScriptText::ScriptText(std::string_view text) : mRest(text) {
+  if (mRest.substr(0, BYTE_ORDER_MARK.size()) == BYTE_ORDER_MARK) mRest.remove_prefix(BYTE_ORDER_MARK.size());
+}
+
+bool ScriptText::isMultiByteUtf8(std::string_view text) {
+  const bool hasMultiByte = std::ranges::any_of(text, [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
+  return hasMultiByte && utf8::is_valid(text.begin(), text.end());
+}
+
+bool ScriptText::next() {
+  if (mRest.empty()) return false;
+  const std::size_t end = mRest.find('\n');
+  mLine.raw = mRest.substr(0, end);
+  mRest.remove_prefix(end == std::string_view::npos ? mRest.size() : end + 1);
+  if (!mLine.raw.empty() && mLine.raw.back() == '\r') mLine.raw.remove_suffix(1);
+  ++mLine.number;
+  mLine.kind = LineKind::Empty;
+  mLine.negated = false;
+  mLine.tokens.clear();
+  clean();
+  if (mLine.kind != LineKind::Comment && !mLine.text.empty()) classify();
+  // Read last, since keywords change where the line stands.
+  mLine.inBlock = mInBlock;
+  mLine.inElse = mInElse;
+  return true;
+}
+
+void ScriptText::clean() {
+  mLine.text = mLine.raw;
+  if (mLine.raw.find_first_of("\t{}$") == std::string_view::npos) return;
+  if (mLine.raw.find('$') != std::string_view::npos) {
+    mLine.kind = LineKind::Comment;
+    mLine.text = {};
+    return;
+  }
+  mClean.clear();
+  for (const char c : mLine.raw)
+    if (!isDecoration(c)) mClean.push_back(c);
+  mLine.text = mClean;
+}
+
+void ScriptText::classify() {
+  if (!tokenizeFast(mLine.text, mLine.tokens) && !tokenizeByGrammar(mLine.text, mLine.tokens, mStorage)) {
+    mLine.tokens.clear();
+    if (mLine.text.find_first_not_of(BLANKS) != std::string_view::npos) mLine.kind = LineKind::Invalid;
+    return;
+  }
+  Token& first = mLine.tokens.front();
+  mLine.negated = first.text.front() == '!';
+  if (mLine.negated) {
+    first.text.remove_prefix(1);
+    ++first.begin;
+  }
+  const std::string_view name = first.text;
+  if (name == "InitNewTrigger") {
+    mLine.kind = LineKind::NewTrigger;
+    mInBlock = false; // the section stays: only the first trigger of a file begins in its conditions
+  } else if (name == "InitConditions") {
+    mLine.kind = LineKind::Conditions;
+    mReadingConditions = true;
+  } else if (name == "InitEffects" || name == "InitNegativEffects") {
+    // Negative effects are effects like the others: that is how they have always run.
+    mLine.kind = LineKind::Effects;
+    mReadingConditions = false;
+  } else if (name == "If") {
+    mLine.kind = LineKind::If;
+    mInBlock = mReadingConditions = true;
+    mInElse = false;
+  } else if (name == "Else") {
+    mLine.kind = LineKind::Else;
+    mInElse = true;
+  } else if (mInBlock && name == "Then") {
+    mLine.kind = LineKind::Then;
+    mReadingConditions = false;
+  } else if (mInBlock && name == "ThenEnd") {
+    mLine.kind = LineKind::ThenEnd;
+    mInBlock = mReadingConditions = false;
+  } else {
+    mLine.kind = mReadingConditions ? LineKind::Condition : LineKind::Effect;
+  }
+}
+
+}
