@@ -15,11 +15,12 @@ namespace tidemark {
 // All commands, in the order of the help.
 Subcommand runCommand();
 Subcommand testCommand();
+Subcommand catalogueCommand();
 Subcommand singleTestCommand();
 
 namespace {
 
-constexpr Subcommand (*SUBCOMMANDS[])() = {runCommand, testCommand, singleTestCommand};
+constexpr Subcommand (*SUBCOMMANDS[])() = {runCommand, testCommand, catalogueCommand, singleTestCommand};
 
 int fail(const std::string& command, const std::exception& fault, ExitCode code) {
   fmt::print(stderr, "tidemark {}: {}\n", command, fault.what());

@@ -10,6 +10,7 @@
 
 #include <cerrno>
 #include <filesystem>
+#include <stdexcept>
 #include <system_error>
 
 namespace tidemark::platform {
@@ -38,6 +39,14 @@ void noteInterrupt(int) { interrupted = 1; }
 }
 
 std::string executablePath() { return std::filesystem::read_symlink("/proc/self/exe").string(); }
+
+void* loadLibrary(const std::string& library) {
+  void* handle = ::dlopen(library.c_str(), RTLD_NOW);
+  if (!handle) throw std::runtime_error(::dlerror());
+  return handle;
+}
+
+void unloadLibrary(void* handle) { ::dlclose(handle); }
 
 void* findSymbol(const std::string& library, const std::string& symbol) {
   void* handle = ::dlopen(library.c_str(), RTLD_NOW | RTLD_NOLOAD);

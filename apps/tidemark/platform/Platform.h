@@ -9,6 +9,10 @@ namespace tidemark::platform {
 
 /// Absolute path of the running program.
 std::string executablePath();
+/// Loads a library. Throws std::runtime_error with the system's words.
+void* loadLibrary(const std::string& library);
+/// Gives it back. What it handed out is of no more use.
+void unloadLibrary(void* handle);
 /// A symbol of a library that is loaded; null if the library isn't loaded or lacks it.
 void* findSymbol(const std::string& library, const std::string& symbol);
 /// A new, empty folder for temporary files that nobody else uses. Throws std::system_error.

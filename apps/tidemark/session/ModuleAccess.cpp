@@ -9,7 +9,9 @@
 
 namespace tidemark {
 
-script::tooling::Tooling& findTooling() {
+namespace {
+
+script::tooling::Tooling& askForTooling() {
   const auto function = reinterpret_cast<script::tooling::GetToolingFunction>(
       platform::findSymbol(modulePath(), script::tooling::GET_TOOLING_SYMBOL));
   script::tooling::Tooling* tooling = function ? function() : nullptr;
@@ -17,5 +19,20 @@ script::tooling::Tooling& findTooling() {
     throw std::runtime_error(fmt::format("{} offers no {}", modulePath(), script::tooling::GET_TOOLING_SYMBOL));
   return *tooling;
 }
+
+}
+
+script::tooling::Tooling& findTooling() { return askForTooling(); }
+
+LoadedModule::LoadedModule() : mLibrary(platform::loadLibrary(modulePath())), mTooling(nullptr) {
+  try {
+    mTooling = &askForTooling();
+  } catch (...) {
+    platform::unloadLibrary(mLibrary);
+    throw;
+  }
+}
+
+LoadedModule::~LoadedModule() { platform::unloadLibrary(mLibrary); }
 
 }

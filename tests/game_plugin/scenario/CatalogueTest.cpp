@@ -1,7 +1,6 @@
 #include "game_plugin/scenario/program/ParameterReader.h"
 #include "game_plugin/scenario/tick/ScenarioConditions.h"
 #include "game_plugin/scenario/tick/ScenarioEffects.h"
-#include "tests/game_plugin/scenario/LogCapture.h"
 
 #include <gtest/gtest.h>
 
@@ -77,7 +76,7 @@ TEST(Catalogue, GroupsAreAskedInTheirOrder) {
             (Names{"ScenarioConditions_Brill", "ScenarioConditions_Tarn", "ScenarioConditions_Event",
                    "ComponentsAndVariablesConditions", "MPConditions", "GamepadConditions"}));
   EXPECT_EQ(groupNames(ScenarioEffects::groups()),
-            (Names{"OwnEffects", "ScenarioEffects_Brill", "ScenarioEffects_Tarn", "ScenarioEffects_Event",
+            (Names{"", "ScenarioEffects_Brill", "ScenarioEffects_Tarn", "ScenarioEffects_Event",
                    "ComponentsAndVariablesEffects", "ScenarioEffects_Gui", "MPEffects", "PositionAndRotationEffects",
                    "GamepadEffects", "ScenarioEffects_Editor"}));
 }

@@ -1,9 +1,3 @@
-#include "../AllocationCounter.h"
-#include "../LogCapture.h"
-#include "game_plugin/scenario/shared/components/ComponentProperty.h"
-#include "game_plugin/scenario/shared/parameters/PressEdge.h"
-#include "game_plugin/scenario/tick/ScenarioHandler.h"
-
 #include "em5/component/DoorComponent.h"
 #include "em5/component/VehicleComponent.h"
 #include "qsf/action/ActionComponent.h"

@@ -173,8 +173,8 @@ TEST(Hints, TheNearestNameIsOneThatComesClose) {
   const std::vector<std::string> names{"Position", "Rotation", "Scale"};
   EXPECT_EQ(hints::nearest("Positon", names), "Position");
   EXPECT_EQ(hints::nearest("Weather", names), "");
-  static constexpr std::string_view WORDS[] = {"true", "false"};
-  EXPECT_EQ(hints::nearest("treu", WORDS), "true");
+  static constexpr std::string_view WORDS[] = {"DOOR_OPEN", "DOOR_CLOSED"};
+  EXPECT_EQ(hints::nearest("DOOR_CLOESD", WORDS), "DOOR_CLOSED");
 }
 
 }

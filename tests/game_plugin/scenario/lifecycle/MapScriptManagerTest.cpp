@@ -201,8 +201,8 @@ TEST_F(MapScriptManagerTest, InstancesOfAScriptShareItsProgram) {
   run(0.1);
   EXPECT_EQ(entry(2).handler->ResolveFloat(std::string("n")), 2);
   const std::weak_ptr<const Program> program = entry(2).document->program;
-  while (manager().GetScriptEntries().size() > 2)
-    manager().StopScript(manager().GetScriptEntries().back()->path);
+  while (manager().GetScriptEntries().size() > 1)
+    manager().StopScript(scriptPath("b"));
   EXPECT_TRUE(program.expired());
 }
 

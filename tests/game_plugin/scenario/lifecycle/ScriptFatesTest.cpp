@@ -108,7 +108,7 @@ TEST_F(ScriptFatesTest, AConfigurationThatCantBeReadIsNamed) {
   addScript("main", "MAP_STARTUP", "");
   loadList("{\"MapScripts\": {");
   ASSERT_EQ(GetTidemarkTooling()->getUnreadableConfigurations().size(), 1u);
-  const std::string& message = GetTidemarkTooling()->getUnreadableConfigurations()[0];
+  const std::string message = GetTidemarkTooling()->getUnreadableConfigurations()[0];
   EXPECT_NE(message.find("/mod/x64/tidemark/MapScript.json"), std::string::npos) << message;
   EXPECT_EQ(count(4, message), 1);
   EXPECT_TRUE(fates().empty());
