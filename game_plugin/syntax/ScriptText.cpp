@@ -3,6 +3,7 @@
 #include <utf8cpp/utf8.h>
 
 #include <algorithm>
+#include <array>
 
 namespace script::syntax {
 
@@ -12,6 +13,19 @@ constexpr std::string_view BYTE_ORDER_MARK = "\xEF\xBB\xBF";
 constexpr std::string_view BLANKS = " \t\n\v\f\r";
 
 bool isDecoration(char c) { return c == '\t' || c == '{' || c == '}'; }
+
+constexpr std::array<bool, 256> buildSpecials() {
+  std::array<bool, 256> specials{};
+  for (const char c : {'\t', '{', '}', '$'})
+    specials[static_cast<unsigned char>(c)] = true;
+  return specials;
+}
+constexpr std::array<bool, 256> SPECIALS = buildSpecials();
+
+/// Whether a line is more than its text: find_first_of would ask the set anew for each character.
+bool holdsSpecials(std::string_view line) {
+  return std::ranges::any_of(line, [](char c) { return SPECIALS[static_cast<unsigned char>(c)]; });
+}
 
 }
 
@@ -54,7 +68,7 @@ bool ScriptText::next() {
 
 void ScriptText::clean() {
   mLine.text = mLine.raw;
-  if (mLine.raw.find_first_of("\t{}$") == std::string_view::npos) return;
+  if (!holdsSpecials(mLine.raw)) return;
   if (mLine.raw.find('$') != std::string_view::npos) {
     mLine.kind = LineKind::Comment;
     mLine.text = {};

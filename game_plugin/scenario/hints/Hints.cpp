@@ -4,6 +4,7 @@
 
 #include "qsf/base/NearNames.h"
 
+#include <algorithm>
 #include <map>
 #include <optional>
 #include <tuple>
@@ -77,7 +78,7 @@ bool noteRead(const void* store, std::string_view kind, std::string_view name) {
       add(HintKind::Name, "the " + std::string(kind) + " \"" + key.name + "\" is read, but nobody has written it", {});
   if (!index) return true;
   std::vector<std::size_t>& reads = ledger().reads[std::move(key)];
-  if (reads.empty() || reads.back() != *index) reads.push_back(*index);
+  if (std::ranges::find(reads, *index) == reads.end()) reads.push_back(*index);
   return true;
 }
 

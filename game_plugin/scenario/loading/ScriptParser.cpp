@@ -74,16 +74,16 @@ private:
     const std::string_view name = in.raw(1, "Trigger_1", "TriggerName", "");
     mTrigger->globalName = mBuilder.memory().store(mPrefix, "/", name);
     mTrigger->name = mTrigger->globalName.substr(mPrefix.size() + 1);
+    mTrigger->line = line.number;
+    mBuilder.addTrigger(*mTrigger); // already: what the further words have wrong is this trigger's
     mTrigger->initialActive = in.flag(2, true, "Active", "");
     mTrigger->initialLooped = in.flag(3, false, "Looped", "");
     mTrigger->multiplayerMode =
         toMultiplayerMode(in.words(4, MULTIPLAYER_MODES[0], "MultiplayerMode", "", MULTIPLAYER_MODES));
-    mTrigger->line = line.number;
     const qsf::StringHash hash(mTrigger->globalName);
     mTrigger->globalNameHash = hash.getHash();
     if (const qsf::Qsf* host = qsf::Qsf::instance())
       host->getStringHashManager().registerStringHash(hash, std::string(mTrigger->globalName));
-    mBuilder.addTrigger(*mTrigger);
   }
 
   /// Gives the last trigger what its lines have made. Until then they are collected here, so that the lists take no

@@ -37,6 +37,11 @@ public:
   T& value(std::size_t index) { return mValues[index]; }
   const T& value(std::size_t index) const { return mValues[index]; }
   std::uint32_t epoch() const { return mEpoch; }
+  /// The name as this store spells it.
+  std::string spell(std::string_view name) const {
+    std::string buffer;
+    return std::string(mMarks == StoreMarks::One ? detail::withOneMark(name, buffer) : name);
+  }
 
   std::size_t find(std::string_view written) const {
     std::string buffer;

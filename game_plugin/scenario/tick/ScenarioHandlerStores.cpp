@@ -32,6 +32,12 @@ constexpr std::string_view KIND = std::is_same_v<Value, float>         ? "variab
                                   : std::is_same_v<Value, std::string> ? "string variable"
                                                                        : "list";
 
+template <class Value> std::size_t writeByName(Store<Value>& store, const std::string& name) {
+  const std::size_t found = store.findOrAppend(name);
+  if (hints::isOn()) hints::noteWritten(&store, store.name(found));
+  return found;
+}
+
 template <class Value> std::size_t readByName(Store<Value>& store, const std::string& name) {
   const std::size_t found = store.findOrAppend(name);
   if (hints::isOn()) hints::noteRead(&store, KIND<Value>, store.name(found));
@@ -134,14 +140,12 @@ void ScenarioHandler::SearchAndSetFloat(const ArgumentText& name, float value) {
 
 void ScenarioHandler::SetFloatVariable(const std::string& name, float value) {
   Store<float>& store = VariablesOf(isGlobalName(name));
-  store.value(store.findOrAppend(name)) = value;
-  if (hints::isOn()) hints::noteWritten(&store, name);
+  store.value(writeByName(store, name)) = value;
 }
 
 void ScenarioHandler::SetStringVariable(const std::string& name, const std::string& value) {
   Store<std::string>& store = StringVariablesOf(isGlobalName(name));
-  store.value(store.findOrAppend(name)) = value;
-  if (hints::isOn()) hints::noteWritten(&store, name);
+  store.value(writeByName(store, name)) = value;
 }
 
 void ScenarioHandler::AddToEntityList(const Argument& name, std::uint64_t id) {
@@ -151,8 +155,7 @@ void ScenarioHandler::AddToEntityList(const Argument& name, std::uint64_t id) {
 
 void ScenarioHandler::AddToEntityList(const std::string& name, std::uint64_t id) {
   Store<EntityList>& store = EntityListsOf(isGlobalName(name));
-  store.value(store.findOrAppend(name)).add(id);
-  if (hints::isOn()) hints::noteWritten(&store, name);
+  store.value(writeByName(store, name)).add(id);
 }
 
 void ScenarioHandler::RemoveFromEntityList(const std::string& name, std::uint64_t id) {
@@ -181,7 +184,7 @@ void ScenarioHandler::ClearEntityList(const std::string& name, bool removeList) 
   const std::size_t index = store.find(name);
   if (!removeList) {
     if (index != store.NOT_FOUND) store.value(index).clear();
-    if (hints::isOn()) hints::noteWritten(&store, name); // a list that is emptied is meant to be there
+    if (hints::isOn()) hints::noteWritten(&store, store.spell(name)); // a list that is emptied is meant to be there
     return;
   }
   if (&store != &entityLists && index != store.NOT_FOUND) {

@@ -88,7 +88,8 @@ protected:
         conditions.emplace_back(entry->name);
     for (const EffectGroup* group : ScenarioEffects::groups())
       for (const EffectEntry* entry : group->chain)
-        if (entry->kind != EffectKind::Return) effects.emplace_back(entry->name);
+        if (entry->kind == EffectKind::Ordinary || entry->kind == EffectKind::PrintTriggerInfo)
+          effects.emplace_back(entry->name);
     std::string text;
     for (int trigger = 0; trigger < 40; ++trigger) {
       text += "InitNewTrigger(\"T" + std::to_string(trigger) + "\",true,true);\nInitConditions(1);\n";

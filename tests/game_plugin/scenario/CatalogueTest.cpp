@@ -54,8 +54,7 @@ void expectOneFileEach(const std::vector<std::string>& listed, const std::multim
 }
 
 TEST(Catalogue, EachConditionHasItsLineAndItsFile) {
-  expectOneFileEach(namesOf(ScenarioConditions::groups()),
-                    entriesInSources("condition", {"CONDITION"}));
+  expectOneFileEach(namesOf(ScenarioConditions::groups()), entriesInSources("condition", {"CONDITION"}));
 }
 
 TEST(Catalogue, EachEffectHasItsLineAndItsFile) {
@@ -135,8 +134,10 @@ TEST(Catalogue, ParametersHaveNamesButForThreeThatNeverHad) {
   std::vector<std::string> unnamed;
   for (const Parameters& parameters : describeAll())
     for (const ParameterDocumentation& parameter : parameters.all)
-      if (parameter.name.empty()) unnamed.push_back(std::string(parameters.entry) + " " + std::to_string(parameter.index));
-  EXPECT_EQ(unnamed, (std::vector<std::string>{"ShowDebuggingGui 1", "UseConditionalBlock 1", "UseConditionalBlock 2"}));
+      if (parameter.name.empty())
+        unnamed.push_back(std::string(parameters.entry) + " " + std::to_string(parameter.index));
+  EXPECT_EQ(unnamed,
+            (std::vector<std::string>{"ShowDebuggingGui 1", "UseConditionalBlock 1", "UseConditionalBlock 2"}));
 }
 
 TEST(Catalogue, ParametersStandSideBySideFromTheFirstPlaceOn) {

@@ -98,8 +98,8 @@ TEST(Reference, IsTheOneThatAuthorsKnow) {
     if (!expectedLine.empty() && expectedLine.front() != ' ') entry = expectedLine;
     if (goesOn && foundGoesOn && expectedLine == foundLine) continue;
     FAIL() << "the reference differs at line " << number << " of " << GOLDEN << ", " << entry
-           << "\n  expected: " << (goesOn ? expectedLine : "the end") << "\n  found:    "
-           << (foundGoesOn ? foundLine : "the end");
+           << "\n  expected: " << (goesOn ? expectedLine : "the end")
+           << "\n  found:    " << (foundGoesOn ? foundLine : "the end");
   }
 }
 

@@ -1,3 +1,5 @@
+#include "game_plugin/scenario/shared/components/ComponentProperty.h"
+
 #include "em5/component/DoorComponent.h"
 #include "em5/component/VehicleComponent.h"
 #include "qsf/action/ActionComponent.h"
@@ -56,13 +58,26 @@ TEST_F(ConditionsTest, SelectionConditionsFailWithoutAGame) {
   EXPECT_EQ(handler->entityLists.size(), 0u);
 }
 
-TEST_F(ConditionsTest, AFailedAccessFailsItsEntityAndTheWalkGoesOn) {
+TEST_F(ConditionsTest, AFailedAccessIsRememberedAndTheWalkGoesOn) {
   addEntity<>(100).getComponent<qsf::MetadataComponent>()->setName("seven");
   addEntity<>(101).getComponent<qsf::MetadataComponent>()->setName("7");
-  EXPECT_TRUE(
-      test({"CompareComponentPropertyToFloatVariable", "100 101", "qsf::MetadataComponent", "Name", "==", "7", "out"}));
+  const auto* compare = static_cast<const ComponentPropertyCondition*>(runner.makeCondition(
+      {"CompareComponentPropertyToFloatVariable", "100 101", "qsf::MetadataComponent", "Name", "==", "7", "out"}));
+  ASSERT_NE(compare, nullptr);
+  EXPECT_FALSE(handler->stateOf(compare->failureSeen));
+  EXPECT_TRUE(runner.test(*compare));
+  EXPECT_TRUE(handler->stateOf(compare->failureSeen));
   EXPECT_EQ(list("out"), std::vector<std::uint64_t>{101});
   EXPECT_TRUE(host.lines.empty());
+}
+
+TEST_F(ConditionsTest, ATestThatFailsIsNoFailedAccess) {
+  addEntity<>(100).getComponent<qsf::MetadataComponent>()->setName("seven");
+  const auto* match = static_cast<const ComponentPropertyCondition*>(
+      runner.makeCondition({"ComponentPropertyMatchsString", "100", "qsf::MetadataComponent", "Name", "eight", "out"}));
+  ASSERT_NE(match, nullptr);
+  EXPECT_FALSE(runner.test(*match));
+  EXPECT_FALSE(handler->stateOf(match->failureSeen));
 }
 
 TEST_F(ConditionsTest, OnMousePressedRefusesATextThatEveryButtonHolds) {
@@ -108,8 +123,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Words{"HasName", "units", "em5/prefab/test/tree", "out"},
                     Words{"HasEquipment", "units", "axe", "with", "without"},
                     Words{"CurrentActionPriorityMaximum", "areas", "out", "5"},
-                    Words{"EntityListHasSize", "units", "<", "9"},
-                    Words{"IsUnitInSensorArea", "areas", "units", "out"},
+                    Words{"EntityListHasSize", "units", "<", "9"}, Words{"IsUnitInSensorArea", "areas", "units", "out"},
                     Words{"IsAnyEntityInSensorArea", "areas", "em5::PersonComponent", "out"},
                     Words{"DoorHasState", "units", "out", "DOOR_OPENING"}, Words{"IsOpenHouse", "units", "out"},
                     Words{"EntityHasComponent", "units", "em5::PersonComponent", "out"},

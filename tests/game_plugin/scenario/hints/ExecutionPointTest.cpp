@@ -39,10 +39,9 @@ protected:
   void listen() {
     session->getQsf().getLogSystem().addListener([this](const qsf::LogSystem::Record& record) {
       const auto origin = GetTidemarkTooling()->getOrigin();
-      mOrigins.emplace_back(record.message,
-                            origin ? origin->path.substr(origin->path.rfind('/') + 1) + ":" +
-                                         std::to_string(origin->line) + " " + origin->trigger
-                                   : "nowhere");
+      mOrigins.emplace_back(record.message, origin ? origin->path.substr(origin->path.rfind('/') + 1) + ":" +
+                                                         std::to_string(origin->line) + " " + origin->trigger
+                                                   : "nowhere");
     });
   }
   /// Where the messages of that text came from, in order.
@@ -94,7 +93,7 @@ TEST_F(OriginTest, MessagesOfALoadAreOfTheirLines) {
   listen();
   GetTidemarkTooling()->reload();
   EXPECT_EQ(originsOf("Command is invalid: no command"), Origins{"main.script:1 "});
-  EXPECT_EQ(originsOf("Boolvalue: Active cant be read.|maybe|"), Origins{"main.script:2 "});
+  EXPECT_EQ(originsOf("Boolvalue: Active cant be read.|maybe|"), Origins{"main.script:2 t"});
   EXPECT_EQ(originsOf("[MS] Error: Condition NoSuch was not found"), Origins{"main.script:3 t"});
   EXPECT_EQ(originsOf("The script \"" + scriptPath("fault") +
                       "\" can't be used, line 2: invalid vector<T> subscript (the line stands before the first "
@@ -105,11 +104,14 @@ TEST_F(OriginTest, MessagesOfALoadAreOfTheirLines) {
 
 /// The script that starts another is at work again once that has been read.
 TEST_F(OriginTest, ALoadInsideAnEffectIsTheOtherScripts) {
-  write("mod", "x64/tidemark/other.script", "InitNewTrigger(\"o\",true,false);\nno command\nInitEffects();\nDoLogEntry(\"INFO\",\"other\");");
+  write("mod", "x64/tidemark/other.script",
+        "InitNewTrigger(\"o\",true,false);\nno command\nInitEffects();\nDoLogEntry(\"INFO\",\"other\");");
   const std::string other = folder() + "/mod/x64/tidemark/other.script";
   addScript("main", "MAP_STARTUP",
-            "InitNewTrigger(\"t\",true,false);\nInitEffects();\nStartScenario(\"" + other + "\");\nDoLogEntry(\"INFO\",\"behind\");\n"
-            "StartScenario(\"" + other + "\");");
+            "InitNewTrigger(\"t\",true,false);\nInitEffects();\nStartScenario(\"" + other +
+                "\");\nDoLogEntry(\"INFO\",\"behind\");\n"
+                "StartScenario(\"" +
+                other + "\");");
   start();
   listen();
   run(0.1);

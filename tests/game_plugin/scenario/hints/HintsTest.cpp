@@ -38,9 +38,10 @@ protected:
 };
 
 TEST_F(HintsTest, AWordThatAnEntryDoesNotKnowIsToldWithTheNearestOne) {
-  parseDocument("InitNewTrigger(\"t\",true,true,\"MP_GUI_Sinc\");\nDoorHasState(\"l\",\"out\",\"DOOR_OPNE\");\n"
-                "DoorHasState(\"l\",\"out\",\"DOOR_OPEN\");\nDoorHasState(\"l\",\"out\",svar(state));\nDoorHasState();");
-  EXPECT_EQ(told(), (Words{"1 : \"MP_GUI_Sinc\" is no word that MultiplayerMode knows (MP_GUI_Sync) 1",
+  parseDocument(
+      "InitNewTrigger(\"t\",true,true,\"MP_GUI_Sinc\");\nDoorHasState(\"l\",\"out\",\"DOOR_OPNE\");\n"
+      "DoorHasState(\"l\",\"out\",\"DOOR_OPEN\");\nDoorHasState(\"l\",\"out\",svar(state));\nDoorHasState();");
+  EXPECT_EQ(told(), (Words{"1 t: \"MP_GUI_Sinc\" is no word that MultiplayerMode knows (MP_GUI_Sync) 1",
                            "2 t: \"DOOR_OPNE\" is no word that Door_State knows (DOOR_OPEN) 1"}));
   EXPECT_EQ(kinds(), (std::vector{HintKind::Word, HintKind::Word}));
   EXPECT_EQ(hints::all()[0].path, "file.script");
@@ -48,12 +49,13 @@ TEST_F(HintsTest, AWordThatAnEntryDoesNotKnowIsToldWithTheNearestOne) {
 
 TEST_F(HintsTest, AFlagThatIsNeitherTrueNorFalseIsTold) {
   parseDocument("InitNewTrigger(\"t\",TRUE);");
-  EXPECT_EQ(told(), Words{"1 : \"TRUE\" is neither true nor false; true is used for Active () 1"});
+  EXPECT_EQ(told(), Words{"1 t: \"TRUE\" is neither true nor false; true is used for Active () 1"});
   EXPECT_EQ(kinds(), std::vector{HintKind::Word});
 }
 
 TEST_F(HintsTest, AnOperatorThatMeansLessThanIsTold) {
-  parseDocument("InitNewTrigger(\"t\");\nCompareValues(\"1\",\"=\",\"2\");\nCompareValues(\"1\",\"<\",\"2\");\nCompareValues();");
+  parseDocument(
+      "InitNewTrigger(\"t\");\nCompareValues(\"1\",\"=\",\"2\");\nCompareValues(\"1\",\"<\",\"2\");\nCompareValues();");
   ASSERT_EQ(hints::all().size(), 1u);
   EXPECT_EQ(kinds(), std::vector{HintKind::Operator});
   EXPECT_EQ(hints::all()[0].text, "\"=\" is no operator and means <");
@@ -84,7 +86,8 @@ TEST_F(HintsTest, EachKindOfStoreIsCalledByItsName) {
 }
 
 TEST_F(HintsTest, ANameThatIsWrittenLaterIsNoHint) {
-  Script script("InitNewTrigger(\"t\",true,true);\nInitConditions(1);\nCompareValues(\"v\",\"==\",\"1\");\nCompareValues(\"v\",\"<\",\"1\");\n"
+  Script script("InitNewTrigger(\"t\",true,true);\nInitConditions(1);\nCompareValues(\"v\",\"==\",\"1\");"
+                "\nCompareValues(\"v\",\"<\",\"1\");\n"
                 "InitEffects();\nSetVariable(\"v\",\"1\");\n");
   script.tick();
   EXPECT_EQ(told(), Words());
@@ -93,7 +96,8 @@ TEST_F(HintsTest, ANameThatIsWrittenLaterIsNoHint) {
 }
 
 TEST_F(HintsTest, ANameThatIsWrittenFirstIsNoHint) {
-  Script script("InitNewTrigger(\"t\",true,true);\nInitEffects();\nSetVariable(\"v\",\"1\");\nSetStringVariableToValue(\"s\",\"a\");\n"
+  Script script("InitNewTrigger(\"t\",true,true);\nInitEffects();\nSetVariable(\"v\",\"1\");\nSetStringVariableToValue("
+                "\"s\",\"a\");\n"
                 "ClearEntityIdList(\"l\");\nVariableModify(\"v\",\"+\",\"1\",\"v\");\nDoLogEntry(\"INFO\",svar(s));\n"
                 "GetSizeOfEntityList(\"l\",\"v\");\n");
   script.tick(2);
@@ -110,9 +114,17 @@ TEST_F(HintsTest, AGlobalNameThatAnotherScriptWritesIsNoHint) {
 }
 
 TEST_F(HintsTest, AGlobalNameIsWrittenInEitherEncodingOfItsMark) {
-  Script script("InitNewTrigger(\"t\",true,false);\nInitConditions(0);\nCompareValues(\"\xA7v\",\"==\",\"0\");\nEntityListHasSize(\"\xA7l\",\"<\",\"1\");\n"
+  Script script("InitNewTrigger(\"t\",true,false);\nInitConditions(0);\nCompareValues(\"\xA7v\",\"==\",\"0\");"
+                "\nEntityListHasSize(\"\xA7l\",\"<\",\"1\");\n"
                 "InitEffects();\nDoLogEntry(\"INFO\",svar(\xA7s));\nSetVariable(\"\xA7v\",\"1\");\n"
                 "SetStringVariableToValue(\"\xA7s\",\"1\");\nClearEntityIdList(\"\xA7l\");\n");
+  script.tick();
+  EXPECT_EQ(told(), Words());
+}
+
+TEST_F(HintsTest, AGlobalListThatIsEmptiedBeforeItIsThereIsMeantToBe) {
+  Script script("InitNewTrigger(\"t\",true,false);\nInitEffects();\nClearEntityIdList(\"\xA7l\");\n"
+                "GetSizeOfEntityList(\"\xA7l\",\"v\");\n");
   script.tick();
   EXPECT_EQ(told(), Words());
 }
@@ -149,7 +161,8 @@ TEST_F(HintsTest, SwitchingForgetsWhatWasTold) {
 TEST_F(HintsTest, ATickThatTellsTheSameAgainAndAgainTakesNoMemory) {
   qsf::Qsf::instance()->getLogSystem().setThreshold(qsf::LogSystem::NONE);
   Script script("InitNewTrigger(\"t\",true,true);\nInitConditions(0);\nCompareValues(\"v\",\"==\",\"0\");\n"
-                "CompareValues(\"v\",\"<\",\"1\");\nEntityListHasSize(\"l\",\"<\",\"1\");\nEntityListHasSize(\"l\",\"<\",\"2\");");
+                "CompareValues(\"v\",\"<\",\"1\");\nEntityListHasSize(\"l\",\"<\",\"1\");\nEntityListHasSize(\"l\",\"<"
+                "\",\"2\");");
   script.tick(2);
   const std::size_t before = getLiveBytes();
   script.tick(10'000);

@@ -39,8 +39,8 @@ TEST_F(ScriptFatesTest, ARefusedScriptIsNamedWithItsReason) {
   EXPECT_EQ(fates()[0].key, "gone");
   EXPECT_EQ(fates()[0].project, "mod");
   EXPECT_EQ(fates()[0].path, scriptPath("gone"));
-  EXPECT_EQ(fates()[0].what, "MapscriptManager: gone cant be created because the Mapscriptfile \"" + scriptPath("gone") +
-                                 "\" does not exist or can't be open");
+  EXPECT_EQ(fates()[0].what, "MapscriptManager: gone cant be created because the Mapscriptfile \"" +
+                                 scriptPath("gone") + "\" does not exist or can't be open");
   EXPECT_EQ(fates()[1].key, "modeless");
   EXPECT_EQ(fates()[1].what,
             "MapscriptManager: The node \"MapScripts.modeless.Mode\" cant be found. Skipping Creation Process");
@@ -57,7 +57,8 @@ TEST_F(ScriptFatesTest, AStoppedScriptIsNamedWithTheLineThatStoppedIt) {
   const std::string path = temporary("InitNewTrigger(\"t\",true,true);");
   addScript("main", "MAP_STARTUP",
             "InitNewTrigger(\"a\",true,false);\nInitEffects();\nStartScenario(\"" + path +
-                "\");\nInitNewTrigger(\"b\",true,false);\nInitConditions();\nTimer(\"0.1\");\nInitEffects();\nStopScenario(\"" +
+                "\");\nInitNewTrigger(\"b\",true,false);\nInitConditions();\nTimer(\"0.1\");\nInitEffects();"
+                "\nStopScenario(\"" +
                 path + "\");");
   start();
   run(0.3);

@@ -231,9 +231,7 @@ class RunStateTest : public testing::Test {
 protected:
   static constexpr const char* TEXT = "InitNewTrigger(\"t\",true,true);\nOnMousePressed(\"Left\");\nInitEffects();\n"
                                       "VariableModify(\"presses\",\"+\",\"1\",\"presses\");\n";
-  void press(bool down) {
-    qsf::Qsf::instance()->getInputSystem().getMouse().findButton("Left")->setPressed(down);
-  }
+  void press(bool down) { qsf::Qsf::instance()->getInputSystem().getMouse().findButton("Left")->setPressed(down); }
 
   const LogCapture log;
   Script first{TEXT};
@@ -267,11 +265,12 @@ TEST_F(RunStateTest, WhatARecordRemembersSurvivesARestartOfItsDocument) {
 
 TEST(ScenarioHandler, AnIdleTickAllocatesNothingAndAMillionFiringOnesStayFlat) {
   const LogCapture log;
-  Script script(
-      "InitNewTrigger(\"idle\",true,true);\nInitConditions();\nCompareValues(\"a\",\"==\",\"1\");\n"
-      "Timer(\"5000000\");\nInitNewTrigger(\"fires\",true,true);\nInitConditions();\n"
-      "CompareValues(\"b\",\">=\",\"0\");\nInitEffects();\nVariableModify(\"b\",\"+\",\"1\",\"b\");\n"
-      "If();\nCompareValues(\"b\",\"<\",\"0\");\nThen();\nReturn();\nElse();\nSetVariable(\"c\",\"b\");\nThenEnd();");
+  Script script("InitNewTrigger(\"idle\",true,true);\nInitConditions();\n"
+                "CompareValues(\"\xA7 a global name that is too long for a small string\",\"==\",\"0\");\n"
+                "CompareValues(\"a\",\"==\",\"1\");\nTimer(\"5000000\");\n"
+                "InitNewTrigger(\"fires\",true,true);\nInitConditions();\nCompareValues(\"b\",\">=\",\"0\");\n"
+                "InitEffects();\nVariableModify(\"b\",\"+\",\"1\",\"b\");\nIf();\nCompareValues(\"b\",\"<\",\"0\");\n"
+                "Then();\nReturn();\nElse();\nSetVariable(\"c\",\"b\");\nThenEnd();");
   script.tick(2);
   const std::size_t before = getNumberOfAllocations();
   script.tick(1'000'000);
