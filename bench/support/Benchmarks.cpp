@@ -1,5 +1,6 @@
 #include "bench/support/Benchmarks.h"
 
+#include "em5/base/GameLayer.h"
 #include "qsf/Qsf.h"
 #include "qsf/log/LogSystem.h"
 
@@ -111,7 +112,10 @@ int runAndPrint(int argc, char** argv, Table (*makeTable)(const Results& results
   if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) return 2;
 
   std::unique_ptr<qsf::Qsf> own; // unless the program has a host already
-  if (!qsf::Qsf::instance()) own = std::make_unique<qsf::Qsf>();
+  if (!qsf::Qsf::instance()) {
+    own = std::make_unique<qsf::Qsf>();
+    em5::addGameLayer(*own);
+  }
   qsf::Qsf::instance()->getLogSystem().setThreshold(qsf::LogSystem::ERROR);
   Results results;
   benchmark::RunSpecifiedBenchmarks(&results);

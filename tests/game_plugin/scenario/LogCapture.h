@@ -1,4 +1,5 @@
 #pragma once
+#include "em5/base/GameLayer.h"
 #include "qsf/Qsf.h"
 #include "qsf/log/LogSystem.h"
 
@@ -11,6 +12,7 @@
 class LogCapture {
 public:
   LogCapture() {
+    em5::addGameLayer(mHost);
     mHost.getLogSystem().setThreshold(0);
     mHost.getLogSystem().addListener([this](const qsf::LogSystem::Record& record) {
       lines.emplace_back(record.severity, std::string(record.message));

@@ -1,8 +1,5 @@
 #include "qsf/Qsf.h"
-#include "em5/base/Jobs.h"
 #include "qsf/base/Random.h"
-#include "qsf/base/StringHashManager.h"
-#include "qsf/job/JobManagers.h"
 #include "qsf/log/LogSystem.h"
 #include "qsf/map/Map.h"
 
@@ -18,12 +15,6 @@ TEST(Qsf, LivesFromConstructionToDestruction) {
     EXPECT_EQ(&qsf::getMainMap(), &host.getMainMap());
   }
   EXPECT_EQ(qsf::Qsf::instance(), nullptr);
-}
-
-TEST(Qsf, KnowsItsJobManagersByName) {
-  qsf::Qsf host;
-  EXPECT_EQ(host.getStringHashManager().getStringByHash(em5::Jobs::ANIMATION_VEHICLE), "em5::Jobs::ANIMATION_VEHICLE");
-  EXPECT_EQ(host.getJobManagers().getNumberOfJobs(em5::Jobs::SIMULATION_LOGIC), 0u);
 }
 
 TEST(Qsf, EachHostStartsWithTheSameRandomDraws) {

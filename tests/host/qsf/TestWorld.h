@@ -1,9 +1,8 @@
 #pragma once
-#include "em5/component/ComponentClasses.h"
+#include "em5/base/GameLayer.h"
 #include "qsf/Qsf.h"
 #include "qsf/asset/Project.h"
 #include "qsf/base/LoadError.h"
-#include "qsf/component/HostComponents.h"
 #include "qsf/component/MetadataComponent.h"
 #include "qsf/component/TransformComponent.h"
 #include "qsf/job/JobManagers.h"
@@ -47,15 +46,13 @@ private:
 class WorldTest : public testing::Test {
 protected:
   WorldTest() {
+    em5::addGameLayer(host);
     host.getLogSystem().setThreshold(0);
     host.getLogSystem().addListener([this](const qsf::LogSystem::Record& record) { log.emplace_back(record.message); });
   }
 
   void mountProject() { host.getProjectManager().registerSingleProjectFromFileSystem(project.path()); }
-  void mountBase() {
-    em5::declareComponentClasses();
-    host.getProjectManager().registerSingleProjectFromFileSystem(TIDEMARK_DATA_DIRECTORY "/em5");
-  }
+  void mountBase() { host.getProjectManager().registerSingleProjectFromFileSystem(TIDEMARK_DATA_DIRECTORY "/em5"); }
   /// The text of the error that loading a map of this content ends with; empty if it loads.
   std::string loadFault(const std::string& json) {
     project.write("map/test/map.json", json);

@@ -1,14 +1,21 @@
 #pragma once
 #include "qsf/base/StringHash.h"
 
+/// The steps of a frame, in their order: JOB(NAME, KIND), KIND being one of qsf::JobManagers::Kind. A line here is all
+/// that a step needs.
+#define EM5_JOBS(JOB)                                                                                                  \
+  JOB(SIMULATION_LOGIC, SIMULATION) /* the world's components, most of the game, scripts */                            \
+  JOB(SIMULATION_FIRE, SIMULATION)                                                                                     \
+  JOB(ANIMATION_VEHICLE, REALTIME)                                                                                     \
+  JOB(REALTIME_GUI_DEBUG, REALTIME)
+
 namespace em5 {
 
-/// The job managers, in the order in which a frame runs them. A paused simulation skips the SIMULATION_* ones.
+/// Names of the job managers; each is the hash of its name as it is spelled, `em5::Jobs::SIMULATION_LOGIC`.
 struct QSF_API Jobs {
-  static constexpr qsf::StringHash SIMULATION_LOGIC{"em5::Jobs::SIMULATION_LOGIC"};
-  static constexpr qsf::StringHash SIMULATION_FIRE{"em5::Jobs::SIMULATION_FIRE"};
-  static constexpr qsf::StringHash ANIMATION_VEHICLE{"em5::Jobs::ANIMATION_VEHICLE"};
-  static constexpr qsf::StringHash REALTIME_GUI_DEBUG{"em5::Jobs::REALTIME_GUI_DEBUG"};
+#define EM5_JOB(NAME, KIND) static constexpr qsf::StringHash NAME{"em5::Jobs::" #NAME};
+  EM5_JOBS(EM5_JOB)
+#undef EM5_JOB
 };
 
 }

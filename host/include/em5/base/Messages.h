@@ -1,16 +1,26 @@
 #pragma once
 #include "qsf/base/StringHash.h"
 
+/// The game's messages: MESSAGE(NAME). A line here is all that a message needs to be known to the log and to tools.
+///
+/// - GAME_STARTUP_FINISHED: the map of a game runs.
+/// - GAME_SHUTDOWN_STARTING: the game ends; everything is still there.
+/// - EM5_PRE_COMMAND_EXECUTE: filter 1 command id, filter 2 caller, filter 3 target; parameter "context" a
+///   `const em5::CommandContext*`. A response of RESPONSE_BLOCK forbids the command.
+/// - EM5_CHANGE_SELECTION: the player's selection, or what is shown of it, is another.
+#define EM5_MESSAGES(MESSAGE)                                                                                          \
+  MESSAGE(GAME_STARTUP_FINISHED)                                                                                       \
+  MESSAGE(GAME_SHUTDOWN_STARTING)                                                                                      \
+  MESSAGE(EM5_PRE_COMMAND_EXECUTE)                                                                                     \
+  MESSAGE(EM5_CHANGE_SELECTION)
+
 namespace em5 {
 
-/// Ids of the game's messages. More are added as systems need them; each is named as it is spelled.
+/// Ids of the messages; each is the hash of its name as it is spelled, `em5::Messages::EM5_CHANGE_SELECTION`.
 struct QSF_API Messages {
-  static constexpr qsf::StringHash GAME_STARTUP_FINISHED{"em5::Messages::GAME_STARTUP_FINISHED"};
-  static constexpr qsf::StringHash GAME_SHUTDOWN_STARTING{"em5::Messages::GAME_SHUTDOWN_STARTING"};
-  /// Filter 1 command id, filter 2 caller, filter 3 target; parameter "context" a `const em5::CommandContext*`. A
-  /// response of RESPONSE_BLOCK forbids the command.
-  static constexpr qsf::StringHash EM5_PRE_COMMAND_EXECUTE{"em5::Messages::EM5_PRE_COMMAND_EXECUTE"};
-  static constexpr qsf::StringHash EM5_CHANGE_SELECTION{"em5::Messages::EM5_CHANGE_SELECTION"};
+#define EM5_MESSAGE(NAME) static constexpr qsf::StringHash NAME{"em5::Messages::" #NAME};
+  EM5_MESSAGES(EM5_MESSAGE)
+#undef EM5_MESSAGE
 };
 
 }

@@ -50,9 +50,9 @@ public:
   /// Ends the setup: reads the texts of the language from the mounted projects, then a game gets its em5::EmergencyGui,
   /// an editor its qsf::editor::EditorApplication. Throws qsf::LoadError for a faulty text file.
   void startup();
-  /// Loads, installs and starts a plug-in library. False if its install or startup refused. Throws qsf::LoadError if
-  /// the library or its factory can't be found.
-  bool loadPlugin(const std::string& libraryPath, const std::string& factoryName = "CreatePluginInstance_tidemark_new");
+  /// Loads, installs and starts a plug-in library (qsf::PluginSystem tells which factory it needs). False if its
+  /// install or startup refused. Throws qsf::LoadError if the library or its factory can't be found.
+  bool loadPlugin(const std::string& libraryPath);
 
   /// Called on every start of a game, when the map is loaded and before its components start; places what the program
   /// wants there. What it throws leaves startGame.

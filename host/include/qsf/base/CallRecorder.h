@@ -7,8 +7,8 @@
 
 namespace qsf {
 
-/// Notes calls of operations whose effect a headless host cannot show: hints, cursors, sounds, achievements. Owned by
-/// Qsf.
+/// Keeps calls of operations whose effect a headless host cannot show: hints, cursors, sounds, achievements. Each is
+/// declared as a RecordedOperation. Owned by Qsf.
 class QSF_API CallRecorder {
 public:
   struct Call {

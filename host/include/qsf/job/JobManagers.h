@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace qsf {
@@ -13,8 +14,8 @@ namespace detail {
 struct Job;
 }
 
-/// The job managers of a frame, in their fixed order. Jobs of a manager run in the order of their registration. Owned
-/// by Qsf.
+/// The job managers of a frame, in their fixed order: which there are, the game says. Jobs of a manager run in the
+/// order of their registration. Owned by Qsf.
 class QSF_API JobManagers {
 public:
   JobManagers();
@@ -22,8 +23,13 @@ public:
   JobManagers(const JobManagers&) = delete;
   JobManagers& operator=(const JobManagers&) = delete;
 
-  /// Appends a manager. A simulation manager rests while the simulation is paused.
-  void addJobManager(StringHash id, bool isSimulation);
+  /// What a manager does while the simulation is paused.
+  enum class Kind { SIMULATION /**< rests */, REALTIME /**< goes on */ };
+  /// Appends a manager, whose id is the hash of its name, and makes the name known. A manager that is there already
+  /// stays as it is.
+  void addJobManager(const std::string& name, Kind kind);
+  /// The manager in which the world's own components move: the first of the simulation. Uninitialised without one.
+  StringHash getSimulationManager() const;
   /// One frame: every manager, in order. A job registered inside runs from the next frame on; one unregistered inside
   /// doesn't run any more. A pause holds from the next call on. Called from inside a job it logs an error and does
   /// nothing.

@@ -25,10 +25,12 @@ public:
   JobProxy(const JobProxy&) = delete;
   JobProxy& operator=(const JobProxy&) = delete;
 
-  /// Registers the job at the end of the manager of that name (see em5::Jobs), replacing what the proxy had. It runs
-  /// from the next frame on. An unknown manager logs a warning and leaves the proxy unregistered.
+  /// Registers the job at the end of the manager of that name, replacing what the proxy had. It runs from the next
+  /// frame on. An unknown manager logs a warning and leaves the proxy unregistered.
   void registerAt(StringHash jobManagerId, const JobFunction& function,
                   const jobs::JobConfiguration& configuration = jobs::JobConfiguration());
+  /// The same at the manager in which the world's own components move (JobManagers::getSimulationManager).
+  void registerInSimulation(const JobFunction& function);
   void unregister();
   bool isRegistered() const;
   /// Least simulated time between two calls; zero means each frame.

@@ -26,6 +26,10 @@ public:
   MessageSystem(const MessageSystem&) = delete;
   MessageSystem& operator=(const MessageSystem&) = delete;
 
+  /// Makes a message known by its name, whose hash is its id: to the log, and to tools that are asked for it.
+  void addMessageName(const std::string& name);
+  const std::set<std::string>& getMessageNames() const { return mNames; }
+
   void emitMessage(const MessageConfiguration& message);
   void emitMessage(const MessageParameters& parameters);
   /// Number of emitted messages of that id since the host's start; tests and tools read it.
@@ -46,6 +50,7 @@ private:
   std::unordered_map<StringHash, std::vector<std::shared_ptr<detail::MessageListener>>> mListeners;
   std::unordered_map<StringHash, std::uint64_t> mEmitted;
   std::set<StringHash> mIdsWithEndedListeners;
+  std::set<std::string> mNames;
   int mDepth = 0;
   bool mTooDeep = false;
 };

@@ -11,18 +11,21 @@ namespace qsf {
 /// reverse. Owned by Qsf, which unloads what is still there before any other system goes.
 class QSF_API PluginSystem {
 public:
-  /// The name of the factory, a `qsf::Plugin* ()` with C linkage, which makes the plug-in with `new`.
-  static constexpr const char* DEFAULT_FACTORY = "CreatePluginInstance_tidemark_new";
-
   PluginSystem();
   ~PluginSystem();
   PluginSystem(const PluginSystem&) = delete;
   PluginSystem& operator=(const PluginSystem&) = delete;
 
+  /// Name of the function that makes a library's plug-in with `new`, a `qsf::Plugin* ()` with C linkage. It holds the
+  /// library's name: `CreatePluginInstance_birds_new` for a file `libbirds.so`.
+  static std::string getFactoryName(const std::string& libraryPath);
+
   /// Loads the shared library, makes its plug-in, installs and starts it. Null if the plug-in refuses to be installed
   /// or started, which is logged at severity 4; it is released then. Throws LoadError if the file or the factory is
   /// missing, the factory makes nothing, or the library is loaded already.
-  Plugin* loadPlugin(const std::string& path, const std::string& factoryName = DEFAULT_FACTORY);
+  Plugin* loadPlugin(const std::string& path, const std::string& factoryName);
+  /// The same with the factory that belongs to the library's name.
+  Plugin* loadPlugin(const std::string& path) { return loadPlugin(path, getFactoryName(path)); }
   /// The same with a plug-in that is part of the program.
   Plugin* addPlugin(std::unique_ptr<Plugin> plugin);
 

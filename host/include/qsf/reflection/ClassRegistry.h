@@ -18,16 +18,32 @@ public:
   static void removeClass(const camp::Class& campClass);
   /// Null if there is none. Declared classes that were never added are not found.
   static const camp::Class* findClass(StringHash id);
-  /// All classes, in the order in which they were added.
+  /// All classes, by name.
   static const std::vector<const camp::Class*>& getClasses();
 
-  /// Declares a class with its static declareCamp() unless that was done before in this process, and adds it. Every
-  /// host calls it for every class; declaring a class twice is an error in CAMP.
+  /// Declares a class with its static declareCamp() unless that was done before in this process, and adds it.
+  /// Declaring a class twice is an error in CAMP.
   template <class T> static void declareOnce() {
     static const bool declared = (T::declareCamp(), true);
     static_cast<void>(declared);
     addClass(camp::classByType<T>());
   }
+
+  /// Declares and adds all classes that have a DeclaredClass. Called by every host; in a process, only the first call
+  /// declares.
+  static void declareAll();
+
+private:
+  template <class T> friend class DeclaredClass;
+  static void addDeclaration(void (*declare)());
+};
+
+/// Makes a class of the host's own known to every host: a constant of this type stands in the class's source, above its
+/// declareCamp(). Nothing else lists the class. One whose base isn't Component, Action or Object first calls
+/// `ClassRegistry::declareOnce<Base>()` in its declareCamp(), as the order among the classes is open.
+template <class T> class DeclaredClass {
+public:
+  DeclaredClass() { ClassRegistry::addDeclaration(&ClassRegistry::declareOnce<T>); }
 };
 
 /// Shorthand for ClassRegistry::findClass, for those that make components.

@@ -1,8 +1,11 @@
 #include "em5/component/BuildingComponent.h"
 
 #include "qsf/reflection/CampTypes.h"
+#include "qsf/reflection/ClassRegistry.h"
 
 namespace em5 {
+
+static const qsf::DeclaredClass<BuildingComponent> declared;
 
 void BuildingComponent::declareCamp() {
   camp::Class::declare<BuildingComponent>("em5::BuildingComponent")

@@ -1,8 +1,11 @@
 #include "em5/component/CommandableComponent.h"
 
 #include "qsf/reflection/CampTypes.h"
+#include "qsf/reflection/ClassRegistry.h"
 
 namespace em5 {
+
+static const qsf::DeclaredClass<CommandableComponent> declared;
 
 void CommandableComponent::declareCamp() {
   camp::Class::declare<CommandableComponent>("em5::CommandableComponent")

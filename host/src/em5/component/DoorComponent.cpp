@@ -2,10 +2,13 @@
 
 #include "em5/base/Jobs.h"
 #include "qsf/reflection/CampTypes.h"
+#include "qsf/reflection/ClassRegistry.h"
 
 #include <algorithm>
 
 namespace em5 {
+
+static const qsf::DeclaredClass<DoorComponent> declared;
 
 void DoorComponent::declareCamp() {
   camp::Enum::declare<DoorState>("em5::DoorComponent::DoorState")

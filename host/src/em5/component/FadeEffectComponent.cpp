@@ -3,10 +3,13 @@
 #include "em5/base/Jobs.h"
 #include "qsf/map/Map.h"
 #include "qsf/reflection/CampTypes.h"
+#include "qsf/reflection/ClassRegistry.h"
 
 #include <algorithm>
 
 namespace em5 {
+
+static const qsf::DeclaredClass<FadeEffectComponent> declared;
 
 void FadeEffectComponent::declareCamp() {
   camp::Class::declare<FadeEffectComponent>("em5::FadeEffectComponent")

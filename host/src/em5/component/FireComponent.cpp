@@ -7,6 +7,7 @@
 #include "qsf/map/ComponentMapQuery.h"
 #include "qsf/map/EntityHelper.h"
 #include "qsf/reflection/CampTypes.h"
+#include "qsf/reflection/ClassRegistry.h"
 
 namespace em5 {
 
@@ -20,6 +21,8 @@ constexpr float HEALTH_LOSS_PER_SECOND = 5.0f;
 constexpr float VEHICLE_DAMAGE_PER_SECOND = 1.0f / 120.0f;
 
 }
+
+static const qsf::DeclaredClass<FireComponent> declared;
 
 void FireComponent::declareCamp() {
   camp::Class::declare<FireComponent>("em5::FireComponent")

@@ -3,6 +3,7 @@
 #include "em5/base/Jobs.h"
 #include "em5/health/Injury.h"
 #include "qsf/reflection/CampTypes.h"
+#include "qsf/reflection/ClassRegistry.h"
 
 #include <algorithm>
 #include <cmath>
@@ -15,6 +16,8 @@ namespace {
 constexpr float LIFE_LOSS_PER_SECOND = 0.5f;
 
 }
+
+static const qsf::DeclaredClass<HealthComponent> declared;
 
 void HealthComponent::declareCamp() {
   camp::Class::declare<HealthComponent>("em5::HealthComponent")

@@ -5,6 +5,7 @@
 #include "qsf/map/EntityHelper.h"
 #include "qsf/map/Map.h"
 #include "qsf/reflection/CampTypes.h"
+#include "qsf/reflection/ClassRegistry.h"
 
 #include <cmath>
 
@@ -16,6 +17,8 @@ namespace {
 constexpr float ARRIVAL_DISTANCE = 0.5f;
 
 }
+
+static const qsf::DeclaredClass<MoveToDespawnComponent> declared;
 
 void MoveToDespawnComponent::declareCamp() {
   camp::Class::declare<MoveToDespawnComponent>("em5::MoveToDespawnComponent")

@@ -1,8 +1,11 @@
 #include "em5/component/PersonComponent.h"
 
 #include "qsf/reflection/CampTypes.h"
+#include "qsf/reflection/ClassRegistry.h"
 
 namespace em5 {
+
+static const qsf::DeclaredClass<PersonComponent> declared;
 
 void PersonComponent::declareCamp() {
   camp::Class::declare<PersonComponent>("em5::PersonComponent")

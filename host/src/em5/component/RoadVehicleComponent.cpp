@@ -1,8 +1,11 @@
 #include "em5/component/RoadVehicleComponent.h"
 
 #include "qsf/reflection/CampTypes.h"
+#include "qsf/reflection/ClassRegistry.h"
 
 namespace em5 {
+
+static const qsf::DeclaredClass<RoadVehicleComponent> declared;
 
 void RoadVehicleComponent::declareCamp() {
   camp::Class::declare<RoadVehicleComponent>("em5::RoadVehicleComponent")

@@ -1,11 +1,14 @@
 #include "em5/component/VehicleComponent.h"
 
 #include "qsf/reflection/CampTypes.h"
+#include "qsf/reflection/ClassRegistry.h"
 
 #include <algorithm>
 #include <cmath>
 
 namespace em5 {
+
+static const qsf::DeclaredClass<VehicleComponent> declared;
 
 void VehicleComponent::declareCamp() {
   camp::Class::declare<VehicleComponent>("em5::VehicleComponent")

@@ -1,8 +1,12 @@
 #include "em5/freeplay/FreeplayEvent.h"
 
+#include "qsf/reflection/ClassRegistry.h"
+
 #include <camp/classbuilder.hpp>
 
 namespace em5 {
+
+static const qsf::DeclaredClass<FreeplayEvent> declared;
 
 void FreeplayEvent::declareCamp() { camp::Class::declare<FreeplayEvent>("em5::FreeplayEvent").base<qsf::Object>(); }
 

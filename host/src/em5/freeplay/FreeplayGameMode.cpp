@@ -1,17 +1,18 @@
 #include "em5/freeplay/FreeplayGameMode.h"
 
-#include "qsf/Qsf.h"
-#include "qsf/base/CallRecorder.h"
+#include "qsf/base/RecordedOperation.h"
 
 namespace em5 {
+
+static const qsf::RecordedOperation toggleSeasonalEventCall{"em5::FreeplayGameMode::toggleSeasonalEvent",
+                                                            "name, `0` or `1`"};
 
 void FreeplayGameMode::toggleSeasonalEvent(const std::string& name, bool enable) {
   if (enable)
     mSeasonalEvents.insert(name);
   else
     mSeasonalEvents.erase(name);
-  if (qsf::Qsf* host = qsf::Qsf::instance())
-    host->getCallRecorder().record("em5::FreeplayGameMode::toggleSeasonalEvent", {name, enable ? "1" : "0"});
+  toggleSeasonalEventCall.record({name, enable ? "1" : "0"});
 }
 
 }

@@ -1,8 +1,8 @@
 #include "em5/game/HostSession.h"
 
 #include "em5/application/Application.h"
+#include "em5/base/GameLayer.h"
 #include "em5/base/Messages.h"
-#include "em5/component/ComponentClasses.h"
 #include "em5/freeplay/FreeplaySystem.h"
 #include "em5/game/Game.h"
 #include "em5/gui/EmergencyGui.h"
@@ -14,7 +14,6 @@
 #include "qsf/Qsf.h"
 #include "qsf/asset/Project.h"
 #include "qsf/base/Random.h"
-#include "qsf/base/StringHashManager.h"
 #include "qsf/editor/EditorApplication.h"
 #include "qsf/input/InputSystem.h"
 #include "qsf/job/JobManagers.h"
@@ -172,16 +171,13 @@ void HostSession::Internals::frame(qsf::Time tick) {
 HostSession::HostSession(const Options& options) {
   if (qsf::Qsf::instance()) throw std::logic_error("there is a running host already");
   mInternals = std::make_unique<Internals>(options);
-  declareComponentClasses();
+  addGameLayer(mInternals->qsf);
   qsf::Random::setSeed(options.seed);
   Internals& internals = *mInternals;
   internals.qsf.getLogSystem().setThreshold(options.logThreshold);
   internals.qsf.getLocalizationSystem().setLanguage(options.language, true); // texts come with the projects
   internals.application.getGameSessionConfiguration().setGameModeType(options.gameMode);
   internals.settingsGroup.setSavedAccountname(options.account);
-  for (const char* message : {"em5::Messages::GAME_STARTUP_FINISHED", "em5::Messages::GAME_SHUTDOWN_STARTING",
-                              "em5::Messages::EM5_PRE_COMMAND_EXECUTE", "em5::Messages::EM5_CHANGE_SELECTION"})
-    internals.qsf.getStringHashManager().registerStringHash(qsf::StringHash(message), message);
 }
 
 HostSession::~HostSession() {
@@ -217,9 +213,9 @@ void HostSession::startup() {
   }
 }
 
-bool HostSession::loadPlugin(const std::string& libraryPath, const std::string& factoryName) {
+bool HostSession::loadPlugin(const std::string& libraryPath) {
   startup();
-  return mInternals->qsf.getPluginSystem().loadPlugin(libraryPath, factoryName) != nullptr;
+  return mInternals->qsf.getPluginSystem().loadPlugin(libraryPath) != nullptr;
 }
 
 void HostSession::setMapPreparation(std::function<void(qsf::Map&)> preparation) {

@@ -1,15 +1,16 @@
 #include "em5/gui/EmergencyGui.h"
 
-#include "qsf/Qsf.h"
-#include "qsf/base/CallRecorder.h"
+#include "qsf/base/RecordedOperation.h"
 
 namespace em5 {
 
 namespace {
 
-void record(const std::string& operation, std::vector<std::string> arguments = {}) {
-  qsf::Qsf::instance()->getCallRecorder().record("em5::EmergencyGui::" + operation, std::move(arguments));
-}
+const qsf::RecordedOperation hideIngameHudCall{"em5::EmergencyGui::hideIngameHud", ""};
+const qsf::RecordedOperation showIngameHudCall{"em5::EmergencyGui::showIngameHud", ""};
+const qsf::RecordedOperation setMouseCursorCall{"em5::EmergencyGui::setMouseCursor", "icon"};
+const qsf::RecordedOperation resetMouseCursorCall{"em5::EmergencyGui::resetMouseCursor", ""};
+const qsf::RecordedOperation showMouseCursorCall{"em5::EmergencyGui::showMouseCursor", "`0` or `1`"};
 
 }
 
@@ -19,27 +20,27 @@ EmergencyGui::~EmergencyGui() = default;
 
 void EmergencyGui::hideIngameHud() {
   mIngameHud->hideGui();
-  record("hideIngameHud");
+  hideIngameHudCall.record();
 }
 
 void EmergencyGui::showIngameHud() {
   mIngameHud->showGui();
-  record("showIngameHud");
+  showIngameHudCall.record();
 }
 
 void EmergencyGui::setMouseCursor(const std::string& icon) {
   mMouseCursor = icon;
-  record("setMouseCursor", {icon});
+  setMouseCursorCall.record({icon});
 }
 
 void EmergencyGui::resetMouseCursor() {
   mMouseCursor.clear();
-  record("resetMouseCursor");
+  resetMouseCursorCall.record();
 }
 
 void EmergencyGui::showMouseCursor(bool visible) {
   mMouseCursorVisible = visible;
-  record("showMouseCursor", {visible ? "1" : "0"});
+  showMouseCursorCall.record({visible ? "1" : "0"});
 }
 
 }

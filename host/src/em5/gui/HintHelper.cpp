@@ -1,7 +1,6 @@
 #include "em5/gui/HintHelper.h"
 
-#include "qsf/Qsf.h"
-#include "qsf/base/CallRecorder.h"
+#include "qsf/base/RecordedOperation.h"
 
 #include <algorithm>
 #include <sstream>
@@ -9,6 +8,9 @@
 namespace em5 {
 
 namespace {
+
+const qsf::RecordedOperation showHintCall{"em5::HintHelper::showHint",
+                                          "text, number of the supervisor (4294967295: none), seconds as given"};
 
 constexpr std::size_t MAXIMUM_HINTS = 50;
 const qsf::Time DEFAULT_DISPLAY_TIME = qsf::Time::fromMicroseconds(10'000'000);
@@ -27,9 +29,7 @@ std::string secondsToText(qsf::Time time) {
 }
 
 void HintHelper::showHint(const std::string& text, std::uint32_t supervisor, qsf::Time displayTime) {
-  if (qsf::Qsf* host = qsf::Qsf::instance())
-    host->getCallRecorder().record("em5::HintHelper::showHint",
-                                   {text, std::to_string(supervisor), secondsToText(displayTime)});
+  showHintCall.record({text, std::to_string(supervisor), secondsToText(displayTime)});
   hints().push_back({text, supervisor, displayTime > qsf::Time() ? displayTime : DEFAULT_DISPLAY_TIME});
   if (hints().size() > MAXIMUM_HINTS) hints().pop_front();
 }

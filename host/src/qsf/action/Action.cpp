@@ -3,6 +3,7 @@
 #include "qsf/action/ActionComponent.h"
 #include "qsf/action/WaitAction.h"
 #include "qsf/map/Entity.h"
+#include "qsf/reflection/ClassRegistry.h"
 
 namespace qsf {
 
@@ -18,12 +19,16 @@ std::uint64_t Action::getEntityId() const { return mComponent->getEntityId(); }
 
 Map& Action::getMap() const { return getEntity().getMap(); }
 
+static const DeclaredClass<WaitAction> waitActionClass;
+
 void WaitAction::declareCamp() { camp::Class::declare<WaitAction>("qsf::WaitAction").base<Action>().constructor0(); }
 
 action::Result WaitAction::updateAction(const Clock& clock) {
   mTimeLeft -= clock.getTimePassed();
   return mTimeLeft > Time() ? action::RESULT_CONTINUE : action::RESULT_DONE;
 }
+
+static const DeclaredClass<IdleAction> idleActionClass;
 
 void IdleAction::declareCamp() { camp::Class::declare<IdleAction>("qsf::IdleAction").base<Action>().constructor0(); }
 

@@ -1,6 +1,5 @@
 #include "qsf/action/ActionComponent.h"
 
-#include "em5/base/Jobs.h"
 #include "qsf/log/FaultCounter.h"
 #include "qsf/log/LogSystem.h"
 #include "qsf/reflection/ClassRegistry.h"
@@ -32,6 +31,8 @@ std::unique_ptr<Action> ActionPlan::remove(const Action& action) {
 ActionComponent::ActionComponent(Prototype* prototype) : Component(prototype) {}
 
 ActionComponent::~ActionComponent() = default;
+
+static const DeclaredClass<ActionComponent> declared;
 
 void ActionComponent::declareCamp() {
   camp::Class::declare<ActionComponent>("qsf::ActionComponent").base<Component>().constructor1<Prototype*>();
@@ -100,7 +101,7 @@ void ActionComponent::updateRegistration() {
   // Retired actions are released by the job, too.
   const bool hasWork = isRunning() && (!mPlan.isEmpty() || !mRetired.empty());
   if (hasWork && !mJob.isRegistered())
-    mJob.registerAt(em5::Jobs::SIMULATION_LOGIC, [this](const JobArguments& arguments) { update(arguments); });
+    mJob.registerInSimulation([this](const JobArguments& arguments) { update(arguments); });
 }
 
 void ActionComponent::update(const JobArguments& arguments) {

@@ -3,6 +3,7 @@
 #include "qsf/component/TransformComponent.h"
 #include "qsf/map/EntityHelper.h"
 #include "qsf/prototype/Prototype.h"
+#include "qsf/reflection/ClassRegistry.h"
 
 #include <glm/gtc/quaternion.hpp>
 #include <glm/gtx/quaternion.hpp>
@@ -11,6 +12,8 @@
 #include <stdexcept>
 
 namespace qsf {
+
+static const DeclaredClass<CameraComponent> declared;
 
 void CameraComponent::declareCamp() {
   camp::Class::declare<CameraComponent>("qsf::CameraComponent")

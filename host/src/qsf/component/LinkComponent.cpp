@@ -4,6 +4,7 @@
 #include "qsf/log/LogSystem.h"
 #include "qsf/map/Map.h"
 #include "qsf/reflection/CampTypes.h"
+#include "qsf/reflection/ClassRegistry.h"
 
 namespace qsf {
 
@@ -15,6 +16,8 @@ TransformComponent* transformOf(const LinkComponent& link) {
 }
 
 }
+
+static const DeclaredClass<LinkComponent> declared;
 
 void LinkComponent::declareCamp() {
   camp::Class::declare<LinkComponent>("qsf::LinkComponent")

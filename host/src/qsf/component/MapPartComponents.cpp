@@ -1,6 +1,7 @@
 #include "qsf/component/MapPartComponents.h"
 
 #include "qsf/reflection/CampTypes.h"
+#include "qsf/reflection/ClassRegistry.h"
 
 namespace qsf {
 
@@ -14,11 +15,19 @@ template <class T> camp::ClassBuilder<T> declare(const char* name) {
 
 }
 
+static const DeclaredClass<TerrainComponent> terrainComponentClass;
+
 void TerrainComponent::declareCamp() { declare<TerrainComponent>("qsf::TerrainComponent"); }
+
+static const DeclaredClass<StreetCrossingComponent> streetCrossingComponentClass;
 
 void StreetCrossingComponent::declareCamp() { declare<StreetCrossingComponent>("qsf::StreetCrossingComponent"); }
 
+static const DeclaredClass<StreetSectionComponent> streetSectionComponentClass;
+
 void StreetSectionComponent::declareCamp() { declare<StreetSectionComponent>("qsf::StreetSectionComponent"); }
+
+static const DeclaredClass<LightComponent> lightComponentClass;
 
 void LightComponent::declareCamp() {
   declare<LightComponent>("qsf::LightComponent")
@@ -26,6 +35,8 @@ void LightComponent::declareCamp() {
       .property("Intensity", &LightComponent::getIntensity, &LightComponent::setIntensity)
       .property("Radius", &LightComponent::getRadius, &LightComponent::setRadius);
 }
+
+static const DeclaredClass<ParticlesComponent> particlesComponentClass;
 
 void ParticlesComponent::declareCamp() {
   declare<ParticlesComponent>("qsf::ParticlesComponent")

@@ -1,8 +1,8 @@
 #include "qsf/component/MeshAnimationComponent.h"
 
-#include "em5/base/Jobs.h"
 #include "qsf/base/JsonFile.h"
 #include "qsf/log/LogSystem.h"
+#include "qsf/reflection/ClassRegistry.h"
 
 #include <stdexcept>
 
@@ -58,6 +58,8 @@ void MeshAnimationChannel::advance(Time timePassed) {
   const Time base = atEnd ? mLength : Time();
   mPosition = mDirection == Direction::FORWARD ? base + over : base - over;
 }
+
+static const DeclaredClass<MeshAnimationComponent> declared;
 
 void MeshAnimationComponent::declareCamp() {
   camp::Class::declare<MeshAnimationComponent>("qsf::MeshAnimationComponent")
@@ -116,8 +118,7 @@ void MeshAnimationComponent::setAnimationName(const std::string& name) {
 
 void MeshAnimationComponent::updateRegistration() {
   if (!isRunning() || !mChannel) return mJob.unregister();
-  if (!mJob.isRegistered())
-    mJob.registerAt(em5::Jobs::SIMULATION_LOGIC, [this](const JobArguments& arguments) { update(arguments); });
+  if (!mJob.isRegistered()) mJob.registerInSimulation([this](const JobArguments& arguments) { update(arguments); });
 }
 
 void MeshAnimationComponent::update(const JobArguments& arguments) {

@@ -1,8 +1,11 @@
 #include "qsf/component/MetadataComponent.h"
 
 #include "qsf/reflection/CampTypes.h"
+#include "qsf/reflection/ClassRegistry.h"
 
 namespace qsf {
+
+static const DeclaredClass<MetadataComponent> declared;
 
 void MetadataComponent::declareCamp() {
   camp::Class::declare<MetadataComponent>("qsf::MetadataComponent")

@@ -1,9 +1,9 @@
 #include "qsf/component/MovableComponent.h"
 
-#include "em5/base/Jobs.h"
 #include "qsf/component/TransformComponent.h"
 #include "qsf/map/Entity.h"
 #include "qsf/reflection/CampTypes.h"
+#include "qsf/reflection/ClassRegistry.h"
 
 #include <cmath>
 
@@ -24,6 +24,8 @@ float angleBetween(const glm::quat& from, const glm::quat& to) {
 constexpr float SMALLEST_ANGLE = 1e-4f; // radians; smaller turns are done at once
 
 }
+
+static const DeclaredClass<MovableComponent> declared;
 
 void MovableComponent::declareCamp() {
   camp::Class::declare<MovableComponent>("qsf::MovableComponent")
@@ -110,7 +112,7 @@ void MovableComponent::onShutdown() { mJob.unregister(); }
 void MovableComponent::updateRegistration() {
   const bool hasWork = isRunning() && (mMoving || mTurning);
   if (hasWork && !mJob.isRegistered())
-    mJob.registerAt(em5::Jobs::SIMULATION_LOGIC, [this](const JobArguments& arguments) { update(arguments); });
+    mJob.registerInSimulation([this](const JobArguments& arguments) { update(arguments); });
   else if (!hasWork)
     mJob.unregister();
 }

@@ -3,6 +3,7 @@
 #include "qsf/component/LinkComponent.h"
 #include "qsf/map/MapInternals.h"
 #include "qsf/reflection/CampTypes.h"
+#include "qsf/reflection/ClassRegistry.h"
 
 #include <cmath>
 
@@ -18,6 +19,8 @@ glm::quat unit(const glm::quat& rotation) {
 }
 
 }
+
+static const DeclaredClass<TransformComponent> declared;
 
 void TransformComponent::declareCamp() {
   camp::Class::declare<TransformComponent>("qsf::TransformComponent")

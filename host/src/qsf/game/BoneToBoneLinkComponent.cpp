@@ -2,9 +2,12 @@
 
 #include "qsf/component/LinkComponent.h"
 #include "qsf/map/Entity.h"
+#include "qsf/reflection/ClassRegistry.h"
 #include "qsf/reflection/PropertyText.h"
 
 namespace qsf::game {
+
+static const DeclaredClass<BoneToBoneLinkComponent> declared;
 
 void BoneToBoneLinkComponent::declareCamp() {
   camp::Class::declare<BoneToBoneLinkComponent>("qsf::game::BoneToBoneLinkComponent")

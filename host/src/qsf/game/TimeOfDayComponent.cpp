@@ -1,6 +1,6 @@
 #include "qsf/game/TimeOfDayComponent.h"
 
-#include "em5/base/Jobs.h"
+#include "qsf/reflection/ClassRegistry.h"
 
 #include <cmath>
 #include <stdexcept>
@@ -15,6 +15,8 @@ constexpr std::int64_t HOUR = 60 * MINUTE;
 constexpr std::int64_t DAY = 24 * HOUR;
 
 }
+
+static const DeclaredClass<TimeOfDayComponent> declared;
 
 void TimeOfDayComponent::declareCamp() {
   camp::Class::declare<TimeOfDayComponent>("qsf::game::TimeOfDayComponent")
@@ -65,7 +67,7 @@ void TimeOfDayComponent::onShutdown() { mJob.unregister(); }
 void TimeOfDayComponent::updateRegistration() {
   if (!isRunning() || mTimeFactor == 0) return mJob.unregister();
   if (mJob.isRegistered()) return;
-  mJob.registerAt(em5::Jobs::SIMULATION_LOGIC, [this](const JobArguments& arguments) {
+  mJob.registerInSimulation([this](const JobArguments& arguments) {
     const double passed = arguments.getTimePassed().getSecondsAsDouble() * static_cast<double>(mTimeFactor);
     setTime(mTime + Time::fromSeconds(std::fmod(passed, 86400.0)));
   });

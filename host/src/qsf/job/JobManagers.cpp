@@ -24,7 +24,7 @@ struct Job {
 
 struct JobManagers::Manager {
   StringHash id;
-  bool isSimulation;
+  Kind kind;
   std::vector<std::shared_ptr<detail::Job>> jobs;
   std::size_t endedJobs = 0; ///< that still stand in the list
 };
@@ -53,8 +53,17 @@ JobManagers::~JobManagers() {
   mManagers.clear();
 }
 
-void JobManagers::addJobManager(StringHash id, bool isSimulation) {
-  if (!findManager(id)) mManagers.push_back(std::make_unique<Manager>(Manager{id, isSimulation, {}}));
+void JobManagers::addJobManager(const std::string& name, Kind kind) {
+  const StringHash id(name);
+  if (findManager(id)) return;
+  if (const Qsf* host = Qsf::instance()) host->getStringHashManager().registerStringHash(id, name);
+  mManagers.push_back(std::make_unique<Manager>(Manager{id, kind, {}}));
+}
+
+StringHash JobManagers::getSimulationManager() const {
+  for (const auto& manager : mManagers)
+    if (manager->kind == Kind::SIMULATION) return manager->id;
+  return {};
 }
 
 JobManagers::Manager* JobManagers::findManager(StringHash id) const {
@@ -111,7 +120,7 @@ void JobManagers::runFrame(Time timePassed) {
   ++mFrame;
   mRunning = true;
   for (std::size_t i = 0; i < mManagers.size(); ++i)
-    if (!paused || !mManagers[i]->isSimulation) runManager(*mManagers[i], timePassed);
+    if (!paused || mManagers[i]->kind != Kind::SIMULATION) runManager(*mManagers[i], timePassed);
   mRunning = false;
   removeEndedJobs();
 }
@@ -141,6 +150,11 @@ void JobProxy::registerAt(StringHash jobManagerId, const JobFunction& function,
   mJob->function = function;
   mJob->configuration = configuration;
   host->getJobManagers().addJob(*manager, mJob);
+}
+
+void JobProxy::registerInSimulation(const JobFunction& function) {
+  const Qsf* host = Qsf::instance();
+  registerAt(host ? host->getJobManagers().getSimulationManager() : StringHash(), function);
 }
 
 void JobProxy::unregister() {

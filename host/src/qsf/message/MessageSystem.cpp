@@ -38,6 +38,11 @@ MessageSystem::~MessageSystem() {
   const auto listeners = std::move(mListeners);
 }
 
+void MessageSystem::addMessageName(const std::string& name) {
+  mNames.insert(name);
+  if (const Qsf* host = Qsf::instance()) host->getStringHashManager().registerStringHash(StringHash(name), name);
+}
+
 void MessageSystem::emitMessage(const MessageConfiguration& message) { emitMessage(MessageParameters(message)); }
 
 void MessageSystem::emitMessage(const MessageParameters& parameters) {

@@ -4,6 +4,7 @@
 #include "qsf/map/Map.h"
 #include "qsf/physics/PhysicsWorldComponent.h"
 #include "qsf/reflection/CampTypes.h"
+#include "qsf/reflection/ClassRegistry.h"
 
 #include <cmath>
 #include <stdexcept>
@@ -28,6 +29,8 @@ BulletCollisionComponent::BulletCollisionComponent(Prototype* prototype) : Compo
 }
 
 BulletCollisionComponent::~BulletCollisionComponent() { leaveWorld(); }
+
+static const DeclaredClass<BulletCollisionComponent> declared;
 
 void BulletCollisionComponent::declareCamp() {
   using Own = BulletCollisionComponent;

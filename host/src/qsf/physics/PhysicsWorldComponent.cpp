@@ -3,6 +3,7 @@
 #include "qsf/map/Map.h"
 #include "qsf/physics/BulletCollisionComponent.h"
 #include "qsf/physics/TreeBroadphase.h"
+#include "qsf/reflection/ClassRegistry.h"
 
 #include <btBulletCollisionCommon.h>
 
@@ -29,6 +30,8 @@ PhysicsWorldComponent::~PhysicsWorldComponent() {
     world.removeCollisionObject(object);
   }
 }
+
+static const DeclaredClass<PhysicsWorldComponent> declared;
 
 void PhysicsWorldComponent::declareCamp() {
   camp::Class::declare<PhysicsWorldComponent>("qsf::PhysicsWorldComponent")

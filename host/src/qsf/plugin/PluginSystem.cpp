@@ -5,6 +5,8 @@
 #include "qsf/plugin/DynamicLibrary.h"
 #include "qsf/reflection/ClassRegistry.h"
 
+#include <filesystem>
+
 namespace qsf {
 
 /// A plug-in and the library that its code lies in, which must go after it.
@@ -16,6 +18,13 @@ struct PluginSystem::Entry {
 PluginSystem::PluginSystem() = default;
 
 PluginSystem::~PluginSystem() { unloadPlugins(); }
+
+std::string PluginSystem::getFactoryName(const std::string& libraryPath) {
+  std::string name = std::filesystem::path(libraryPath).filename().string();
+  if (name.starts_with("lib")) name.erase(0, 3);
+  name.erase(std::min(name.find('.'), name.size())); // a version may follow the ending
+  return "CreatePluginInstance_" + name + "_new";
+}
 
 Plugin* PluginSystem::loadPlugin(const std::string& path, const std::string& factoryName) {
   auto entry = std::make_unique<Entry>();

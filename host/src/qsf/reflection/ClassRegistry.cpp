@@ -6,7 +6,7 @@ namespace {
 
 struct Classes {
   std::unordered_map<StringHash, const camp::Class*> byId;
-  std::vector<const camp::Class*> inOrder;
+  std::vector<const camp::Class*> byName;
 };
 
 Classes& classes() {
@@ -14,17 +14,33 @@ Classes& classes() {
   return instance;
 }
 
+/// What the constants of the sources have registered; filled before main begins.
+std::vector<void (*)()>& declarations() {
+  static std::vector<void (*)()> instance;
+  return instance;
+}
+
+}
+
+void ClassRegistry::addDeclaration(void (*declare)()) { declarations().push_back(declare); }
+
+void ClassRegistry::declareAll() {
+  for (void (*declare)() : declarations())
+    declare();
 }
 
 void ClassRegistry::addClass(const camp::Class& campClass) {
-  if (classes().byId.emplace(StringHash(campClass.name()), &campClass).second) classes().inOrder.push_back(&campClass);
+  if (!classes().byId.emplace(StringHash(campClass.name()), &campClass).second) return;
+  auto& byName = classes().byName;
+  const auto isBefore = [](const camp::Class* left, const camp::Class* right) { return left->name() < right->name(); };
+  byName.insert(std::lower_bound(byName.begin(), byName.end(), &campClass, isBefore), &campClass);
 }
 
 void ClassRegistry::removeClass(const camp::Class& campClass) {
   const auto found = classes().byId.find(StringHash(campClass.name()));
   if (found == classes().byId.end() || found->second != &campClass) return;
   classes().byId.erase(found);
-  std::erase(classes().inOrder, &campClass);
+  std::erase(classes().byName, &campClass);
 }
 
 const camp::Class* ClassRegistry::findClass(StringHash id) {
@@ -32,7 +48,7 @@ const camp::Class* ClassRegistry::findClass(StringHash id) {
   return found == classes().byId.end() ? nullptr : found->second;
 }
 
-const std::vector<const camp::Class*>& ClassRegistry::getClasses() { return classes().inOrder; }
+const std::vector<const camp::Class*>& ClassRegistry::getClasses() { return classes().byName; }
 
 const camp::Class* findComponentClass(StringHash componentId) { return ClassRegistry::findClass(componentId); }
 

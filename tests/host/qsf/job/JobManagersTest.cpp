@@ -1,5 +1,4 @@
 #include "qsf/job/JobManagers.h"
-#include "em5/base/Jobs.h"
 #include "qsf/Qsf.h"
 #include "qsf/job/JobProxy.h"
 #include "qsf/log/FaultCounter.h"
@@ -12,14 +11,28 @@
 
 namespace {
 
-using em5::Jobs;
 using qsf::JobArguments;
 using qsf::JobProxy;
 using qsf::Time;
 
+struct Jobs {
+  static constexpr qsf::StringHash SIMULATION_LOGIC{"test::LOGIC"};
+  static constexpr qsf::StringHash SIMULATION_FIRE{"test::FIRE"};
+  static constexpr qsf::StringHash ANIMATION_VEHICLE{"test::VEHICLE"};
+  static constexpr qsf::StringHash REALTIME_GUI_DEBUG{"test::GUI"};
+  static void addTo(const qsf::Qsf& host) {
+    using Kind = qsf::JobManagers::Kind;
+    host.getJobManagers().addJobManager("test::LOGIC", Kind::SIMULATION);
+    host.getJobManagers().addJobManager("test::FIRE", Kind::SIMULATION);
+    host.getJobManagers().addJobManager("test::VEHICLE", Kind::REALTIME);
+    host.getJobManagers().addJobManager("test::GUI", Kind::REALTIME);
+  }
+};
+
 class JobManagersTest : public testing::Test {
 protected:
   JobManagersTest() {
+    Jobs::addTo(host);
     host.getLogSystem().addListener([this](const qsf::LogSystem::Record& record) {
       lines.push_back(std::to_string(record.severity) + " " + std::string(record.message));
     });
@@ -43,6 +56,36 @@ TEST_F(JobManagersTest, ManagersRunInTheirFixedOrderAndJobsInThatOfRegistration)
   secondLogic.registerAt(Jobs::SIMULATION_LOGIC, note("logic2 "));
   frame();
   EXPECT_EQ(calls, "logic1 logic2 fire vehicle gui ");
+}
+
+TEST_F(JobManagersTest, TheWorldMovesInTheFirstManagerOfTheSimulation) {
+  EXPECT_EQ(host.getJobManagers().getSimulationManager(), Jobs::SIMULATION_LOGIC);
+  JobProxy world;
+  world.registerInSimulation(note("world"));
+  EXPECT_EQ(host.getJobManagers().getNumberOfJobs(Jobs::SIMULATION_LOGIC), 1u);
+  frame();
+  host.getJobManagers().setPaused(true);
+  frame();
+  EXPECT_EQ(calls, "world");
+}
+
+TEST_F(JobManagersTest, AManagerAddedAgainStaysAsItIs) {
+  host.getJobManagers().addJobManager("test::LOGIC", qsf::JobManagers::Kind::REALTIME);
+  JobProxy logic;
+  logic.registerAt(Jobs::SIMULATION_LOGIC, note("logic"));
+  host.getJobManagers().setPaused(true);
+  frame();
+  EXPECT_EQ(calls, "");
+}
+
+TEST(JobManagers, AHostWithoutAGameHasNoStepForTheWorld) {
+  qsf::Qsf host;
+  int warnings = 0;
+  host.getLogSystem().addListener([&](const qsf::LogSystem::Record& record) { warnings += record.severity == 3; });
+  JobProxy world;
+  world.registerInSimulation([](const JobArguments&) {});
+  EXPECT_FALSE(world.isRegistered());
+  EXPECT_EQ(warnings, 1);
 }
 
 TEST_F(JobManagersTest, RegisteringAgainMovesAJobToTheEnd) {
@@ -147,8 +190,8 @@ TEST_F(JobManagersTest, AFaultIsLoggedWithItsManagerAndCostsThatCallOnly) {
   EXPECT_EQ(calls1, 2);
   EXPECT_EQ(calls, "sound sound ");
   ASSERT_EQ(lines.size(), 4u);
-  EXPECT_EQ(lines[0], "4 Fault in a job of em5::Jobs::SIMULATION_LOGIC: no such thing");
-  EXPECT_EQ(lines[1], "4 Fault in a job of em5::Jobs::ANIMATION_VEHICLE: unknown exception");
+  EXPECT_EQ(lines[0], "4 Fault in a job of test::LOGIC: no such thing");
+  EXPECT_EQ(lines[1], "4 Fault in a job of test::VEHICLE: unknown exception");
   EXPECT_EQ(host.getFaultCounter().getCount(), 4u);
 }
 
@@ -251,6 +294,7 @@ TEST(JobProxy, MayOutliveTheHostAndBeUsedWithoutOne) {
   EXPECT_FALSE(job.isRegistered());
   {
     qsf::Qsf host;
+    Jobs::addTo(host);
     job.registerAt(Jobs::SIMULATION_LOGIC, [](const JobArguments&) {});
     EXPECT_TRUE(job.isRegistered());
   }

@@ -1,6 +1,5 @@
 #include "qsf/message/MessageSystem.h"
 #include "qsf/Qsf.h"
-#include "qsf/base/StringHashManager.h"
 #include "qsf/log/FaultCounter.h"
 #include "qsf/log/LogSystem.h"
 #include "qsf/message/MessageProxy.h"
@@ -153,7 +152,7 @@ TEST_F(MessageSystemTest, EndlessRecursionIsCutWithOneErrorInTheLog) {
   // Two listeners that each emit again would double the work at each level.
   first.registerAt(ID, again);
   second.registerAt(ID, again);
-  host.getStringHashManager().registerStringHash(ID, "test::Message");
+  host.getMessageSystem().addMessageName("test::Message");
   emit();
   EXPECT_LE(count, 2 * qsf::MessageSystem::MAXIMUM_DEPTH);
   EXPECT_GE(count, qsf::MessageSystem::MAXIMUM_DEPTH);
@@ -172,7 +171,7 @@ TEST_F(MessageSystemTest, AFaultIsLoggedAndTheOtherListenersHearTheMessage) {
   MessageProxy faulty, sound;
   faulty.registerAt(ID, [](const MessageParameters&) { throw std::runtime_error("broken"); });
   sound.registerAt(ID, note("sound"));
-  host.getStringHashManager().registerStringHash(ID, "test::Message");
+  host.getMessageSystem().addMessageName("test::Message");
   emit();
   EXPECT_EQ(calls, "sound");
   ASSERT_EQ(lines.size(), 1u);
@@ -181,7 +180,7 @@ TEST_F(MessageSystemTest, AFaultIsLoggedAndTheOtherListenersHearTheMessage) {
 }
 
 TEST_F(MessageSystemTest, CountsMessagesByIdAndByName) {
-  host.getStringHashManager().registerStringHash(ID, "test::Message");
+  host.getMessageSystem().addMessageName("test::Message");
   emit();
   emit();
   emit(StringHash(77u));
@@ -189,6 +188,14 @@ TEST_F(MessageSystemTest, CountsMessagesByIdAndByName) {
   EXPECT_EQ(host.getMessageSystem().getEmittedCount(StringHash("never")), 0u);
   EXPECT_EQ(host.getMessageSystem().getEmittedCounts(),
             (std::map<std::string, std::uint64_t>{{"77", 1}, {"test::Message", 2}}));
+}
+
+TEST_F(MessageSystemTest, TellsWhichMessagesThereAre) {
+  EXPECT_TRUE(host.getMessageSystem().getMessageNames().empty());
+  host.getMessageSystem().addMessageName("test::Message");
+  host.getMessageSystem().addMessageName("test::Another");
+  host.getMessageSystem().addMessageName("test::Message");
+  EXPECT_EQ(host.getMessageSystem().getMessageNames(), (std::set<std::string>{"test::Another", "test::Message"}));
 }
 
 TEST(MessageProxy, MayOutliveTheHostAndBeUsedWithoutOne) {

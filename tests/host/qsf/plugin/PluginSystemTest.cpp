@@ -93,9 +93,16 @@ TEST_F(PluginSystemTest, LoadsInstallsAndStartsALibrarysPlugin) {
   EXPECT_TRUE(host.getPluginSystem().getPlugins().empty());
 }
 
+TEST(PluginSystem, TheFactoryIsNamedAfterTheLibrary) {
+  using qsf::PluginSystem;
+  EXPECT_EQ(PluginSystem::getFactoryName("/a.b/libbirds.so"), "CreatePluginInstance_birds_new");
+  EXPECT_EQ(PluginSystem::getFactoryName("birds.so.1.2"), "CreatePluginInstance_birds_new");
+  EXPECT_EQ(PluginSystem::getFactoryName("birds"), "CreatePluginInstance_birds_new");
+}
+
 TEST_F(PluginSystemTest, ALibraryIsLoadedOnlyOnceAtATimeButAgainAfterItsEnd) {
   ASSERT_NE(host.getPluginSystem().loadPlugin(TEST_PLUGIN_FILE), nullptr);
-  EXPECT_NE(loadFailing(TEST_PLUGIN_FILE, "CreatePluginInstance_tidemark_new").find("loaded already"),
+  EXPECT_NE(loadFailing(TEST_PLUGIN_FILE, "CreatePluginInstance_test_plugin_new").find("loaded already"),
             std::string::npos);
   EXPECT_EQ(host.getPluginSystem().getPlugins().size(), 1u);
   host.getPluginSystem().unloadPlugins();

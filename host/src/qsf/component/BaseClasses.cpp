@@ -1,0 +1,26 @@
+#include "qsf/component/BaseClasses.h"
+
+#include "qsf/action/Action.h"
+#include "qsf/component/Component.h"
+
+#include <camp/classbuilder.hpp>
+
+namespace qsf {
+
+namespace {
+
+void declare() {
+  camp::Class::declare<Object>("qsf::Object");
+  camp::Class::declare<Prototype>("qsf::Prototype");
+  Component::declareCamp();
+  Action::declareCamp();
+}
+
+}
+
+void declareBaseClasses() {
+  static const bool declared = (declare(), true);
+  static_cast<void>(declared);
+}
+
+}
