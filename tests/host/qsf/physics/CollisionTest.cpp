@@ -76,6 +76,39 @@ TEST_F(CollisionTest, ACopyOfAnObjectMeetsTheObjectItself) {
   EXPECT_EQ((Ids{100}), touching(100));
 }
 
+TEST_F(CollisionTest, AnObjectOfTheWorldDoesNotMeetItself) {
+  qsf::Entity& person = spawn("firefighter", 100);
+  spawn("barrel", 101);
+  auto* component = person.getComponent<BulletCollisionComponent>();
+  std::vector<qsf::Entity*> found;
+  qsf::CollisionHelper(map).getCollisionsAt(*component->getWrappedBulletCollisionObject(), found,
+                                            component->getCollisionFilterGroup(), component->getCollisionMask());
+  EXPECT_EQ((Ids{101}), idsOf(found));
+}
+
+TEST_F(CollisionTest, AShapeThatIsNoBoxIsComparedToo) {
+  spawn("firefighter", 100, {5, 0, 0}); // a unit wide, standing on the ground
+  spawn("firefighter", 101, {4, 0, 4});
+  btSphereShape ball(4.6f);
+  btCollisionObject object;
+  object.setCollisionShape(&ball);
+  object.setWorldTransform(btTransform(btQuaternion(0, 0, 0, 1), btVector3(0, 1, 0)));
+  std::vector<qsf::Entity*> found;
+  qsf::CollisionHelper(map).getCollisionsAt(object, found, qsf::COLLISION_SENSOR, qsf::COLLISION_ALL);
+  EXPECT_EQ((Ids{100}), idsOf(found)); // near the other one's corner, but not there
+}
+
+TEST_F(CollisionTest, WhatIsFoundComesBehindWhatTheListHolds) {
+  spawn("sensor", 100);
+  spawn("civilian", 102);
+  spawn("civilian", 101);
+  auto* component = map.getEntityById(100)->getComponent<BulletCollisionComponent>();
+  std::vector<qsf::Entity*> found{map.getEntityById(102)};
+  qsf::CollisionHelper(map).getCollisionsAt(*component->getWrappedBulletCollisionObject(), found,
+                                            component->getCollisionFilterGroup(), component->getCollisionMask());
+  EXPECT_EQ((Ids{102, 101, 102}), idsOf(found));
+}
+
 TEST_F(CollisionTest, InactiveDestroyedAndFarOutBoxesAreNotMet) {
   spawn("sensor", 100);
   qsf::Entity& person = spawn("civilian", 101);
