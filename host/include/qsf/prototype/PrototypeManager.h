@@ -1,20 +1,29 @@
 #pragma once
 #include "qsf/prototype/Prototype.h"
 
-#include <map>
 #include <unordered_map>
 
 namespace qsf {
 
-/// A prototype that new entities are copied from.
+class JsonPlace;
+
+/// A prototype that new entities are copied from. It doesn't change once it is read.
 class QSF_API Prefab : public Prototype {
 public:
-  Prefab(std::uint64_t id, std::string localAssetName) : Prototype(id), mLocalAssetName(std::move(localAssetName)) {}
-  ~Prefab() override { destroyAllComponents(); }
+  Prefab(std::uint64_t id, std::string localAssetName);
+  ~Prefab() override;
   const std::string& getLocalAssetName() const { return mLocalAssetName; }
 
+  /// Makes the components that a JSON object tells. Called once. Throws LoadError.
+  void read(const JsonPlace& components);
+  /// Gives a fresh prototype what this one has: components of the same classes whose properties have the same values.
+  /// They aren't started.
+  void copyComponentsTo(Prototype& target) const;
+
 private:
+  struct Blueprint;
   std::string mLocalAssetName;
+  std::unique_ptr<Blueprint> mBlueprint;
 };
 
 /// The prefabs, read from their files at first use and kept. Owned by Qsf.

@@ -31,9 +31,6 @@ QSF_API void setPropertyText(const camp::UserObject& object, const std::string& 
 QSF_API void setPropertyElements(const camp::UserObject& object, const camp::Property& property,
                                  const std::vector<std::string>& elements);
 
-/// Copies every readable and writable property from one object to another of the same class.
-QSF_API void copyProperties(const camp::UserObject& source, const camp::UserObject& target);
-
 QSF_API std::string toText(double value);
 QSF_API std::string toText(const glm::vec3& value);
 QSF_API std::string toText(const glm::quat& value);

@@ -9,7 +9,6 @@
 #include "qsf/map/MapInternals.h"
 #include "qsf/map/MapReader.h"
 #include "qsf/prototype/PrototypeManager.h"
-#include "qsf/reflection/PropertyText.h"
 
 namespace qsf {
 
@@ -108,9 +107,7 @@ Entity* Map::createObjectFromPrefab(const Prefab& prefab, std::uint64_t id) {
   entity->getOrCreateComponentById(TransformComponent::COMPONENT_ID, false);
   auto* metadata =
       static_cast<MetadataComponent*>(entity->getOrCreateComponentById(MetadataComponent::COMPONENT_ID, false));
-  for (const Component* source : prefab.getComponents())
-    if (const Component* copy = entity->getOrCreateComponentById(source->getId(), false))
-      copyProperties(camp::UserObject(*source), camp::UserObject(*copy));
+  prefab.copyComponentsTo(*entity);
   metadata->setBasePrefab(StringHash(prefab.getLocalAssetName()));
   if (mStarted) startComponents(*entity);
   return entity;

@@ -9,13 +9,20 @@ namespace qsf {
 
 namespace {
 
-/// Null if the class has no constructor for a prototype or is no component.
-std::unique_ptr<Component> makeComponent(const camp::Class& metaclass, Prototype& prototype) {
+Component* constructByCamp(const camp::Class& metaclass, Prototype& prototype) {
+  const camp::UserObject made = metaclass.construct(camp::Args(camp::UserObject(prototype)));
+  return made.pointer() ? made.get<Component*>() : nullptr;
+}
+
+/// Null if there is no such class, if it has no constructor for a prototype or is no component.
+std::unique_ptr<Component> makeComponent(StringHash componentId, Prototype& prototype) {
+  const camp::Class* metaclass = findComponentClass(componentId);
+  if (!metaclass) return nullptr;
   try {
-    const camp::UserObject made = metaclass.construct(camp::Args(camp::UserObject(prototype)));
-    return std::unique_ptr<Component>(made.pointer() ? made.get<Component*>() : nullptr);
+    const ClassRegistry::ComponentMaker maker = ClassRegistry::findComponentMaker(componentId);
+    return std::unique_ptr<Component>(maker ? maker(&prototype) : constructByCamp(*metaclass, prototype));
   } catch (const std::exception& fault) {
-    logMessage(LogSystem::ERROR, "A component " + metaclass.name() + " could not be made: " + fault.what());
+    logMessage(LogSystem::ERROR, "A component " + metaclass->name() + " could not be made: " + fault.what());
     return nullptr;
   }
 }
@@ -32,8 +39,7 @@ Component* Prototype::getComponentById(StringHash componentId) const {
 
 Component* Prototype::getOrCreateComponentById(StringHash componentId, bool startup) {
   if (Component* existing = getComponentById(componentId)) return existing;
-  const camp::Class* metaclass = findComponentClass(componentId);
-  std::unique_ptr<Component> made = metaclass ? makeComponent(*metaclass, *this) : nullptr;
+  std::unique_ptr<Component> made = makeComponent(componentId, *this);
   if (!made) return nullptr;
   Component& component = *made;
   component.mId = componentId;

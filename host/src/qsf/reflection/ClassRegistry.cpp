@@ -5,7 +5,11 @@ namespace qsf {
 namespace {
 
 struct Classes {
-  std::unordered_map<StringHash, const camp::Class*> byId;
+  struct Entry {
+    const camp::Class* campClass = nullptr;
+    ClassRegistry::ComponentMaker maker = nullptr;
+  };
+  std::unordered_map<StringHash, Entry> byId;
   std::vector<const camp::Class*> byName;
 };
 
@@ -29,8 +33,8 @@ void ClassRegistry::declareAll() {
     declare();
 }
 
-void ClassRegistry::addClass(const camp::Class& campClass) {
-  if (!classes().byId.emplace(StringHash(campClass.name()), &campClass).second) return;
+void ClassRegistry::addClass(const camp::Class& campClass, ComponentMaker maker) {
+  if (!classes().byId.emplace(StringHash(campClass.name()), Classes::Entry{&campClass, maker}).second) return;
   auto& byName = classes().byName;
   const auto isBefore = [](const camp::Class* left, const camp::Class* right) { return left->name() < right->name(); };
   byName.insert(std::lower_bound(byName.begin(), byName.end(), &campClass, isBefore), &campClass);
@@ -38,14 +42,19 @@ void ClassRegistry::addClass(const camp::Class& campClass) {
 
 void ClassRegistry::removeClass(const camp::Class& campClass) {
   const auto found = classes().byId.find(StringHash(campClass.name()));
-  if (found == classes().byId.end() || found->second != &campClass) return;
+  if (found == classes().byId.end() || found->second.campClass != &campClass) return;
   classes().byId.erase(found);
   std::erase(classes().byName, &campClass);
 }
 
 const camp::Class* ClassRegistry::findClass(StringHash id) {
   const auto found = classes().byId.find(id);
-  return found == classes().byId.end() ? nullptr : found->second;
+  return found == classes().byId.end() ? nullptr : found->second.campClass;
+}
+
+ClassRegistry::ComponentMaker ClassRegistry::findComponentMaker(StringHash id) {
+  const auto found = classes().byId.find(id);
+  return found == classes().byId.end() ? nullptr : found->second.maker;
 }
 
 const std::vector<const camp::Class*>& ClassRegistry::getClasses() { return classes().byName; }

@@ -160,22 +160,6 @@ void setPropertyElements(const camp::UserObject& object, const camp::Property& p
   }
 }
 
-void copyProperties(const camp::UserObject& source, const camp::UserObject& target) {
-  const camp::Class& metaclass = source.getClass();
-  for (std::size_t i = 0; i < metaclass.propertyCount(); ++i) {
-    const camp::Property& property = metaclass.property(i);
-    if (property.type() == camp::userType || !property.readable(source)) continue;
-    if (property.type() == camp::arrayType) {
-      const auto& array = static_cast<const camp::ArrayProperty&>(property);
-      if (array.dynamic()) array.resize(target, array.size(source));
-      for (std::size_t k = 0; k < array.size(source); ++k)
-        array.set(target, k, array.get(source, k));
-    } else if (property.writable(target)) {
-      property.set(target, property.get(source));
-    }
-  }
-}
-
 std::string toText(double value) {
   if (value == 0.0) return "0"; // minus zero, too
   std::array<char, 400> buffer{};
