@@ -1,8 +1,10 @@
 // What scripts pay for the world: conditions and effects about areas, sensors and lists, on a small map and on one of
-// fifty thousand entities. In the first part eight persons stand round a unit and all others are out of range, so that
-// the cost should stay the same on both maps; a plain walk over all entities stands beside it. In the second part an
-// entry works on every entity of the map, and its cost for each should grow no more than that of the plain walk.
+// fifty thousand entities, each beside its floor: a plain loop over plain structs of what is found. In the first part
+// eight persons stand round a unit and all others are out of range, so that the cost should stay the same on both maps;
+// a plain walk over all entities stands beside it. In the second part an entry works on every entity of the map, and
+// its cost for each should grow no more than that of the floor, whose entities leave the caches as well.
 #include "bench/support/Benchmarks.h"
+#include "bench/support/PlainWorld.h"
 #include "game_plugin/scenario/loading/ScriptParser.h"
 #include "game_plugin/scenario/tick/ScenarioHandler.h"
 
@@ -19,9 +21,12 @@
 
 #include <algorithm>
 #include <memory>
+#include <numeric>
+#include <optional>
 
 namespace {
 
+using tidemark::bench::PlainWorld;
 using tidemark::bench::Results;
 using tidemark::bench::Table;
 
@@ -82,15 +87,31 @@ public:
     if (mCount != count) {
       mCount = count;
       mSession.startGame("em5/map/test/empty");
+      mPlain.reset();
       // The first question about a class builds its grid.
       qsf::ComponentMapQuery(qsf::getMainMap())
           .getInstancesInCircleById(qsf::MetadataComponent::COMPONENT_ID, {0, 0, 0}, 1);
     }
     return qsf::getMainMap();
   }
+  /// The same as plain structs.
+  PlainWorld& plain(std::int64_t count) {
+    const qsf::Map& map = of(count);
+    if (!mPlain) {
+      const auto ids = [](std::uint64_t first, std::uint64_t number) {
+        PlainWorld::Ids list(number);
+        std::iota(list.begin(), list.end(), first);
+        return list;
+      };
+      mPlain.emplace(map, CENTER, SENSOR, ids(FIRST_NEAR, NUMBER_NEAR),
+                     ids(FIRST_FAR, static_cast<std::uint64_t>(count)));
+    }
+    return *mPlain;
+  }
 
 private:
   em5::HostSession mSession;
+  std::optional<PlainWorld> mPlain;
   std::int64_t mCount = 0;
 };
 
@@ -117,50 +138,63 @@ private:
 struct Entry {
   const char* name;
   const char* lines; ///< the condition or effect that is measured
-  const char* list;  ///< list by whose size the result is proved
+  const char* list;  ///< list by whose size the result is proved, of the floor as well; empty: none
   std::int64_t size; ///< its size; ALL: every far entity
+  void (*floor)(PlainWorld& plain);
   bool isCondition = true;
 };
 constexpr std::int64_t ALL = -1;
+constexpr std::int64_t ANY = -2; ///< no proof
+constexpr bool EFFECT = false;   ///< for `isCondition`
 
 /// Entries for which only what is near counts.
 constexpr Entry LOCAL_ENTRIES[] = {
     {"UnitsInArea, 8 in range", R"(UnitsInArea("10", "8", "100", "em5/prefab/test/firefighter", "==", "out");)", "out",
-     8},
-    {"IsAnyEntityInSensorArea, 8 inside", R"(IsAnyEntityInSensorArea("11", "em5::PersonComponent", "out");)", "out", 8},
-    {"IsUnitInSensorArea, 8 inside", R"(IsUnitInSensorArea("11", "near", "out");)", "out", 8},
-    {"IsUnitInSensorArea, list of all, none inside", R"(!IsUnitInSensorArea("11", "all", "out");)", "out", 0},
-    {"DistanceToUnit, list of 8", R"(DistanceToUnit("10", "near", "100", "<", "out");)", "out", 8},
-    {"EntityHasComponent, list of 8", R"(EntityHasComponent("near", "em5::PersonComponent", "out");)", "out", 8},
+     8, [](PlainWorld& plain) { plain.findPrefabInCircle(RANGE); }},
+    {"IsAnyEntityInSensorArea, 8 inside", R"(IsAnyEntityInSensorArea("11", "em5::PersonComponent", "out");)", "out", 8,
+     [](PlainWorld& plain) { plain.findPersonsInArea(); }},
+    {"IsUnitInSensorArea, 8 inside", R"(IsUnitInSensorArea("11", "near", "out");)", "out", 8,
+     [](PlainWorld& plain) { plain.findInArea(plain.near()); }},
+    {"IsUnitInSensorArea, list of all, none inside", R"(!IsUnitInSensorArea("11", "all", "out");)", "out", 0,
+     [](PlainWorld& plain) { plain.findInArea(plain.all()); }},
+    {"DistanceToUnit, list of 8", R"(DistanceToUnit("10", "near", "100", "<", "out");)", "out", 8,
+     [](PlainWorld& plain) { plain.findCloser(plain.near(), 100); }},
+    {"EntityHasComponent, list of 8", R"(EntityHasComponent("near", "em5::PersonComponent", "out");)", "out", 8,
+     [](PlainWorld& plain) { plain.findPersons(plain.near()); }},
     {"PickClosestUnitsFromEntityList, 3 of 8", R"(PickClosestUnitsFromEntityList("near", "out", true, "3", "10");)",
-     "out", 3, false},
+     "out", 3, [](PlainWorld& plain) { plain.pickClosest(plain.near(), 3); }, EFFECT},
     {"AddUnitsFromTypeToEntityList, 3 of 8",
-     R"(AddUnitsFromTypeToEntityList("out", "PlayerPersons", true, "3", "10", "100");)", "out", 3, false},
+     R"(AddUnitsFromTypeToEntityList("out", "PlayerPersons", true, "3", "10", "100");)", "out", 3,
+     [](PlainWorld& plain) { plain.drawPersons(3, RANGE); }, EFFECT},
     {"SetTransform, there and back",
-     "SetTransform(\"12\", true, \"300 20 300\");\nSetTransform(\"12\", true, \"500 20 -400\");", "near", 8, false},
+     "SetTransform(\"12\", true, \"300 20 300\");\nSetTransform(\"12\", true, \"500 20 -400\");", "", 0,
+     [](PlainWorld& plain) { plain.moveThereAndBack(MOVER); }, EFFECT},
     {"SpawnObject and DestroyObject",
      "ClearEntityIdList(\"out\");\nSpawnObject(\"em5/prefab/test/civilian\", \"out\", true, \"-400 0 "
      "-404\");\nDestroyObject(\"out\");",
-     "out", 1, false},
+     "out", 1, [](PlainWorld& plain) { plain.makeAndDestroy(1); }, EFFECT},
 };
 
 /// Entries that work on every entity.
 constexpr Entry WHOLE_ENTRIES[] = {
     {"GetAllEntitiesWithComponent", R"(GetAllEntitiesWithComponent("out", "qsf::BulletCollisionComponent");)", "", 0,
-     false},
-    {"EntityHasComponent", R"(EntityHasComponent("all", "qsf::MetadataComponent", "out");)", "out", ALL},
-    {"DistanceToUnit", R"(DistanceToUnit("10", "all", "200", ">", "out");)", "out", ALL},
-    {"RemoveInvalidEntitiesFromList", R"(RemoveInvalidEntitiesFromList("all");)", "all", ALL, false},
+     [](PlainWorld& plain) { plain.listAll(); }, EFFECT},
+    {"EntityHasComponent", R"(EntityHasComponent("all", "qsf::MetadataComponent", "out");)", "out", ALL,
+     [](PlainWorld& plain) { plain.findKnown(plain.all()); }},
+    {"DistanceToUnit", R"(DistanceToUnit("10", "all", "200", ">", "out");)", "out", ALL,
+     [](PlainWorld& plain) { plain.findFarther(plain.all(), 200); }},
+    {"RemoveInvalidEntitiesFromList", R"(RemoveInvalidEntitiesFromList("all");)", "all", ALL,
+     [](PlainWorld& plain) { plain.findKnown(plain.all()); }, EFFECT},
     {"RemoveAllEntitiesWithoutComponent", R"(RemoveAllEntitiesWithoutComponent("all", "qsf::TransformComponent");)",
-     "all", ALL, false},
+     "all", ALL, [](PlainWorld& plain) { plain.findKnown(plain.all()); }, EFFECT},
     {"PickClosestUnitsFromEntityList, 3", R"(PickClosestUnitsFromEntityList("all", "out", true, "3", "10");)", "out", 3,
-     false},
+     [](PlainWorld& plain) { plain.pickClosest(plain.all(), 3); }, EFFECT},
     {"PickClosestUnitsFromEntityList, all", R"(PickClosestUnitsFromEntityList("all", "out", true, "99999", "10");)",
-     "out", ALL, false},
+     "out", ALL, [](PlainWorld& plain) { plain.pickClosest(plain.all(), 99999); }, EFFECT},
     {"PickUnitsFromEntityList, no such cluster", R"(PickUnitsFromEntityList("all", "out", true, "900", "90");)", "out",
-     900, false},
+     900, [](PlainWorld& plain) { plain.pickCluster(plain.all(), 900, 90); }, EFFECT},
     {"AddEntityToEntityList", "ClearEntityIdList(\"out\");\nAddEntityToEntityList(\"all\", \"out\");", "out", ALL,
-     false},
+     [](PlainWorld& plain) { plain.addAll(plain.all()); }, EFFECT},
 };
 
 std::string makeScript(const Entry& entry) {
@@ -188,6 +222,18 @@ void run(benchmark::State& state, const Entry& entry) {
   const auto size = static_cast<std::int64_t>(handler.ResolveEntityList(std::string(entry.list)).size());
   if (!script.isRead(1) || (script.timesFired() == 0) != entry.isCondition || (*entry.list && size != expected))
     state.SkipWithError("the entry did not do what is measured");
+}
+
+void runFloor(benchmark::State& state, void (*floor)(PlainWorld&), std::int64_t size) {
+  PlainWorld& plain = world->plain(state.range(0));
+  for (auto _ : state) {
+    floor(plain);
+    benchmark::DoNotOptimize(plain.out.data());
+    benchmark::ClobberMemory();
+  }
+  const std::int64_t expected = size == ALL ? state.range(0) : size;
+  if (size != ANY && static_cast<std::int64_t>(plain.out.size()) != expected)
+    state.SkipWithError("the floor did not find what the entry finds");
 }
 
 // The same questions to the host, without a script.
@@ -229,52 +275,72 @@ void rayQuery(benchmark::State& state) {
 struct HostQuestion {
   const char* name;
   void (*function)(benchmark::State&);
+  void (*floor)(PlainWorld& plain); ///< null for what is a floor itself
+  std::int64_t size;                ///< of what the floor finds
 };
 constexpr HostQuestion HOST_QUESTIONS[] = {
-    {"circle query of the host, 10 in range", &circleQuery},
-    {"linear walk for the same", &linearWalk},
-    {"ray from the camera to a person", &rayQuery},
+    {"circle query of the host, 10 in range", &circleQuery, [](PlainWorld& plain) { plain.findInCircle(RANGE); },
+     NUMBER_NEAR + 2},
+    {"linear walk for the same", &linearWalk, nullptr, ANY},
+    {"ray from the camera to a person", &rayQuery,
+     [](PlainWorld& plain) {
+       plain.hitByRay({-4, 40, -33}, glm::normalize(glm::vec3(0, -39, 40)));
+     },
+     1},
 };
+
+std::string floorOf(const std::string& name) { return "floor: " + name; }
+std::string eachOf(const Entry& entry) { return fmt::format("each: {}", entry.name); }
 
 void registerAll() {
   for (const std::int64_t count : COUNTS) {
     const auto add = [count](const char* name, auto&& function) {
       benchmark::RegisterBenchmark(name, function)->Arg(count)->Unit(benchmark::kMicrosecond);
     };
-    for (const HostQuestion& question : HOST_QUESTIONS)
+    const auto addFloor = [&](const std::string& name, void (*floor)(PlainWorld&), std::int64_t size) {
+      if (floor) add(floorOf(name).c_str(), [=](benchmark::State& state) { runFloor(state, floor, size); });
+    };
+    for (const HostQuestion& question : HOST_QUESTIONS) {
       add(question.name, question.function);
+      addFloor(question.name, question.floor, question.size);
+    }
+    const auto addEntry = [&](const std::string& name, const Entry& entry) {
+      add(name.c_str(), [&entry](benchmark::State& state) { run(state, entry); });
+      addFloor(name, entry.floor, *entry.list ? entry.size : ANY);
+    };
     for (const Entry& entry : LOCAL_ENTRIES)
-      add(entry.name, [&entry](benchmark::State& state) { run(state, entry); });
+      addEntry(entry.name, entry);
     for (const Entry& entry : WHOLE_ENTRIES)
-      add(fmt::format("each: {}", entry.name).c_str(), [&entry](benchmark::State& state) { run(state, entry); });
+      addEntry(eachOf(entry), entry);
   }
 }
 
 Table makeTable(const Results& results) {
   using tidemark::bench::grouped;
   using tidemark::bench::oneDigit;
-  Table table({"entities on the map", grouped(COUNTS[0]), grouped(COUNTS[1]), "ratio"});
-  const auto nanoseconds = [&](const std::string& name, std::int64_t count) {
-    return results.nanoseconds(fmt::format("{}/{}", name, count));
-  };
-  const auto addLocal = [&](const std::string& name) {
-    const double few = nanoseconds(name, COUNTS[0]);
-    const double many = nanoseconds(name, COUNTS[1]);
-    table.add({name + ", ns", grouped(few), grouped(many), oneDigit(many / few)});
+  const std::string few = grouped(COUNTS[0]);
+  const std::string many = grouped(COUNTS[1]);
+  Table table({"nanoseconds, with so many entities on the map", few, "floor", "ratio", many, "floor", "ratio"});
+  const auto addRow = [&](const std::string& label, const std::string& name, bool isEach) {
+    std::vector<std::string> row{label};
+    for (const std::int64_t count : COUNTS) {
+      const double divisor = isEach ? static_cast<double>(count) : 1;
+      const double cost = results.nanoseconds(fmt::format("{}/{}", name, count)) / divisor;
+      const double floor = results.nanoseconds(fmt::format("{}/{}", floorOf(name), count)) / divisor;
+      for (const double value : {cost, floor})
+        row.push_back(isEach ? oneDigit(value) : grouped(value));
+      row.push_back(oneDigit(cost / floor));
+    }
+    table.add(std::move(row));
   };
   for (const HostQuestion& question : HOST_QUESTIONS)
-    addLocal(question.name);
+    addRow(question.name, question.name, false);
   for (const Entry& entry : LOCAL_ENTRIES)
-    addLocal(entry.name);
-  const auto addEach = [&](const std::string& label, const std::string& name) {
-    const double few = nanoseconds(name, COUNTS[0]) / static_cast<double>(COUNTS[0]);
-    const double many = nanoseconds(name, COUNTS[1]) / static_cast<double>(COUNTS[1]);
-    table.add({label + ", ns each", oneDigit(few), oneDigit(many), oneDigit(many / few)});
-  };
+    addRow(entry.name, entry.name, false);
   // The walk tells what a larger map costs by itself: its entities no longer fit into the processor's caches.
-  addEach("linear walk over all", HOST_QUESTIONS[1].name);
+  addRow("each of all: linear walk", HOST_QUESTIONS[1].name, true);
   for (const Entry& entry : WHOLE_ENTRIES)
-    addEach(fmt::format("{} over all", entry.name), fmt::format("each: {}", entry.name));
+    addRow(fmt::format("each of all: {}", entry.name), eachOf(entry), true);
   return table;
 }
 
