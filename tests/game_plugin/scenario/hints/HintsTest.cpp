@@ -176,6 +176,8 @@ TEST(Hints, AreOffAtFirstAndNothingIsCollectedThen) {
   EXPECT_FALSE(hints::isOn());
   Script script("InitNewTrigger(\"t\",TRUE,true,\"MP\");\nCompareValues(\"v\",\"=\",\"1\");\nUnitsInArea(\"x\");");
   script.tick(3);
+  const ExecutionScope scope(script.document->program.get(), 1);
+  hints::tell(HintKind::Asset, "text");
   EXPECT_TRUE(hints::all().empty());
   hints::switchTo(true);
   EXPECT_TRUE(hints::all().empty());

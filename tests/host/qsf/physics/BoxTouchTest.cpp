@@ -72,7 +72,7 @@ TEST(BoxTouch, EdgesThatCrossArePartedByNeitherBoxesFaces) {
 }
 
 TEST(BoxTouch, AgreesWithTheLibrary) {
-  constexpr btScalar UNSURE = btScalar(2e-3); // where the library's own steps end
+  constexpr btScalar UNSURE = btScalar(0.03); // the library rounds: boxes that overlap by a hair are apart to it
   qsf::Random::setSeed(7);
   Library library;
   int touching = 0;
