@@ -90,7 +90,9 @@ void ScriptText::classify() {
   mLine.negated = first.text.front() == '!';
   if (mLine.negated) {
     first.text.remove_prefix(1);
-    ++first.begin;
+    do
+      ++first.begin;
+    while (BLANKS.find(mLine.text[first.begin]) != std::string_view::npos);
   }
   const std::string_view name = first.text;
   if (name == "InitNewTrigger") {

@@ -4,6 +4,9 @@
 #include "game_plugin/scenario/hints/ExecutionPoint.h"
 #include "game_plugin/scenario/loading/ScriptParser.h"
 
+#include "qsf/Qsf.h"
+#include "qsf/log/FaultCounter.h"
+
 #include <functional>
 
 namespace script {
@@ -15,6 +18,8 @@ void tellAgain(const Program& program) {
     const ExecutionScope scope(&program, message.line);
     logMessage(message.severity, message.text);
   }
+  const qsf::Qsf* host = qsf::Qsf::instance();
+  if (program.hasFailed() && host) host->getFaultCounter().add(program.messages().back().text);
 }
 
 }
