@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <map>
 #include <optional>
+#include <set>
 #include <tuple>
 
 namespace script::hints {
@@ -33,11 +34,25 @@ struct Ledger {
   std::map<Place, std::size_t> byPlace;
   std::map<NameKey, std::vector<std::size_t>> reads; ///< hints that a write of the name withdraws
   std::map<NameKey, bool> written;
+  std::map<std::size_t, std::string> readNames; ///< of hints about names, as meantName() gives them
+  std::set<std::string> meant;
 };
 
 Ledger& ledger() {
   static Ledger theLedger;
   return theLedger;
+}
+
+/// A name that tells a script's local ones from those of all other scripts; a global one is one name, however its mark
+/// is written.
+std::string meantName(std::string_view name) {
+  constexpr std::string_view MARK = "\xC2\xA7";
+  const std::size_t mark = name.find('\xA7');
+  if (mark == std::string_view::npos) return executionPoint.source->path() + '\n' + std::string(name);
+  std::string global = "\n" + std::string(name);
+  for (std::size_t at = global.find(MARK); at != std::string::npos; at = global.find(MARK))
+    global.replace(at, MARK.size(), "\xA7");
+  return global;
 }
 
 /// Index of the hint; nothing outside of scripts.
@@ -71,12 +86,18 @@ void tell(HintKind kind, std::string text, std::string nearest) {
   if (detail::on) add(kind, std::move(text), std::move(nearest));
 }
 
+void noteMeant(std::string_view name) {
+  if (executionPoint.source) ledger().meant.insert(meantName(name));
+}
+
 bool noteRead(const void* store, std::string_view kind, std::string_view name) {
   NameKey key{store, std::string(name)};
-  if (ledger().written.contains(key)) return false;
+  if (name.empty() || ledger().written.contains(key)) return false;
+  if (executionPoint.source && ledger().meant.contains(meantName(name))) return false;
   const auto index =
       add(HintKind::Name, "the " + std::string(kind) + " \"" + key.name + "\" is read, but nobody has written it", {});
   if (!index) return true;
+  ledger().readNames.try_emplace(*index, meantName(name));
   std::vector<std::size_t>& reads = ledger().reads[std::move(key)];
   if (std::ranges::find(reads, *index) == reads.end()) reads.push_back(*index);
   return true;
@@ -104,9 +125,13 @@ void forgetStore(const void* store) {
 }
 
 std::vector<Hint> all() {
+  const Ledger& all = ledger();
   std::vector<Hint> told;
-  for (const Hint& hint : ledger().hints)
-    if (hint.count > 0) told.push_back(hint);
+  for (std::size_t i = 0; i < all.hints.size(); ++i) {
+    const auto name = all.readNames.find(i);
+    const bool meant = name != all.readNames.end() && all.meant.contains(name->second);
+    if (all.hints[i].count > 0 && !meant) told.push_back(all.hints[i]);
+  }
   return told;
 }
 

@@ -44,8 +44,12 @@ inline bool isOn() { return detail::on; }
 void switchTo(bool on);
 /// Tells of the line at work (see ExecutionPoint). Nothing happens outside of scripts, or while hints are off.
 void tell(HintKind kind, std::string text, std::string nearest = {});
-/// A name was read before anybody wrote it: a hint that is withdrawn if somebody does. The kind of store is "variable",
-/// "string variable" or "list"; its address tells stores apart. False if the name has been written.
+/// The line at work names what it is going to write, or leaves a name at its default: nobody has mistyped that name,
+/// whether the line ever runs or not. Local names are those of the line's script.
+void noteMeant(std::string_view name);
+/// A name was read before anybody wrote it: a hint that is withdrawn if somebody does, or was meant to. The kind of
+/// store is "variable", "string variable" or "list"; its address tells stores apart. False if the name has been written
+/// or is meant.
 bool noteRead(const void* store, std::string_view kind, std::string_view name);
 void noteWritten(const void* store, std::string_view name);
 /// The store is no more; what was read from it in vain stays a hint.

@@ -25,6 +25,23 @@ template <class T> std::string toText(const T& value) {
   return text;
 }
 
+std::string forName(std::string_view name) { return name.empty() ? "" : " for " + std::string(name); }
+
+/// True if the parameter names a variable or list that the entry writes.
+bool writesName(ParameterRole role) {
+  switch (role) {
+  case ParameterRole::VariableOut:
+  case ParameterRole::VariableInOut:
+  case ParameterRole::StringVariableOut:
+  case ParameterRole::StringVariableInOut:
+  case ParameterRole::ListOut:
+  case ParameterRole::ListInOut:
+    return true;
+  default:
+    return false;
+  }
+}
+
 }
 
 namespace detail {
@@ -49,7 +66,9 @@ ParameterText ParameterReader::read(ParameterRole role, int index, Text defaultV
     return {defaultValue, nullptr};
   }
   const syntax::Token* token = find(index, name);
-  return {token ? token->text : defaultValue, mBuilder};
+  const Text text = token ? token->text : defaultValue;
+  if (hints::isOn() && (!token || writesName(role))) hints::noteMeant(text);
+  return {text, mBuilder};
 }
 
 template <class T>
@@ -66,8 +85,8 @@ T ParameterReader::convert(ParameterRole role, int index, T defaultValue, Text n
   mBuilder->log(LOG_INFO, "Cant cast your property: " + std::string(name) + ". Using " + toText(defaultValue) + ".");
   if (hints::isOn())
     hints::tell(HintKind::Conversion, "\"" + std::string(token->text) + "\" is no " +
-                                          (std::is_same_v<T, float> ? "number" : "whole number") + " for " +
-                                          std::string(name) + "; " + toText(defaultValue) + " is used");
+                                          (std::is_same_v<T, float> ? "number" : "whole number") + forName(name) +
+                                          "; " + toText(defaultValue) + " is used");
   return defaultValue;
 }
 
@@ -115,7 +134,7 @@ bool ParameterReader::flag(int i, bool def, Text name, Text text) {
     mBuilder->log(LOG_INFO, "Boolvalue: " + std::string(name) + " cant be read.|" + std::string(token) + "|");
   if (hints::isOn())
     hints::tell(HintKind::Word, "\"" + std::string(token) + "\" is neither true nor false; " +
-                                    (def ? "true" : "false") + " is used for " + std::string(name));
+                                    (def ? "true" : "false") + " is used" + forName(name));
   return def;
 }
 

@@ -64,7 +64,7 @@ TEST_F(HintsTest, AnOperatorThatMeansLessThanIsTold) {
 
 TEST_F(HintsTest, ATextThatDoesNotConvertIsTold) {
   parseDocument("InitNewTrigger(\"t\");\nInitConditions(some);\nUnitsInArea(\"1\",\"two\",\"far\");");
-  EXPECT_EQ(told(), (Words{"2 t: \"ssome\" is no whole number for ; -1 is used () 1",
+  EXPECT_EQ(told(), (Words{"2 t: \"ssome\" is no whole number; -1 is used () 1",
                            "3 t: \"two\" is no whole number for Number; 1 is used () 1",
                            "3 t: \"far\" is no number for Range; 200 is used () 1"}));
   EXPECT_EQ(kinds(), (std::vector{HintKind::Conversion, HintKind::Conversion, HintKind::Conversion}));
@@ -92,6 +92,33 @@ TEST_F(HintsTest, ANameThatIsWrittenLaterIsNoHint) {
   script.tick();
   EXPECT_EQ(told(), Words());
   script.tick(3);
+  EXPECT_EQ(told(), Words());
+}
+
+TEST_F(HintsTest, ANameThatALineMeansToWriteIsNoHint) {
+  Script script(
+      "InitNewTrigger(\"t\",true,true);\nCompareValues(\"v\",\"==\",\"1\");\nEntityListHasSize(\"l\",\"<\",\"1\");"
+      "\nInitNewTrigger(\"never\",false,false);\nInitEffects();\nSetVariable(\"v\",\"1\");\n"
+      "AddEntityToEntityList(\"1\",\"l\");\n");
+  script.tick(2);
+  EXPECT_EQ(told(), Words());
+}
+
+TEST_F(HintsTest, ALocalNameIsMeantByItsOwnScriptOnlyAndAGlobalOneByAny) {
+  Script reader("InitNewTrigger(\"t\",true,true);\nInitConditions(1);\nCompareValues(\"v\",\"==\",\"1\");\n"
+                "CompareValues(\"\xA7g\",\"==\",\"1\");");
+  reader.tick();
+  EXPECT_EQ(hints::all().size(), 2u);
+  parseDocument("InitNewTrigger(\"never\",false,false);\nInitEffects();\nSetVariable(\"\xC2\xA7g\",\"1\");\n"
+                "SetVariable(\"v\",\"1\");\n",
+                "other.script");
+  ASSERT_EQ(hints::all().size(), 1u);
+  EXPECT_EQ(hints::all()[0].text, "the variable \"v\" is read, but nobody has written it");
+}
+
+TEST_F(HintsTest, ANameThatALineLeavesOutIsNoHint) {
+  Script script("InitNewTrigger(\"t\",true,true);\nIsEntityExisting();\n");
+  script.tick();
   EXPECT_EQ(told(), Words());
 }
 
@@ -131,7 +158,8 @@ TEST_F(HintsTest, AGlobalListThatIsEmptiedBeforeItIsThereIsMeantToBe) {
 
 TEST_F(HintsTest, NamesOfOtherScriptsLocalStoresAreNoMatter) {
   Script reader("InitNewTrigger(\"t\",true,true);\nCompareValues(\"v\",\"==\",\"1\");");
-  Script writer("InitNewTrigger(\"t\",true,true);\nInitEffects();\nSetVariable(\"v\",\"1\");");
+  Script writer(
+      parseDocument("InitNewTrigger(\"t\",true,true);\nInitEffects();\nSetVariable(\"v\",\"1\");", "other.script"));
   writer.tick();
   reader.tick();
   EXPECT_EQ(hints::all().size(), 1u);
