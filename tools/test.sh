@@ -29,7 +29,7 @@ fi
 echo "Unit tests: $((unit_all - unit_failed)) of $unit_all passed"
 
 script_log=$build/script-tests.log
-"$build/bin/tidemark" test tests/scripts examples --jobs "$jobs" 2>&1 | tee "$script_log" |
+"$build/bin/tidemark" test tests/scripts examples --strict --time-limit 600 --jobs "$jobs" 2>&1 | tee "$script_log" |
   sed -u -E 's/^([0-9]+ passed, [0-9]+ failed)$/Script tests: \1/'
 script_status=${PIPESTATUS[0]}
 read -r script_passed script_failed < <(sed -n 's/^\([0-9]*\) passed, \([0-9]*\) failed$/\1 \2/p' "$script_log" | tail -1)

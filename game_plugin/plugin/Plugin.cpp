@@ -8,11 +8,15 @@
 #include "em5/game/Game.h"
 #include "em5/gui/EmergencyGui.h"
 #include "em5/plugin/PluginVersion.h"
+#include "qsf/Qsf.h"
 #include "qsf/log/ErrorHandling.h"
+#include "qsf/message/MessageSystem.h"
 
 namespace script {
 
 namespace {
+
+constexpr const char* RELOAD_MESSAGE = "script::ForceHotReload_EditorOnly";
 
 Plugin* thePlugin = nullptr;
 
@@ -60,7 +64,8 @@ bool Plugin::onInstall() {
 bool Plugin::onStartup() {
   FiringLedger::clear();
   MapScriptManager::Replace(true);
-  mReloadMessageProxy.registerAt(qsf::StringHash("script::ForceHotReload_EditorOnly"),
+  qsf::Qsf::instance()->getMessageSystem().addMessageName(RELOAD_MESSAGE);
+  mReloadMessageProxy.registerAt(qsf::StringHash(RELOAD_MESSAGE),
                                  [](const qsf::MessageParameters&) { reloadInEditor(); });
   return true;
 }

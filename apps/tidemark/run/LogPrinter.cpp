@@ -1,5 +1,6 @@
 #include "apps/tidemark/run/LogPrinter.h"
 
+#include "apps/tidemark/session/Places.h"
 #include "apps/tidemark/text/Encoding.h"
 
 #include <fmt/format.h>
@@ -13,8 +14,8 @@ namespace tidemark::run {
 using qsf::LogSystem;
 
 struct LogPrinter::Output {
-  Output(Format lineFormat, Clock lineClock, spdlog::sink_ptr sink)
-      : logger("tidemark", std::move(sink)), format(lineFormat), clock(std::move(lineClock)) {
+  Output(Format lineFormat, Sources lineSources, spdlog::sink_ptr sink)
+      : logger("tidemark", std::move(sink)), format(lineFormat), sources(std::move(lineSources)) {
     logger.set_level(spdlog::level::trace);
     logger.set_pattern(format == Format::TEXT ? "%^%v%$" : "%v");
     logger.flush_on(spdlog::level::warn);
@@ -26,15 +27,23 @@ struct LogPrinter::Output {
   }
 
   std::string toText(const LogSystem::Record& record) const {
-    return fmt::format("[{:9.3f}] {:<7} {}", clock().getSecondsAsDouble(), LogSystem::getSeverityName(record.severity),
-                       toUtf8(record.message));
+    const auto origin = sources.origin();
+    return fmt::format("[{:9.3f}] {:<7} {}{}{}", sources.time().getSecondsAsDouble(),
+                       LogSystem::getSeverityName(record.severity), toUtf8(record.message), origin ? "    " : "",
+                       origin ? describe(*origin) : "");
   }
 
   std::string toJson(const LogSystem::Record& record) const {
     nlohmann::ordered_json line;
-    line["time"] = clock().getSecondsAsDouble();
+    line["time"] = sources.time().getSecondsAsDouble();
     line["severity"] = LogSystem::getSeverityName(record.severity);
     line["message"] = toUtf8(record.message);
+    if (const auto origin = sources.origin()) {
+      line["script"] = fileNameOf(origin->path);
+      line["path"] = toUtf8(origin->path);
+      line["line"] = origin->line;
+      line["trigger"] = toUtf8(origin->trigger);
+    }
     return line.dump();
   }
 
@@ -55,16 +64,16 @@ struct LogPrinter::Output {
 
   spdlog::logger logger;
   Format format;
-  Clock clock;
+  Sources sources;
 };
 
-LogPrinter::LogPrinter(LogSystem& log, Format format, Clock clock)
-    : mLog(log), mOutput(std::make_unique<Output>(format, std::move(clock),
+LogPrinter::LogPrinter(LogSystem& log, Format format, Sources sources)
+    : mLog(log), mOutput(std::make_unique<Output>(format, std::move(sources),
                                                   std::make_shared<spdlog::sinks::stderr_color_sink_st>())),
       mListener(log.addListener([this](const LogSystem::Record& record) { mOutput->write(record); })) {}
 
-LogPrinter::LogPrinter(LogSystem& log, Format format, Clock clock, std::ostream& stream)
-    : mLog(log), mOutput(std::make_unique<Output>(format, std::move(clock),
+LogPrinter::LogPrinter(LogSystem& log, Format format, Sources sources, std::ostream& stream)
+    : mLog(log), mOutput(std::make_unique<Output>(format, std::move(sources),
                                                   std::make_shared<spdlog::sinks::ostream_sink_st>(stream))),
       mListener(log.addListener([this](const LogSystem::Record& record) { mOutput->write(record); })) {}
 

@@ -61,6 +61,14 @@ void addOptions(CLI::App& command, RunOptions& options) {
       ->type_name("N");
   addChoice(command, "--log-level", LOG_LEVELS, options.logLevel, "Least severity of log lines that are shown");
   addChoice(command, "--log-format", LOG_FORMATS, options.logFormat, "How log lines are written");
+  CLI::Option* noHints = command.add_flag_callback(
+      "--no-hints", [&options] { options.hints = false; },
+      "Don't tell what the language passes over without a word: mistyped components, operators, names that nobody "
+      "wrote");
+  command
+      .add_flag_callback(
+          "--strict", [&options] { options.strict = true; }, "Hints count as faults")
+      ->excludes(noHints);
   command
       .add_option("--report", options.report,
                   "Write the final table to this file, as JSON; - is standard output, which then has no other table")
@@ -84,7 +92,8 @@ Subcommand runCommand() {
       "run", "Run the scripts of projects on a map, without the game",
       "Example:\n  tidemark run examples/harbour --seconds 30 --report result.json\n\nThe working directory of the "
       "run is the folder of the first project. The log goes to standard error, the\nfinal table to standard output. "
-      "Ctrl-C ends the run early, with its table.\nExit codes: 0 fine, 1 a script faulted, 2 wrong usage, 3 an "
+      "Ctrl-C ends the run early, with its table.\nExit codes: 0 fine, 1 a script faulted or has a line that is "
+      "dropped, 2 wrong usage, 3 an "
       "input cannot be loaded or the report not be written.",
       run::declareRun};
 }

@@ -1,5 +1,6 @@
 #include "apps/tidemark/run/RunReport.h"
 
+#include "apps/tidemark/session/Places.h"
 #include "apps/tidemark/text/Encoding.h"
 
 #include <fmt/format.h>
@@ -13,6 +14,10 @@ namespace tidemark::run {
 namespace {
 
 using Json = nlohmann::ordered_json;
+using script::tooling::DroppedLineView;
+using script::tooling::FateView;
+using script::tooling::HintView;
+using script::tooling::Origin;
 using script::tooling::StoreKind;
 using script::tooling::Tooling;
 using script::tooling::TriggerView;
@@ -32,15 +37,17 @@ StoreReport collectStores(const Tooling& tooling, std::optional<std::size_t> scr
 }
 
 constexpr std::size_t LONGEST_CELL = 80; // characters
-constexpr std::size_t MOST_ROWS = 200;   // of one table; the JSON report has all
+constexpr std::size_t LONGEST_SENTENCE = 300;
+constexpr std::size_t MOST_ROWS = 200; // of one table; the JSON report has all
 
 // Columns as wide as their widest cell; the last one isn't padded.
-std::string layOut(std::vector<std::vector<std::string>> rows, std::string_view indent) {
+std::string layOut(std::vector<std::vector<std::string>> rows, std::string_view indent,
+                   std::size_t longestCell = LONGEST_CELL) {
   const std::size_t left = rows.size() > MOST_ROWS ? rows.size() - MOST_ROWS : 0;
   rows.resize(rows.size() - left);
   for (auto& row : rows)
     for (std::string& cell : row)
-      cell = toCell(cell, LONGEST_CELL);
+      cell = toCell(cell, longestCell);
   std::vector<std::size_t> widths;
   for (const auto& row : rows) {
     widths.resize(std::max(widths.size(), row.size()));
@@ -78,6 +85,29 @@ std::string describeStores(const StoreReport& stores, std::string_view indent) {
   for (const auto& [name, ids] : stores.lists)
     rows.push_back({"list", name, ids.empty() ? "empty" : fmt::format("{}", fmt::join(ids, " "))});
   return layOut(std::move(rows), indent);
+}
+
+std::string describeFate(const FateView& fate) {
+  return fmt::format("\nscript {}{}  {}, {}{}{}\n", fate.project.empty() ? "" : fate.project + "/", fate.key, fate.mode,
+                     fate.what, fate.count > 1 ? fmt::format("; {} instances", fate.count) : "",
+                     fate.time > qsf::Time::ZERO ? fmt::format("; ran {:.2f} s", fate.time.getSecondsAsDouble()) : "");
+}
+
+std::string describeDroppedLines(const std::vector<DroppedLineView>& lines) {
+  std::vector<std::vector<std::string>> rows;
+  for (const DroppedLineView& line : lines)
+    rows.push_back({fmt::format("{}:{}:{}", fileNameOf(line.path), line.line, line.column), describe(line)});
+  return fmt::format("\n{} dropped line{}\n", lines.size(), lines.size() == 1 ? "" : "s") +
+         layOut(std::move(rows), "    ", LONGEST_SENTENCE);
+}
+
+std::string describeHints(const std::vector<HintView>& hints) {
+  std::vector<std::vector<std::string>> rows;
+  for (const HintView& hint : hints)
+    rows.push_back({describe(hint.origin),
+                    hint.count > 1 ? fmt::format("{} ({} times)", describe(hint), hint.count) : describe(hint)});
+  return fmt::format("\n{} hint{}\n", hints.size(), hints.size() == 1 ? "" : "s") +
+         layOut(std::move(rows), "    ", LONGEST_SENTENCE);
 }
 
 Json storesToJson(const StoreReport& stores) {
@@ -119,9 +149,42 @@ Json scriptToJson(const ScriptReport& report) {
           {"path", report.script.path},
           {"mode", report.script.mode},
           {"running", report.script.running},
+          {"state", report.script.state},
           {"time", report.script.time.getSecondsAsDouble()},
           {"triggers", triggers},
           {"stores", storesToJson(report.stores)}};
+}
+
+Json fateToJson(const FateView& fate) {
+  return {{"key", fate.key},    {"project", fate.project}, {"path", fate.path},
+          {"mode", fate.mode},  {"what", fate.what},       {"time", fate.time.getSecondsAsDouble()},
+          {"count", fate.count}};
+}
+
+Json droppedLineToJson(const DroppedLineView& line) {
+  return {{"script", fileNameOf(line.path)},
+          {"path", toUtf8(line.path)},
+          {"line", line.line},
+          {"column", line.column},
+          {"reason", toUtf8(line.reason)}};
+}
+
+Json hintToJson(const HintView& hint) {
+  return {{"script", fileNameOf(hint.origin.path)},
+          {"path", toUtf8(hint.origin.path)},
+          {"line", hint.origin.line},
+          {"trigger", toUtf8(hint.origin.trigger)},
+          {"kind", hint.kind},
+          {"text", toUtf8(hint.text)},
+          {"nearest", toUtf8(hint.nearest)},
+          {"count", hint.count}};
+}
+
+template <class Views, class ToJson> Json listToJson(const Views& views, ToJson toJson) {
+  Json list = Json::array();
+  for (const auto& view : views)
+    list.push_back(toJson(view));
+  return list;
 }
 
 }
@@ -135,6 +198,7 @@ RunReport collectReport(const Tooling& tooling) {
     script.script.key = toUtf8(script.script.key);
     script.script.path = toUtf8(script.script.path);
     script.script.project = toUtf8(script.script.project);
+    script.script.state = toUtf8(script.script.state);
     script.triggers = tooling.getTriggers(i);
     for (TriggerView& trigger : script.triggers) {
       trigger.name = toUtf8(trigger.name);
@@ -142,7 +206,13 @@ RunReport collectReport(const Tooling& tooling) {
     }
     script.stores = collectStores(tooling, i);
   }
+  report.fates = tooling.getFates();
+  for (FateView& fate : report.fates)
+    for (std::string* text : {&fate.key, &fate.project, &fate.path, &fate.what})
+      *text = toUtf8(*text);
   report.global = collectStores(tooling, std::nullopt);
+  report.droppedLines = tooling.getDroppedLines();
+  report.hints = tooling.getHints();
   return report;
 }
 
@@ -151,28 +221,33 @@ std::string toText(const RunReport& report) {
   for (const ScriptReport& script : report.scripts) {
     const auto& view = script.script;
     text += fmt::format("\nscript {}{}  {}, {}\n", view.project.empty() ? "" : view.project + "/", view.key, view.mode,
-                        view.running ? "running" : "stopped");
+                        view.state);
     if (!script.triggers.empty()) text += describeTriggers(script.triggers);
     if (!script.stores.isEmpty()) text += describeStores(script.stores, "    ");
   }
-  if (report.scripts.empty()) text += "\nno scripts; a project lists them in x64/tidemark/MapScript.json\n";
+  for (const FateView& fate : report.fates)
+    text += describeFate(fate);
+  if (report.scripts.empty() && report.fates.empty())
+    text += "\nno scripts; a project lists them in x64/tidemark/MapScript.json\n";
   if (!report.global.isEmpty()) text += "\nglobal entries\n" + describeStores(report.global, "    ");
+  if (!report.hints.empty()) text += describeHints(report.hints);
+  if (!report.droppedLines.empty()) text += describeDroppedLines(report.droppedLines);
   if (report.faults > 0)
     text += fmt::format("\n{} fault{}, the last: {}\n", report.faults, report.faults == 1 ? "" : "s", report.lastFault);
   return text;
 }
 
 std::string toJson(const RunReport& report) {
-  Json scripts = Json::array();
-  for (const ScriptReport& script : report.scripts)
-    scripts.push_back(scriptToJson(script));
   const Json root = {{"map", report.map},
                      {"seconds", report.seconds},
                      {"frames", report.frames},
                      {"faults", report.faults},
                      {"lastFault", report.lastFault},
-                     {"scripts", scripts},
-                     {"global", storesToJson(report.global)}};
+                     {"scripts", listToJson(report.scripts, scriptToJson)},
+                     {"ended", listToJson(report.fates, fateToJson)},
+                     {"global", storesToJson(report.global)},
+                     {"droppedLines", listToJson(report.droppedLines, droppedLineToJson)},
+                     {"hints", listToJson(report.hints, hintToJson)}};
   return root.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 

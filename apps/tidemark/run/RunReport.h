@@ -31,10 +31,13 @@ struct RunReport {
   std::uint64_t faults = 0;
   std::string lastFault;
   std::vector<ScriptReport> scripts;
+  std::vector<script::tooling::FateView> fates; ///< scripts that have ended or were never taken
   StoreReport global;
+  std::vector<script::tooling::DroppedLineView> droppedLines;
+  std::vector<script::tooling::HintView> hints;
 };
 
-/// Reads scripts and stores; the other fields are the caller's.
+/// Reads scripts, stores, dropped lines and hints; the other fields are the caller's.
 RunReport collectReport(const script::tooling::Tooling& tooling);
 
 /// A table for people.

@@ -81,19 +81,28 @@ void playFrames(em5::HostSession& session, const RunOptions& options) {
   }
 }
 
-RunReport makeReport(const em5::HostSession& session) {
-  RunReport report = collectReport(findTooling());
+RunReport makeReport(const em5::HostSession& session, const script::tooling::Tooling& tooling) {
+  RunReport report = collectReport(tooling);
   report.map = session.getQsf().getMainMap().getLocalAssetName();
   report.seconds = session.getTime().getSecondsAsDouble();
   report.frames = session.getFrameCount();
   return report;
 }
 
+// Scripts of a list that can't be read would be missing from the run without a word.
+void requireConfigurations(const script::tooling::Tooling& tooling) {
+  if (const auto unreadable = tooling.getUnreadableConfigurations(); !unreadable.empty())
+    throw std::runtime_error(fmt::format("{}", fmt::join(unreadable, "\n")));
+}
+
 RunReport play(const RunOptions& options) {
+  const LoadedModule module;
+  module.tooling().switchHints(options.hints);
   em5::HostSession session(toHostOptions(options));
   const auto format =
       options.logFormat == RunOptions::LogFormat::TEXT ? LogPrinter::Format::TEXT : LogPrinter::Format::JSON_LINES;
-  const LogPrinter log(session.getQsf().getLogSystem(), format, [&session] { return session.getTime(); });
+  const LogPrinter log(session.getQsf().getLogSystem(), format,
+                       {[&session] { return session.getTime(); }, [&module] { return module.tooling().getOrigin(); }});
   session.mountBaseProject(baseProjectDirectory());
   for (const std::string& project : options.projects)
     session.mountMod(project);
@@ -105,13 +114,18 @@ RunReport play(const RunOptions& options) {
   session.startup();
   if (!session.loadPlugin(modulePath()))
     throw std::runtime_error("the module refuses to start; its log lines above tell why");
+  requireConfigurations(module.tooling());
   session.startGame(map);
   playFrames(session, options);
-  RunReport report = makeReport(session);
+  RunReport report = makeReport(session, module.tooling());
   session.endGame();
   report.faults = session.getQsf().getFaultCounter().getCount();
   report.lastFault = session.getQsf().getFaultCounter().getLastFault();
   return report;
+}
+
+bool isFaulty(const RunReport& report, const RunOptions& options) {
+  return report.faults > 0 || !report.droppedLines.empty() || (options.strict && !report.hints.empty());
 }
 
 }
@@ -121,7 +135,7 @@ int runProjects(const RunOptions& options) {
   const RunReport report = play(options);
   if (!file.isStandardOutput()) fmt::print("{}", toText(report));
   if (file.isWanted()) file.write(toJson(report));
-  return report.faults > 0 ? EXIT_FAULT : EXIT_FINE;
+  return isFaulty(report, options) ? EXIT_FAULT : EXIT_FINE;
 }
 
 }

@@ -22,8 +22,6 @@ script::tooling::Tooling& askForTooling() {
 
 }
 
-script::tooling::Tooling& findTooling() { return askForTooling(); }
-
 LoadedModule::LoadedModule() : mLibrary(platform::loadLibrary(modulePath())), mTooling(nullptr) {
   try {
     mTooling = &askForTooling();

@@ -3,12 +3,9 @@
 
 namespace tidemark {
 
-/// What the loaded module shows to tools. Valid until the host session ends. Throws std::runtime_error if the module
-/// isn't loaded or doesn't offer it.
-script::tooling::Tooling& findTooling();
-
-/// The module loaded for its lifetime, without a host: for what it tells of itself. Throws std::runtime_error if it
-/// can't be loaded.
+/// The module loaded for its lifetime, for what it tells of itself and of a host that has it as a plug-in. Its tooling
+/// is there before any host, so that nothing of the load of scripts escapes it. Throws std::runtime_error if it can't
+/// be loaded. Outlives the host session that uses it.
 class LoadedModule {
 public:
   LoadedModule();

@@ -1,5 +1,6 @@
 #include "apps/tidemark/test/LogBook.h"
 
+#include "apps/tidemark/session/Places.h"
 #include "apps/tidemark/test/directives/TextMatch.h"
 
 #include "qsf/log/LogSystem.h"
@@ -47,8 +48,9 @@ std::optional<int> parseSeverity(std::string_view word) {
   return std::nullopt;
 }
 
-void LogBook::add(int severity, std::string_view message, std::uint64_t frame) {
-  mLines.push_back({severity, std::string(message), frame});
+void LogBook::add(int severity, std::string_view message, std::uint64_t frame,
+                  std::optional<script::tooling::Origin> origin) {
+  mLines.push_back({severity, std::string(message), frame, std::move(origin)});
 }
 
 std::size_t LogBook::count(const LogPattern& pattern) const {
@@ -92,9 +94,10 @@ std::vector<std::string> LogBook::describe(std::size_t begin, std::size_t end, s
     const Line& line = mLines[i];
     std::string message = line.message.substr(0, LONGEST_MESSAGE);
     std::replace(message.begin(), message.end(), '\n', ' ');
-    result.push_back(fmt::format("{} frame {:>4}  {:<7} {}{}", i == marked ? '>' : ' ', line.frame,
+    result.push_back(fmt::format("{} frame {:>4}  {:<7} {}{}{}{}", i == marked ? '>' : ' ', line.frame,
                                  qsf::LogSystem::getSeverityName(line.severity), message,
-                                 line.message.size() > LONGEST_MESSAGE ? "..." : ""));
+                                 line.message.size() > LONGEST_MESSAGE ? "..." : "", line.origin ? "    " : "",
+                                 line.origin ? tidemark::describe(*line.origin) : ""));
   }
   return result;
 }

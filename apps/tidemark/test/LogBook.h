@@ -1,4 +1,6 @@
 #pragma once
+#include "game_plugin/tooling/Tooling.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -30,9 +32,11 @@ public:
     int severity;
     std::string message;
     std::uint64_t frame; ///< the frame in which it came, or which ran last; 0 before the first
+    std::optional<script::tooling::Origin> origin; ///< place in a script that it comes from
   };
 
-  void add(int severity, std::string_view message, std::uint64_t frame);
+  void add(int severity, std::string_view message, std::uint64_t frame,
+           std::optional<script::tooling::Origin> origin = std::nullopt);
   const std::vector<Line>& getLines() const { return mLines; }
   std::size_t count(const LogPattern& pattern) const;
   /// Index of the first line that matches; nothing if none does.

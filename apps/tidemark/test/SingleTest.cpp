@@ -16,7 +16,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::vector<Failure> runPlan(const TestPlan& plan, const fs::path& folder) {
+Outcome runPlan(const TestPlan& plan, const fs::path& folder) {
   const std::string projects = (folder / "projects").string();
   writeProjects(plan, projects);
   TestSession session(plan, projects);
@@ -28,26 +28,26 @@ std::vector<Failure> runPlan(const TestPlan& plan, const fs::path& folder) {
   return session.run();
 }
 
-std::vector<Failure> runFile(const std::string& file, const fs::path& folder) {
-  std::vector<Failure> failures;
+Outcome runFile(const std::string& file, const fs::path& folder) {
+  Outcome outcome;
   try {
     const PlanResult result = readPlan(file, readFile(file));
     if (result.faults.empty()) return runPlan(result.plan, folder);
     for (const PlanFault& fault : result.faults)
-      failures.push_back({fault.line, Failure::Kind::ERROR, fault.text, "", {}});
+      outcome.failures.push_back({fault.line, Failure::Kind::ERROR, fault.text, "", {}});
   } catch (const std::exception& fault) {
-    failures.push_back({0, Failure::Kind::ERROR, fault.what(), "", {}});
+    outcome.failures.push_back({0, Failure::Kind::ERROR, fault.what(), "", {}});
   }
-  return failures;
+  return outcome;
 }
 
 }
 
 void runSingleTest(const std::string& file, const std::string& folder) {
   const fs::path target = fs::absolute(folder);
-  const std::vector<Failure> failures = runFile(file, target);
+  const Outcome outcome = runFile(file, target);
   std::ofstream result(target / RESULT_FILE, std::ios::binary);
-  result << encodeFailures(failures);
+  result << encodeOutcome(outcome);
   if (!result.flush()) throw std::runtime_error(fmt::format("{}: can't be written", (target / RESULT_FILE).string()));
 }
 

@@ -26,6 +26,7 @@ struct Options {
   std::string junit;
   unsigned int jobs = std::max(1u, std::thread::hardware_concurrency());
   double limit = 60; ///< seconds of real time
+  bool strict = false;
 };
 
 std::string colour(std::string_view code, const std::string& text) {
@@ -33,8 +34,8 @@ std::string colour(std::string_view code, const std::string& text) {
 }
 
 void printResult(std::FILE* output, const TestResult& result) {
-  if (result.passed()) return;
-  fmt::print(output, "{} {}\n", colour("31", "FAIL"), result.file);
+  if (result.passed() && result.notes.empty()) return;
+  fmt::print(output, "{} {}\n", result.passed() ? colour("33", "NOTE") : colour("31", "FAIL"), result.file);
   std::vector<std::string> shown;
   for (Failure failure : result.failures) {
     // Failures of one moment have the same lines around them.
@@ -44,6 +45,8 @@ void printResult(std::FILE* output, const TestResult& result) {
       shown = failure.log;
     fmt::print(output, "  {}", describeFailure(result.file, failure));
   }
+  for (const Note& note : result.notes)
+    fmt::print(output, "  {}", describeNote(result.file, note));
   std::fflush(output);
 }
 
@@ -70,7 +73,8 @@ int runTests(const Options& options) {
   // Results in XML have standard output for themselves.
   std::FILE* const output = junit.isStandardOutput() ? stderr : stdout;
   platform::catchInterrupts();
-  TestScheduler scheduler({options.jobs, std::chrono::milliseconds(static_cast<std::int64_t>(options.limit * 1000))});
+  TestScheduler scheduler(
+      {options.jobs, std::chrono::milliseconds(static_cast<std::int64_t>(options.limit * 1000)), options.strict});
   std::size_t done = 0;
   const std::vector<TestResult> results = scheduler.run(files, [&](const TestResult& result) {
     printResult(output, result);
@@ -93,6 +97,8 @@ std::function<int()> declareTest(CLI::App& command) {
       ->type_name("PATH");
   command.add_option("--filter", options->filter, "Run only tests whose path holds this text; else all")
       ->type_name("TEXT");
+  command.add_flag("--strict", options->strict,
+                   "A dropped line or a hint that no expectation names makes its test fail; else it is told as a note");
   command
       .add_option("--junit", options->junit, "Write the results to this file, in JUnit's format; - is standard output")
       ->type_name("FILE");

@@ -32,6 +32,8 @@ struct Expectation {
   std::function<Verdict(TestSession&)> check;
   /// Log lines that it names; `no other log` lets them pass.
   std::vector<LogPattern> logs;
+  /// Texts of hints that it names.
+  std::vector<std::string> hints;
   enum class Moment { TIMED, END, AFTER_SHUTDOWN } moment = Moment::END;
 };
 
@@ -102,6 +104,9 @@ struct TestPlan {
 
   /// True if an existing project takes the place of the test's own.
   bool playsProject() const { return !projects.front().original.empty(); }
+  /// Log lines and texts of hints that expectations name, those with a time included.
+  std::vector<LogPattern> namedLines() const;
+  std::vector<std::string> namedHints() const;
   std::uint64_t framesUntil(double seconds) const;
   std::uint64_t numberOfFrames() const { return framesUntil(duration); }
 };

@@ -14,6 +14,8 @@ namespace {
 
 using Json = nlohmann::json;
 
+std::string placeOf(const std::string& file, int line) { return line > 0 ? fmt::format("{}:{}", file, line) : file; }
+
 void setAttribute(pugi::xml_node node, const char* name, const std::string& value) {
   node.append_attribute(name).set_value(toXmlText(value).c_str());
 }
@@ -30,13 +32,17 @@ void appendCase(pugi::xml_node suite, const TestResult& result) {
     setAttribute(node, "message", failure.expected);
     node.text().set(toXmlText(describeFailure(result.file, failure)).c_str());
   }
+  std::string notes;
+  for (const Note& note : result.notes)
+    notes += describeNote(result.file, note);
+  if (!notes.empty()) test.append_child("system-out").text().set(toXmlText(notes).c_str());
 }
 
 }
 
-std::string encodeFailures(const std::vector<Failure>& failures) {
+std::string encodeOutcome(const Outcome& outcome) {
   Json list = Json::array();
-  for (const Failure& failure : failures) {
+  for (const Failure& failure : outcome.failures) {
     Json log = Json::array();
     for (const std::string& line : failure.log)
       log.push_back(toUtf8(line));
@@ -46,11 +52,14 @@ std::string encodeFailures(const std::vector<Failure>& failures) {
                     {"found", toUtf8(failure.found)},
                     {"log", std::move(log)}});
   }
-  return Json{{"failures", std::move(list)}}.dump(-1, ' ', false, Json::error_handler_t::replace);
+  Json notes = Json::array();
+  for (const Note& note : outcome.notes)
+    notes.push_back({{"line", note.line}, {"text", toUtf8(note.text)}});
+  return Json{{"failures", std::move(list)}, {"notes", std::move(notes)}}.dump();
 }
 
-std::vector<Failure> decodeFailures(const std::string& text) {
-  std::vector<Failure> failures;
+Outcome decodeOutcome(const std::string& text) {
+  Outcome outcome;
   const Json root = Json::parse(text);
   for (const Json& item : root.at("failures")) {
     Failure failure;
@@ -60,13 +69,15 @@ std::vector<Failure> decodeFailures(const std::string& text) {
     failure.found = item.at("found").get<std::string>();
     for (const Json& line : item.at("log"))
       failure.log.push_back(line.get<std::string>());
-    failures.push_back(std::move(failure));
+    outcome.failures.push_back(std::move(failure));
   }
-  return failures;
+  for (const Json& item : root.at("notes"))
+    outcome.notes.push_back({item.at("line").get<int>(), item.at("text").get<std::string>()});
+  return outcome;
 }
 
 std::string describeFailure(const std::string& file, const Failure& failure) {
-  const std::string place = failure.line > 0 ? fmt::format("{}:{}", file, failure.line) : file;
+  const std::string place = placeOf(file, failure.line);
   std::string text = failure.kind == Failure::Kind::ERROR
                          ? fmt::format("{}: error: {}\n", place, failure.expected)
                          : fmt::format("{}: expectation failed\n    expected: {}\n    found:    {}\n", place,
@@ -75,6 +86,10 @@ std::string describeFailure(const std::string& file, const Failure& failure) {
   for (const std::string& line : failure.log)
     text += fmt::format("    {}\n", line);
   return text;
+}
+
+std::string describeNote(const std::string& file, const Note& note) {
+  return fmt::format("{}: note: {}\n", placeOf(file, note.line), note.text);
 }
 
 std::string toJUnit(const std::vector<TestResult>& results) {

@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <sstream>
 #include <thread>
+#include <utility>
 
 namespace tidemark::test {
 
@@ -56,16 +57,16 @@ Failure describeEnd(const std::string& folder, const std::string& text) {
   return failure;
 }
 
-std::vector<Failure> readFailures(const std::string& folder, const platform::ExitStatus& status) {
+Outcome readOutcome(const std::string& folder, const platform::ExitStatus& status) {
   if (status.signal != 0)
-    return {describeEnd(folder, fmt::format("the test's process crashed with {}", status.signalName))};
+    return {{describeEnd(folder, fmt::format("the test's process crashed with {}", status.signalName))}, {}};
   const fs::path result = fs::path(folder) / RESULT_FILE;
   if (status.code != 0 || !fs::exists(result))
-    return {describeEnd(folder, fmt::format("the test's process ended with exit code {}", status.code))};
+    return {{describeEnd(folder, fmt::format("the test's process ended with exit code {}", status.code))}, {}};
   try {
-    return decodeFailures(readFile(result.string()));
+    return decodeOutcome(readFile(result.string()));
   } catch (const std::exception& fault) {
-    return {describeEnd(folder, fmt::format("the test's result can't be read: {}", fault.what()))};
+    return {{describeEnd(folder, fmt::format("the test's result can't be read: {}", fault.what()))}, {}};
   }
 }
 
@@ -108,20 +109,25 @@ void TestScheduler::start(std::size_t index, const std::string& file) {
 // Whether the test has ended.
 bool TestScheduler::collect(Running& running) {
   if (const auto status = running.process.poll()) {
-    finish(running, readFailures(running.folder, *status));
+    finish(running, readOutcome(running.folder, *status));
     return true;
   }
   if (Clock::now() - running.start < mOptions.limit) return false;
   running.process.kill();
-  finish(running, {describeEnd(running.folder, fmt::format("the test ran longer than {} s and was ended",
-                                                           static_cast<double>(mOptions.limit.count()) / 1000.0))});
+  finish(running, {{describeEnd(running.folder, fmt::format("the test ran longer than {} s and was ended",
+                                                            static_cast<double>(mOptions.limit.count()) / 1000.0))},
+                   {}});
   return true;
 }
 
-void TestScheduler::finish(const Running& running, std::vector<Failure> failures) {
+void TestScheduler::finish(const Running& running, Outcome outcome) {
+  if (mOptions.strict)
+    for (Note& note : std::exchange(outcome.notes, {}))
+      outcome.failures.push_back({note.line, Failure::Kind::ERROR, std::move(note.text), "", {}});
   Slot& slot = mSlots[running.index];
   slot.result.seconds = std::chrono::duration<double>(Clock::now() - running.start).count();
-  slot.result.failures = std::move(failures);
+  slot.result.failures = std::move(outcome.failures);
+  slot.result.notes = std::move(outcome.notes);
   slot.done = true;
   std::error_code ignored;
   fs::remove_all(running.folder, ignored);

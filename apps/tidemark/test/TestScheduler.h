@@ -16,6 +16,7 @@ public:
   struct Options {
     std::size_t jobs = 1;
     std::chrono::milliseconds limit{60000}; ///< of real time; a test that takes longer is killed and fails
+    bool strict = false;                    ///< notes are failures
   };
   /// Called for each test, in the order of the files.
   using Report = std::function<void(const TestResult&)>;
@@ -39,7 +40,7 @@ private:
 
   void start(std::size_t index, const std::string& file);
   bool collect(Running& running);
-  void finish(const Running& running, std::vector<Failure> failures);
+  void finish(const Running& running, Outcome outcome);
   void killAll();
 
   Options mOptions;

@@ -29,19 +29,21 @@ TestSession::TestSession(const TestPlan& plan, std::string projects)
 
 TestSession::~TestSession() = default;
 
-std::vector<Failure> TestSession::run() {
+script::tooling::Tooling& TestSession::tooling() const { return mModule->tooling(); }
+
+Outcome TestSession::run() {
   try {
     runHost();
   } catch (const Aborted&) {
   } catch (const std::exception& fault) {
     fail(0, fault.what(), "");
   }
-  mTooling = nullptr;
   mHost.reset();
+  mModule.reset();
   // What an aborted test would have logged tells nothing.
   for (const Expectation& expectation : mPlan.expectations)
     if (mCompleted && expectation.moment == Expectation::Moment::AFTER_SHUTDOWN) check(expectation);
-  return std::move(mFailures);
+  return std::move(mOutcome);
 }
 
 void TestSession::runHost() {
@@ -56,6 +58,7 @@ void TestSession::runHost() {
   }
   for (const Expectation& expectation : mPlan.expectations)
     if (expectation.moment == Expectation::Moment::END) check(expectation);
+  mOutcome.notes = collectNotes(*this, mProjects);
   mCompleted = true;
 }
 
@@ -67,18 +70,17 @@ void TestSession::startHost() {
   options.gameMode = mPlan.gameMode;
   options.account = mPlan.account;
   options.logThreshold = qsf::LogSystem::TRACE;
+  mModule = std::make_unique<LoadedModule>();
+  tooling().switchHints(true);
   mHost = std::make_unique<em5::HostSession>(options);
-  mHost->getQsf().getLogSystem().addListener([this](const qsf::LogSystem::Record& record) {
-    mLog.add(record.severity, record.message, mFrame);
-    if (mLogEcho) mLogEcho(record);
-  });
+  mHost->getQsf().getLogSystem().addListener([this](const qsf::LogSystem::Record& record) { keepLine(record); });
   mHost->mountBaseProject(mBaseProject);
   for (const ProjectPlan& project : mPlan.projects)
     guard(project.line, "", [&] {
       mHost->mountMod(projectDirectory(project, mProjects), {.mounted = project.mounted, .enabled = project.enabled});
     });
   mHost->startup();
-  startModule();
+  if (!mHost->loadPlugin(modulePath())) throw std::runtime_error("the module refuses to start");
   mHost->setMapPreparation([this](qsf::Map&) { prepareMap(); });
   guard(mPlan.mapLine, "", [this] {
     requireMap(mHost->getQsf().getProjectManager(), mPlan.map);
@@ -86,9 +88,9 @@ void TestSession::startHost() {
   });
 }
 
-void TestSession::startModule() {
-  if (!mHost->loadPlugin(modulePath())) throw std::runtime_error("the module refuses to start");
-  mTooling = &findTooling();
+void TestSession::keepLine(const qsf::LogSystem::Record& record) {
+  mLog.add(record.severity, record.message, mFrame, tooling().getOrigin());
+  if (mLogEcho) mLogEcho(record);
 }
 
 // A fault of a part of the test ends the test; it is told with the line that asked for the part.
@@ -134,8 +136,8 @@ void TestSession::check(const Expectation& expectation) {
     return;
   }
   if (verdict.holds) return;
-  mFailures.push_back({expectation.line, Failure::Kind::EXPECTATION, expectation.text, std::move(verdict.found),
-                       verdict.around.empty() ? mLog.last() : std::move(verdict.around)});
+  mOutcome.failures.push_back({expectation.line, Failure::Kind::EXPECTATION, expectation.text, std::move(verdict.found),
+                               verdict.around.empty() ? mLog.last() : std::move(verdict.around)});
 }
 
 Verdict TestSession::judge(const std::function<Verdict()>& check) {
@@ -147,7 +149,7 @@ Verdict TestSession::judge(const std::function<Verdict()>& check) {
 }
 
 void TestSession::fail(int line, const std::string& fault, const std::string& text) {
-  mFailures.push_back(
+  mOutcome.failures.push_back(
       {line, Failure::Kind::ERROR, text.empty() ? fault : fmt::format("{}: {}", text, fault), "", mLog.last()});
 }
 
@@ -163,8 +165,7 @@ bool TestSession::isScriptInstalled(const std::string& name) const {
 }
 
 std::size_t TestSession::findScript(const std::string& name) const {
-  if (!mTooling) throw NotThere("the module isn't loaded");
-  const std::vector<script::tooling::ScriptView> scripts = mTooling->getScripts();
+  const std::vector<script::tooling::ScriptView> scripts = tooling().getScripts();
   const auto nthRunning = [&](std::string_view key, std::uint64_t number) {
     return std::find_if(scripts.begin(), scripts.end(),
                         [&](const auto& script) { return script.key == key && script.running && --number == 0; });

@@ -1,5 +1,6 @@
 #pragma once
 #include "apps/tidemark/test/LogBook.h"
+#include "apps/tidemark/test/Notes.h"
 #include "apps/tidemark/test/TestPlan.h"
 #include "apps/tidemark/test/steps/Steps.h"
 
@@ -20,6 +21,10 @@ namespace qsf {
 class Entity;
 }
 
+namespace tidemark {
+class LoadedModule;
+}
+
 namespace tidemark::test {
 
 /// Something that an expectation or action names isn't there at this moment. An expectation then fails with this text.
@@ -37,6 +42,12 @@ struct Failure {
   std::vector<std::string> log;
 };
 
+/// What a test has come to.
+struct Outcome {
+  std::vector<Failure> failures;
+  std::vector<Note> notes;
+};
+
 /// A test that runs: the host, the module and the clock, and what steps ask of them. Lives for one test in a process of
 /// its own, with the folder of the project `test` as working directory.
 class TestSession {
@@ -51,13 +62,13 @@ public:
   /// Called with each log line as it comes; a crash leaves what was written so.
   void setLogEcho(std::function<void(const qsf::LogSystem::Record&)> echo) { mLogEcho = std::move(echo); }
 
-  /// From the host's start to its end. Returns what failed; throws nothing.
-  std::vector<Failure> run();
+  /// From the host's start to its end. Throws nothing.
+  Outcome run();
 
   const TestPlan& plan() const { return mPlan; }
   const LogBook& log() const { return mLog; }
   em5::HostSession& host() const { return *mHost; }
-  script::tooling::Tooling& tooling() const { return *mTooling; }
+  script::tooling::Tooling& tooling() const;
 
   /// The verdict of a check, which fails if something that it names isn't there.
   static Verdict judge(const std::function<Verdict()>& check);
@@ -74,7 +85,7 @@ public:
 private:
   void runHost();
   void startHost();
-  void startModule();
+  void keepLine(const qsf::LogSystem::Record& record);
   void guard(int line, const std::string& text, const std::function<void()>& part);
   void prepareMap();
   void runSteps(std::uint64_t frame);
@@ -87,12 +98,12 @@ private:
   std::string mBaseProject;
   LogBook mLog;
   std::function<void(const qsf::LogSystem::Record&)> mLogEcho;
+  std::unique_ptr<LoadedModule> mModule; ///< outlives the host
   std::unique_ptr<em5::HostSession> mHost;
-  script::tooling::Tooling* mTooling = nullptr;
   std::size_t mNextStep = 0;
   std::uint64_t mFrame = 0; ///< the one that runs, or ran last; 0 before the first
   bool mCompleted = false;
-  std::vector<Failure> mFailures;
+  Outcome mOutcome;
 };
 
 }

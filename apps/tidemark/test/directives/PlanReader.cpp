@@ -6,7 +6,6 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <cmath>
 #include <filesystem>
 #include <set>
 
@@ -349,10 +348,6 @@ void PlanReader::checkTimes() {
     if (plan.framesUntil(step.time) > plan.numberOfFrames())
       addFault(step.line, fmt::format("@at: {} s is behind the end of the test, which runs {} s; write '@for {}'",
                                       step.time, plan.duration, step.time));
-}
-
-std::uint64_t TestPlan::framesUntil(double seconds) const {
-  return static_cast<std::uint64_t>(std::llround(seconds / tick));
 }
 
 PlanResult readPlan(const std::string& file, const std::string& text) { return PlanReader(file).read(text); }

@@ -59,18 +59,6 @@ Expectation compareOrder(WordCursor& words) {
   return expectation;
 }
 
-std::vector<LogPattern> namedLines(const TestPlan& plan) {
-  std::vector<LogPattern> patterns;
-  const auto add = [&](const Expectation& expectation) {
-    patterns.insert(patterns.end(), expectation.logs.begin(), expectation.logs.end());
-  };
-  for (const Expectation& expectation : plan.expectations)
-    add(expectation);
-  for (const Step& step : plan.steps)
-    if (step.expectation) add(*step.expectation);
-  return patterns;
-}
-
 Expectation noOtherLog(WordCursor& words) {
   words.require("no");
   words.require("other");
@@ -80,7 +68,7 @@ Expectation noOtherLog(WordCursor& words) {
   if (limit == LogPattern::ANY_SEVERITY) throw DirectiveError("'above' needs a severity other than ANY");
   Expectation expectation;
   expectation.check = [limit](TestSession& session) {
-    const std::vector<LogPattern> named = namedLines(session.plan());
+    const std::vector<LogPattern> named = session.plan().namedLines();
     const auto& lines = session.log().getLines();
     const auto other = std::find_if(lines.begin(), lines.end(), [&](const LogBook::Line& line) {
       return line.severity > limit && std::none_of(named.begin(), named.end(), [&](const LogPattern& pattern) {

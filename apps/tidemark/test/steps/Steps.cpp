@@ -11,7 +11,7 @@ namespace tidemark::test {
 // The themes of actions and of expectations, in the order in which they are asked. Each has a source of its own,
 // <Theme>Actions.cpp or <Theme>Expectations.cpp, whose reader returns nothing if the next word isn't its own.
 #define ACTION_THEMES(THEME) THEME(Store) THEME(World) THEME(Device) THEME(Lifecycle)
-#define EXPECTATION_THEMES(THEME) THEME(Log) THEME(Store) THEME(Trigger) THEME(World)
+#define EXPECTATION_THEMES(THEME) THEME(Log) THEME(Hint) THEME(Store) THEME(Trigger) THEME(World)
 
 #define DECLARE_ACTIONS(NAME) std::optional<Action> read##NAME##Action(WordCursor& words);
 ACTION_THEMES(DECLARE_ACTIONS)
@@ -30,8 +30,9 @@ Expectation expectFailure(WordCursor& words) {
   const std::string text = words.take("a text of what is found");
   words.require("of");
   Expectation expectation = readExpectation(words);
-  // Lines that it names aren't expected to be there.
+  // Lines and hints that it names aren't expected to be there.
   expectation.logs.clear();
+  expectation.hints.clear();
   expectation.check = [text, check = std::move(expectation.check)](TestSession& session) {
     Verdict verdict = TestSession::judge([&] { return check(session); });
     verdict.found = fmt::format("{}: {}", verdict.holds ? "it holds" : "it fails", verdict.found);

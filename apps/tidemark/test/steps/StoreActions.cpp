@@ -11,6 +11,7 @@ namespace tidemark::test {
 namespace {
 
 using script::tooling::StoreKind;
+using Holder = std::optional<std::size_t>; // nothing: the global store
 
 // The name that the entry has or will have: an existing one keeps its spelling, a new one is spelled in the script's
 // encoding.
@@ -23,26 +24,27 @@ void requireRunning(bool set, const ScriptScope& scope) {
   if (!set) throw NotThere(fmt::format("script '{}' doesn't run", scope.script));
 }
 
+// A global entry needs no script.
 template <class Set> Action setEntry(const ScriptScope& scope, StoreKind kind, const std::string& name, Set set) {
   return [=](TestSession& session) {
-    const std::size_t script = session.findScript(scope.script);
-    requireRunning(set(session, script, spell(session, scope, kind, name)), scope);
+    const StoreAddress store = locate(session, scope, kind, name);
+    requireRunning(set(session, store.holder, spell(session, scope, kind, name)), scope);
   };
 }
 
 Action setVariable(WordCursor& words, const ScriptScope& scope, const std::string& name) {
   const auto value = static_cast<float>(words.takeNumber("the variable's value"));
   return setEntry(scope, StoreKind::Variables, name,
-                  [value](TestSession& session, std::size_t script, const std::string& entry) {
-                    return session.tooling().setVariable(script, entry, value);
+                  [value](TestSession& session, Holder holder, const std::string& entry) {
+                    return session.tooling().setVariable(holder, entry, value);
                   });
 }
 
 Action setString(WordCursor& words, const ScriptScope& scope, const std::string& name) {
   const std::string value = words.take("the text");
   return setEntry(scope, StoreKind::Strings, name,
-                  [value](TestSession& session, std::size_t script, const std::string& entry) {
-                    return session.tooling().setString(script, entry, value);
+                  [value](TestSession& session, Holder holder, const std::string& entry) {
+                    return session.tooling().setString(holder, entry, value);
                   });
 }
 
@@ -50,19 +52,19 @@ Action setBool(WordCursor& words, const ScriptScope& scope, const std::string& n
   const std::string value = words.take("true or false");
   if (value != "true" && value != "false") throw DirectiveError(fmt::format("'{}' is neither true nor false", value));
   return setEntry(scope, StoreKind::Bools, name,
-                  [value](TestSession& session, std::size_t script, const std::string& entry) {
-                    return session.tooling().setBool(script, entry, value == "true");
+                  [value](TestSession& session, Holder holder, const std::string& entry) {
+                    return session.tooling().setBool(*holder, entry, value == "true");
                   });
 }
 
 Action setList(WordCursor& words, const ScriptScope& scope, const std::string& name) {
   const std::vector<EntityReference> references = takeEntityReferences(words);
   return setEntry(scope, StoreKind::Lists, name,
-                  [references](TestSession& session, std::size_t script, const std::string& entry) {
+                  [references](TestSession& session, Holder holder, const std::string& entry) {
                     std::vector<std::uint64_t> ids;
                     for (const EntityReference& reference : references)
                       ids.push_back(session.resolve(reference));
-                    return session.tooling().setList(script, entry, ids);
+                    return session.tooling().setList(holder, entry, ids);
                   });
 }
 

@@ -9,6 +9,8 @@
 #include "qsf/Qsf.h"
 #include "qsf/base/CallRecorder.h"
 #include "qsf/base/Ids.h"
+#include "qsf/base/NearNames.h"
+#include "qsf/base/RecordedOperation.h"
 #include "qsf/map/Map.h"
 #include "qsf/message/MessageSystem.h"
 #include "qsf/reflection/PropertyText.h"
@@ -17,6 +19,8 @@
 #include <fmt/ranges.h>
 
 #include <algorithm>
+#include <set>
+#include <sstream>
 
 namespace tidemark::test {
 
@@ -24,11 +28,51 @@ namespace {
 
 constexpr double DEFAULT_DISTANCE = 0.01;
 
+// True if a script of the test holds the name: scripts send messages of their own.
+bool isWrittenInScripts(const TestPlan& plan, const std::string& name) {
+  const auto holds = [&](const ScriptSection& script) {
+    std::istringstream lines(script.text);
+    for (std::string line; std::getline(lines, line);)
+      if (line.find('$') == std::string::npos && line.find(name) != std::string::npos) return true;
+    return false;
+  };
+  return std::ranges::any_of(plan.projects,
+                             [&](const ProjectPlan& project) { return std::ranges::any_of(project.scripts, holds); });
+}
+
+bool isEmittedByTest(const TestPlan& plan, const std::string& name) {
+  return std::ranges::any_of(plan.steps, [&](const Step& step) {
+    const std::vector<Word> words = splitWords(step.text);
+    return words.size() > 1 && words[0].text == "emit" && words[1].text == name;
+  });
+}
+
+// A message that nobody could send is a slip of the keyboard, and `never` would hide it.
+void requireMessage(const TestSession& session, const std::string& name) {
+  const qsf::MessageSystem& messages = session.host().getQsf().getMessageSystem();
+  const std::set<std::string>& known = messages.getMessageNames();
+  if (known.contains(name) || messages.getEmittedCount(qsf::StringHash(name)) > 0 ||
+      isEmittedByTest(session.plan(), name) || isWrittenInScripts(session.plan(), name))
+    return;
+  throw DirectiveError(fmt::format("nobody knows a message '{}'{}", name,
+                                   qsf::nearNamesHint(name, std::vector<std::string>(known.begin(), known.end()))));
+}
+
+void requireOperation(const std::string& operation) {
+  if (qsf::RecordedOperation::find(operation)) return;
+  std::vector<std::string> known;
+  for (const qsf::RecordedOperation* recorded : qsf::RecordedOperation::getAll())
+    known.emplace_back(recorded->getName());
+  throw DirectiveError(
+      fmt::format("calls of '{}' are not recorded{}", operation, qsf::nearNamesHint(operation, known)));
+}
+
 Expectation expectMessage(WordCursor& words) {
   const std::string name = words.take("the message's name");
   const Times times = takeTimes(words);
   Expectation expectation;
   expectation.check = [=](TestSession& session) {
+    requireMessage(session, name);
     const std::uint64_t count = session.host().getQsf().getMessageSystem().getEmittedCount(qsf::StringHash(name));
     return Verdict{times.holds(count), fmt::format("emitted {} times", count), {}};
   };
@@ -66,7 +110,10 @@ Expectation expectCall(WordCursor& words) {
       arguments.push_back(words.take("an argument"));
   const Times times = takeTimes(words);
   Expectation expectation;
-  expectation.check = [=](TestSession& session) { return checkCalls(session, operation, arguments, times); };
+  expectation.check = [=](TestSession& session) {
+    requireOperation(operation);
+    return checkCalls(session, operation, arguments, times);
+  };
   return expectation;
 }
 

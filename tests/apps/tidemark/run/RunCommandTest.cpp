@@ -166,6 +166,85 @@ TEST_F(RunCommand, ARequestToEndEndsTheRunWithItsTable) {
   }
 }
 
+TEST_F(RunCommand, LinesOfScriptsTellTheirPlace) {
+  writeProject(BEAT);
+  const Outcome text = run({"run", folder(), "--seconds", "1.2"});
+  EXPECT_NE(text.output.find("INFO    beat    main.script:6 Beat\n"), std::string::npos) << text.output;
+  EXPECT_EQ(text.output.find("DoShutdown Started "), std::string::npos) << text.output;
+}
+
+const std::string MISTYPED = "InitNewTrigger(\"Once\");\nInitEffects();\nDoLogEntry(\"Info\", \"x\");\n";
+
+TEST_F(RunCommand, HintsAreToldAndReported) {
+  writeProject(MISTYPED);
+  const Outcome outcome = run({"run", folder(), "--seconds", "0.1", "--report", folder() + "/report.json"});
+  EXPECT_EQ(outcome.code, 0);
+  EXPECT_NE(outcome.output.find("1 hint\n    main.script:3 Once  \"Info\" is no word that SeverityLevel knows (did you "
+                                "mean \"INFO\"?)\n"),
+            std::string::npos)
+      << outcome.output;
+  const auto hints = nlohmann::json::parse(readAll(folder() + "/report.json"))["hints"];
+  ASSERT_EQ(hints.size(), 1u);
+  EXPECT_EQ(hints[0]["script"], "main.script");
+  EXPECT_EQ(hints[0]["line"], 3);
+  EXPECT_EQ(hints[0]["trigger"], "Once");
+  EXPECT_EQ(hints[0]["nearest"], "INFO");
+  EXPECT_EQ(hints[0]["count"], 1);
+}
+
+TEST_F(RunCommand, HintsCanBeFaultsOrNotAskedFor) {
+  writeProject(MISTYPED);
+  EXPECT_EQ(run({"run", folder(), "--seconds", "0.1", "--strict"}).code, 1);
+  const Outcome silent = run({"run", folder(), "--seconds", "0.1", "--no-hints"});
+  EXPECT_EQ(silent.code, 0);
+  EXPECT_EQ(silent.output.find("hint"), std::string::npos) << silent.output;
+  EXPECT_EQ(run({"run", folder(), "--strict", "--no-hints"}).code, 2);
+  writeProject(BEAT);
+  EXPECT_EQ(run({"run", folder(), "--seconds", "0.1", "--strict"}).code, 0);
+}
+
+TEST_F(RunCommand, DroppedLinesAreFaults) {
+  writeProject("InitNewTrigger(\"Once\");\nInitEffects();\nSetVariabel(\"a\", \"1\");\nnonsense\n");
+  const Outcome outcome = run({"run", folder(), "--seconds", "0.1", "--report", folder() + "/report.json"});
+  EXPECT_EQ(outcome.code, 1);
+  EXPECT_NE(
+      outcome.output.find("2 dropped lines\n    main.script:3:1  Effect of type: SetVariabel can't be found.\n    "
+                          "main.script:4:1  Command is invalid: nonsense\n"),
+      std::string::npos)
+      << outcome.output;
+  const auto dropped = nlohmann::json::parse(readAll(folder() + "/report.json"))["droppedLines"];
+  ASSERT_EQ(dropped.size(), 2u);
+  EXPECT_EQ(dropped[0]["line"], 3);
+  EXPECT_EQ(dropped[0]["reason"], "Effect of type: SetVariabel can't be found.");
+}
+
+TEST_F(RunCommand, AScriptThatStoppedOrNeverLoadedStaysInTheTable) {
+  writeProject("InitNewTrigger(\"Start\");\nInitEffects();\nStartScenario(\"x64/tidemark/helper.script\");\n"
+               "InitNewTrigger(\"Stop\");\nInitConditions();\nTimer(\"0.5\");\nInitEffects();\n"
+               "StopScenario(\"x64/tidemark/helper.script\");\n");
+  write("x64/tidemark/helper.script", "InitNewTrigger(\"Help\");\n");
+  write("x64/tidemark/MapScript.json",
+        R"({"MapScripts": {"main": {"Path": "main.script", "Mode": "MAP_STARTUP", "Maps": ["All"]},
+                           "gone": {"Path": "gone.script", "Mode": "MAP_STARTUP", "Maps": ["All"]}}})");
+  const Outcome outcome = run({"run", folder(), "--seconds", "1", "--report", folder() + "/report.json"});
+  EXPECT_NE(outcome.output.find("script p/gone  "), std::string::npos) << outcome.output;
+  EXPECT_NE(outcome.output.find("script x64/tidemark/helper.script  TEMPORARY, stopped by StopScenario, main.script:8"),
+            std::string::npos)
+      << outcome.output;
+  const auto ended = nlohmann::json::parse(readAll(folder() + "/report.json"))["ended"];
+  ASSERT_EQ(ended.size(), 2u);
+  EXPECT_EQ(ended[0]["key"], "gone");
+  EXPECT_EQ(ended[1]["key"], "x64/tidemark/helper.script");
+}
+
+TEST_F(RunCommand, AListOfScriptsThatCannotBeReadCannotBeLoaded) {
+  writeProject(BEAT);
+  const std::string file = write("x64/tidemark/MapScript.json", "{\"MapScripts\": {");
+  const Outcome outcome = run({"run", folder()});
+  EXPECT_EQ(outcome.code, 3);
+  EXPECT_NE(outcome.output.find("\ntidemark run: " + file), std::string::npos) << outcome.output;
+}
+
 }
 
 }

@@ -37,7 +37,7 @@ TEST_F(TestCommand, JUnitFileIsWritten) {
 TEST_F(TestCommand, AFailureTellsExpectedFoundAndLog) {
   expectFailure("$ @for 3.2\n" + BEAT + "$ @expect variable beats == 4\n$ @expect log INFO \"beat\" 2 times\n",
                 {"failing.script:8: expectation failed", "expected: variable beats == 4", "found:    3",
-                 "failing.script:9", "found:    3 such lines", "> frame   21  INFO    beat"});
+                 "failing.script:9", "found:    3 such lines", "> frame   21  INFO    beat    main.script:7 Beat"});
 }
 
 struct FaultyLine {
@@ -74,6 +74,13 @@ INSTANTIATE_TEST_SUITE_P(
                     FaultyLine{"$ @at 0 map x/map/y/z", "x/map/y/z"},
                     FaultyLine{"$ @at 0 push 100 em5::X", "has no qsf::ActionComponent"},
                     FaultyLine{"$ @at 0 in other variable x = 1", "no script 'other'"},
+                    FaultyLine{"$ @expect message em5::Messages::GAME_STARTUP_FINISH never",
+                               "nobody knows a message 'em5::Messages::GAME_STARTUP_FINISH' (did you mean "
+                               "\"em5::Messages::GAME_STARTUP_FINISHED\"?)"},
+                    FaultyLine{"$ @expect message my::Message never", "nobody knows a message 'my::Message'"},
+                    FaultyLine{"$ @expect call em5::HintHelper::showHin never",
+                               "calls of 'em5::HintHelper::showHin' are not recorded (did you mean "
+                               "\"em5::HintHelper::showHint\"?)"},
                     FaultyLine{"$ @map em5/map/test/emty", "did you mean \"em5/map/test/empty\"?"},
                     FaultyLine{"$ @mod other\n$ @file project.json\n{\n$ @end", "project.json"},
                     FaultyLine{"$ @expct x", "unknown directive"}));
@@ -107,6 +114,38 @@ TEST_F(TestCommand, AFilterThatMatchesNothingIsNoSuccess) {
   const Outcome outcome = run({"test", folder(), "--filter", "zwei"});
   EXPECT_EQ(outcome.code, 3);
   EXPECT_EQ(outcome.output, "tidemark test: no test found whose path holds 'zwei'\n");
+}
+
+const std::string MISTYPED = "InitNewTrigger(\"Once\");\nInitEffects();\nDoLogEntry(\"Info\", \"x\");\nnonsense\n"
+                             "$ @script helper.script\nInitNewTrigger(\"Help\", yes);\n$ @end\n$ @expect triggers 1\n";
+
+TEST_F(TestCommand, DroppedLinesAndHintsAreNotes) {
+  const std::string file = write("a.script", MISTYPED);
+  const Outcome outcome = run({"test", file});
+  EXPECT_EQ(outcome.code, 0);
+  EXPECT_TRUE(outcome.output.starts_with("NOTE " + file + "\n")) << outcome.output;
+  for (const char* note : {":3: note: hint: \"Info\" is no word that SeverityLevel knows (did you mean \"INFO\"?)    "
+                           "main.script:3 Once\n",
+                           ":4: note: dropped line: Command is invalid: nonsense    main.script:4\n",
+                           ":6: note: hint: \"yes\" is neither true nor false; true is used for Active    "
+                           "helper.script:1 Help\n",
+                           "1 passed, 0 failed\n"})
+    EXPECT_NE(outcome.output.find(note), std::string::npos) << note << outcome.output;
+}
+
+TEST_F(TestCommand, NotesFailAStrictTest) {
+  write("a.script", MISTYPED);
+  write("b.script", BEAT + "$ @expect triggers 1\n");
+  const Outcome outcome = run({"test", folder(), "--strict"});
+  EXPECT_EQ(outcome.code, 1);
+  EXPECT_NE(outcome.output.find("a.script:4: error: dropped line: "), std::string::npos) << outcome.output;
+  EXPECT_TRUE(outcome.output.ends_with("1 passed, 1 failed\n")) << outcome.output;
+}
+
+TEST_F(TestCommand, NotesThatExpectationsNameAreNone) {
+  write("a.script", MISTYPED + "$ @expect hint containing Info\n$ @expect hint containing \"neither true\" 1 times\n"
+                               "$ @expect log INFO \"Command is invalid: nonsense\"\n");
+  EXPECT_EQ(run({"test", folder(), "--strict"}).output, "1 passed, 0 failed\n");
 }
 
 TEST_F(TestCommand, JUnitOnStandardOutputStandsThereAlone) {

@@ -24,7 +24,7 @@ std::vector<Failure> runWith(const std::string& text, const Action& look) {
   result.plan.steps.push_back(std::move(step));
   const std::string folder = platform::makeTemporaryDirectory();
   writeProjects(result.plan, folder);
-  std::vector<Failure> failures = TestSession(result.plan, folder).run();
+  std::vector<Failure> failures = TestSession(result.plan, folder).run().failures;
   fs::remove_all(folder);
   return failures;
 }
