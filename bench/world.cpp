@@ -120,8 +120,10 @@ World* world = nullptr; ///< lives in main
 /// A script that runs in the world, a tick at a time.
 class Script {
 public:
-  explicit Script(const std::string& text) : mDocument(script::ScriptParser().parseText(text, "bench", "bench/world")) {
-    mHandler.SetDocument(mDocument.get());
+  explicit Script(const std::string& text)
+      : mDocument(
+            std::make_shared<script::ScriptDocument>(script::ScriptParser().parseText(text, "bench", "bench/world"))) {
+    mHandler.SetDocument(mDocument);
     mHandler.Start(script::StartKind::Realtime);
   }
   void tick() { mHandler.Update(mArguments); }
@@ -130,7 +132,7 @@ public:
   std::uint64_t timesFired() const { return mDocument->triggers.back().timesFired; }
 
 private:
-  std::unique_ptr<script::ScriptDocument> mDocument;
+  std::shared_ptr<script::ScriptDocument> mDocument;
   script::ScenarioHandler mHandler{std::make_shared<script::GlobalStores>()};
   qsf::JobArguments mArguments{qsf::Time::fromMilliseconds(50)};
 };

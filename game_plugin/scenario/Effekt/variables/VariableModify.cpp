@@ -11,11 +11,12 @@ struct VariableModifyEffect : DefaultEffect {
       "Any operation but -, * and : adds; a slash adds, too.",
   };
 
+  // First, where the base leaves bytes free: there are thousands of these records.
+  ArithmeticOperator operation = ArithmeticOperator::Add;
+  bool round = true;
   Argument value1;
   Argument value2;
   Argument result;
-  ArithmeticOperator operation = ArithmeticOperator::Add;
-  bool round = true;
 };
 
 static void read(VariableModifyEffect& effect, ParameterReader& in) {

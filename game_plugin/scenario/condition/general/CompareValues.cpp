@@ -5,8 +5,8 @@
 namespace script {
 
 struct CompareValuesCondition : DefaultCondition {
+  ComparisonOperator operatorText; // first, where the base leaves a byte free: there are thousands of these records
   Argument value1;
-  ComparisonOperator operatorText;
   Argument value2;
 };
 
