@@ -29,7 +29,8 @@ const Rule RULES[] = {
     {"apps", {"host/", "tests/", "bench/"}, {"host/include/"}},
     // Words and numbers of the language are what they are, whatever is on the map.
     {"game_plugin/scenario/language",
-     {"qsf/map/", "qsf/Qsf.h", "em5/map/", "em5/component/", "game_plugin/"},
+     {"host/include/qsf/map/", "host/include/qsf/component/", "host/include/qsf/Qsf.h", "host/include/em5/map/",
+      "host/include/em5/component/", "game_plugin/"},
      {"game_plugin/scenario/language/"}},
     // A script's text is read without a host and without the module.
     {"game_plugin/syntax", {"host/", "qsf/", "em5/", "Rocket/", "game_plugin/"}, {"game_plugin/syntax/"}},

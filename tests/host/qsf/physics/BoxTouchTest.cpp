@@ -72,7 +72,7 @@ TEST(BoxTouch, EdgesThatCrossArePartedByNeitherBoxesFaces) {
 }
 
 TEST(BoxTouch, AgreesWithTheLibrary) {
-  constexpr btScalar UNSURE = btScalar(0.03); // the library rounds: boxes that overlap by a hair are apart to it
+  constexpr btScalar UNSURE = btScalar(0.032); // the library rounds corners, by its margin of 0.04
   qsf::Random::setSeed(7);
   Library library;
   int touching = 0;
