@@ -10,7 +10,6 @@ find_package(utf8cpp REQUIRED)
 find_package(box2d REQUIRED)
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(BULLET REQUIRED IMPORTED_TARGET bullet)
-pkg_check_modules(OGRE REQUIRED IMPORTED_TARGET OGRE)
 find_library(CAMP_LIBRARY camp REQUIRED)
 
 add_library(tidemark_camp INTERFACE)

@@ -9,7 +9,6 @@ build=build/$preset
 
 if [ "$preset" = sanitize ]; then
   export ASAN_OPTIONS=detect_leaks=1:detect_stack_use_after_return=1:strict_string_checks=1:check_initialization_order=1
-  export LSAN_OPTIONS=suppressions=$PWD/tools/leaks.supp:print_suppressions=0
   export UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
 fi
 

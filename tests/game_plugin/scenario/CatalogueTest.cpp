@@ -1,6 +1,7 @@
 #include "game_plugin/scenario/program/ParameterReader.h"
 #include "game_plugin/scenario/tick/ScenarioConditions.h"
 #include "game_plugin/scenario/tick/ScenarioEffects.h"
+#include "tests/support/Paths.h"
 
 #include <gtest/gtest.h>
 
@@ -27,7 +28,7 @@ std::multimap<std::string, std::string> entriesInSources(const std::string& fold
                                                          const std::vector<std::string>& macros) {
   std::multimap<std::string, std::string> entries;
   for (const auto& file :
-       std::filesystem::recursive_directory_iterator(TIDEMARK_SOURCE_DIRECTORY "/game_plugin/scenario/" + folder)) {
+       std::filesystem::recursive_directory_iterator(paths::sourceDirectory() + "/game_plugin/scenario/" + folder)) {
     if (file.path().extension() != ".cpp") continue;
     std::ifstream stream(file.path());
     const std::string text{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};

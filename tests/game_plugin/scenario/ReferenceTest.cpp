@@ -7,6 +7,7 @@
 #include "game_plugin/scenario/program/ParameterReader.h"
 #include "game_plugin/scenario/tick/ScenarioConditions.h"
 #include "game_plugin/scenario/tick/ScenarioEffects.h"
+#include "tests/support/Paths.h"
 
 #include <gtest/gtest.h>
 
@@ -19,7 +20,7 @@ using namespace script;
 
 namespace {
 
-constexpr const char* GOLDEN = TIDEMARK_SOURCE_DIRECTORY "/tests/game_plugin/golden/reference.txt";
+const std::string GOLDEN = paths::sourceDirectory() + "/tests/game_plugin/golden/reference.txt";
 
 /// The text on one line.
 std::string flat(std::string_view text) {

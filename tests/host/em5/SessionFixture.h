@@ -3,6 +3,7 @@
 #include "qsf/Qsf.h"
 #include "qsf/log/LogSystem.h"
 #include "qsf/map/Map.h"
+#include "tests/support/Paths.h"
 
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -33,7 +34,7 @@ protected:
     session->getQsf().getLogSystem().addListener([this](const qsf::LogSystem::Record& record) {
       log.emplace_back(record.severity, std::string(record.message));
     });
-    session->mountBaseProject(TIDEMARK_DATA_DIRECTORY "/em5");
+    session->mountBaseProject(paths::baseProject());
     return *session;
   }
   /// A session with a game on the empty map.

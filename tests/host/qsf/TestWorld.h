@@ -8,6 +8,7 @@
 #include "qsf/job/JobManagers.h"
 #include "qsf/log/LogSystem.h"
 #include "qsf/map/Map.h"
+#include "tests/support/Paths.h"
 
 #include <gtest/gtest.h>
 
@@ -52,7 +53,7 @@ protected:
   }
 
   void mountProject() { host.getProjectManager().registerSingleProjectFromFileSystem(project.path()); }
-  void mountBase() { host.getProjectManager().registerSingleProjectFromFileSystem(TIDEMARK_DATA_DIRECTORY "/em5"); }
+  void mountBase() { host.getProjectManager().registerSingleProjectFromFileSystem(paths::baseProject()); }
   /// The text of the error that loading a map of this content ends with; empty if it loads.
   std::string loadFault(const std::string& json) {
     project.write("map/test/map.json", json);

@@ -1,5 +1,6 @@
 // The arrows between the layers and folders of this tree, read from its includes.
 #include "host/tree/Includes.h"
+#include "tests/support/Paths.h"
 
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -58,7 +59,7 @@ std::string described(const Circle& circle) {
 
 const std::vector<Include>& ours() {
   static const std::vector<Include> all =
-      includes::readIncludes(TIDEMARK_SOURCE_DIRECTORY, {"host", "game_plugin", "apps"});
+      includes::readIncludes(paths::sourceDirectory(), {"host", "game_plugin", "apps"});
   return all;
 }
 

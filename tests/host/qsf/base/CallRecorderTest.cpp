@@ -1,4 +1,5 @@
 #include "qsf/base/CallRecorder.h"
+#include "tests/support/Paths.h"
 
 #include "qsf/Qsf.h"
 #include "qsf/base/RecordedOperation.h"
@@ -50,7 +51,7 @@ TEST(RecordedOperation, AllStandInTheTableOfTheDocumentation) {
     const std::string arguments = operation->getArguments();
     expected += "| `" + std::string(operation->getName()) + "` | " + arguments + (arguments.empty() ? "|\n" : " |\n");
   }
-  std::ifstream page(TIDEMARK_SOURCE_DIRECTORY "/docs/host-game.md");
+  std::ifstream page(paths::sourceDirectory() + "/docs/host-game.md");
   std::string found;
   bool inTable = false;
   for (std::string line; std::getline(page, line);) {

@@ -6,6 +6,7 @@
 #include "qsf/log/LogSystem.h"
 #include "qsf/reflection/ClassRegistry.h"
 #include "qsf/reflection/Object.h"
+#include "tests/support/Paths.h"
 
 #include <camp/classbuilder.hpp>
 #include <gtest/gtest.h>
@@ -83,7 +84,7 @@ protected:
 };
 
 TEST_F(PluginSystemTest, LoadsInstallsAndStartsALibrarysPlugin) {
-  Plugin* plugin = host.getPluginSystem().loadPlugin(TEST_PLUGIN_FILE);
+  Plugin* plugin = host.getPluginSystem().loadPlugin(paths::testPlugin());
   ASSERT_NE(plugin, nullptr);
   EXPECT_STREQ(plugin->getName(), "test plug-in");
   EXPECT_EQ(host.getPluginSystem().getPlugins(), (std::vector<Plugin*>{plugin}));
@@ -101,18 +102,18 @@ TEST(PluginSystem, TheFactoryIsNamedAfterTheLibrary) {
 }
 
 TEST_F(PluginSystemTest, ALibraryIsLoadedOnlyOnceAtATimeButAgainAfterItsEnd) {
-  ASSERT_NE(host.getPluginSystem().loadPlugin(TEST_PLUGIN_FILE), nullptr);
-  EXPECT_NE(loadFailing(TEST_PLUGIN_FILE, "CreatePluginInstance_test_plugin_new").find("loaded already"),
+  ASSERT_NE(host.getPluginSystem().loadPlugin(paths::testPlugin()), nullptr);
+  EXPECT_NE(loadFailing(paths::testPlugin(), "CreatePluginInstance_test_plugin_new").find("loaded already"),
             std::string::npos);
   EXPECT_EQ(host.getPluginSystem().getPlugins().size(), 1u);
   host.getPluginSystem().unloadPlugins();
-  EXPECT_NE(host.getPluginSystem().loadPlugin(TEST_PLUGIN_FILE), nullptr);
+  EXPECT_NE(host.getPluginSystem().loadPlugin(paths::testPlugin()), nullptr);
 }
 
 TEST_F(PluginSystemTest, ALibraryThatIsNotKeptMayBeLoadedAgain) {
   host.getPluginSystem().setKeepLibraries(false);
   for (int i = 0; i < 3; ++i) {
-    ASSERT_NE(host.getPluginSystem().loadPlugin(TEST_PLUGIN_FILE), nullptr);
+    ASSERT_NE(host.getPluginSystem().loadPlugin(paths::testPlugin()), nullptr);
     host.getPluginSystem().unloadPlugins();
   }
 }
@@ -120,26 +121,26 @@ TEST_F(PluginSystemTest, ALibraryThatIsNotKeptMayBeLoadedAgain) {
 TEST_F(PluginSystemTest, WhatCannotBeLoadedSaysWhy) {
   EXPECT_NE(loadFailing("/no/such/library.so", "x").find("/no/such/library.so: there is no such plug-in library"),
             std::string::npos);
-  EXPECT_NE(loadFailing(TIDEMARK_SOURCE_DIRECTORY, "x").find("no such plug-in library"), std::string::npos);
-  EXPECT_NE(loadFailing(TIDEMARK_SOURCE_DIRECTORY "/CMakeLists.txt", "x").find("cannot be loaded"), std::string::npos);
-  const std::string noFactory = loadFailing(TEST_PLUGIN_FILE, "CreateSomethingElse");
+  EXPECT_NE(loadFailing(paths::sourceDirectory(), "x").find("no such plug-in library"), std::string::npos);
+  EXPECT_NE(loadFailing(paths::sourceDirectory() + "/CMakeLists.txt", "x").find("cannot be loaded"), std::string::npos);
+  const std::string noFactory = loadFailing(paths::testPlugin(), "CreateSomethingElse");
   EXPECT_NE(noFactory.find("CreateSomethingElse"), std::string::npos);
   EXPECT_NE(noFactory.find("exports no such function"), std::string::npos);
-  EXPECT_NE(loadFailing(TEST_PLUGIN_FILE, "CreateNothing").find("made no plug-in"), std::string::npos);
-  EXPECT_NE(loadFailing(TEST_PLUGIN_FILE, "CreateWithFault").find("made no plug-in"), std::string::npos);
+  EXPECT_NE(loadFailing(paths::testPlugin(), "CreateNothing").find("made no plug-in"), std::string::npos);
+  EXPECT_NE(loadFailing(paths::testPlugin(), "CreateWithFault").find("made no plug-in"), std::string::npos);
   EXPECT_EQ(host.getFaultCounter().getCount(), 1u);
   EXPECT_TRUE(host.getPluginSystem().getPlugins().empty());
 }
 
 TEST_F(PluginSystemTest, APluginThatRefusesItsInstallationIsNotStarted) {
-  EXPECT_EQ(host.getPluginSystem().loadPlugin(TEST_PLUGIN_FILE, "CreateRefusingInstall"), nullptr);
+  EXPECT_EQ(host.getPluginSystem().loadPlugin(paths::testPlugin(), "CreateRefusingInstall"), nullptr);
   EXPECT_EQ(getCalls(), "onInstall destroyed ");
   ASSERT_EQ(lines.size(), 1u);
   EXPECT_EQ(lines[0], "4 The plug-in 'test plug-in' could not be installed");
 }
 
 TEST_F(PluginSystemTest, AnExceptionInTheInstallationIsARefusal) {
-  EXPECT_EQ(host.getPluginSystem().loadPlugin(TEST_PLUGIN_FILE, "CreateThrowingInstall"), nullptr);
+  EXPECT_EQ(host.getPluginSystem().loadPlugin(paths::testPlugin(), "CreateThrowingInstall"), nullptr);
   EXPECT_EQ(getCalls(), "onInstall destroyed ");
   ASSERT_EQ(lines.size(), 2u);
   EXPECT_EQ(lines[0], "4 Fault in the installation of plug-in 'test plug-in': refused");
@@ -147,7 +148,7 @@ TEST_F(PluginSystemTest, AnExceptionInTheInstallationIsARefusal) {
 }
 
 TEST_F(PluginSystemTest, APluginThatRefusesToStartIsUninstalled) {
-  EXPECT_EQ(host.getPluginSystem().loadPlugin(TEST_PLUGIN_FILE, "CreateRefusingStartup"), nullptr);
+  EXPECT_EQ(host.getPluginSystem().loadPlugin(paths::testPlugin(), "CreateRefusingStartup"), nullptr);
   EXPECT_EQ(getCalls(), "onInstall onStartup onUninstall destroyed ");
   ASSERT_EQ(lines.size(), 1u);
   EXPECT_EQ(lines[0], "4 The plug-in 'test plug-in' could not be started");

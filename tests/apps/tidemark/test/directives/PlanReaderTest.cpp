@@ -1,4 +1,5 @@
 #include "apps/tidemark/test/TestPlan.h"
+#include "tests/support/Paths.h"
 
 #include <gtest/gtest.h>
 
@@ -176,7 +177,7 @@ TEST(PlanReader, ATestWithoutExpectationIsAnError) {
   EXPECT_NE(readFaulty("$ @for 2\nInitNewTrigger();\n").text.find("expects nothing"), std::string::npos);
 }
 
-const std::string PLAY = "$ @play " TIDEMARK_SOURCE_DIRECTORY "/examples/harbour\n";
+const std::string PLAY = "$ @play " + paths::sourceDirectory() + "/examples/harbour\n";
 
 TEST(PlanReader, APlayedProjectBringsItsMap) {
   const TestPlan played = readGood(PLAY + EXPECTATION);
@@ -187,8 +188,8 @@ TEST(PlanReader, APlayedProjectBringsItsMap) {
 }
 
 TEST(PlanReader, ATestThatPlaysAProjectHoldsDirectivesOnly) {
-  for (const char* line : {"InitEffects();", "$ @mode MAP_STARTUP", "$ @encoding cp1252", "$ @script x.script",
-                           "$ @play " TIDEMARK_SOURCE_DIRECTORY}) {
+  for (const std::string& line : {std::string("InitEffects();"), "$ @mode MAP_STARTUP", "$ @encoding cp1252",
+                                  "$ @script x.script", "$ @play " + paths::sourceDirectory()}) {
     const PlanFault fault = readFaulty("$ A comment.\n\n" + EXPECTATION + PLAY + line + "\n");
     EXPECT_EQ(fault.line, 5) << fault.text;
   }
