@@ -188,8 +188,9 @@ TEST(PlanReader, APlayedProjectBringsItsMap) {
 }
 
 TEST(PlanReader, ATestThatPlaysAProjectHoldsDirectivesOnly) {
-  for (const std::string& line : {std::string("InitEffects();"), "$ @mode MAP_STARTUP", "$ @encoding cp1252",
-                                  "$ @script x.script", "$ @play " + paths::sourceDirectory()}) {
+  for (const std::string& line :
+       std::vector<std::string>{"InitEffects();", "$ @mode MAP_STARTUP", "$ @encoding cp1252", "$ @script x.script",
+                                "$ @play " + paths::sourceDirectory()}) {
     const PlanFault fault = readFaulty("$ A comment.\n\n" + EXPECTATION + PLAY + line + "\n");
     EXPECT_EQ(fault.line, 5) << fault.text;
   }
