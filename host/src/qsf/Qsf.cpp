@@ -55,9 +55,9 @@ Qsf::Qsf() : mSystems(std::make_unique<Systems>()) {
   assert(!sInstance);
   sInstance = this;
   Random::setSeed(0); // a host that nobody seeds is still the same every time
-  declareBaseClasses();
-  ClassRegistry::declareAll();
   mSystems->make();
+  declareBaseClasses();
+  ClassRegistry::declareAll(); // the string hash manager is there to remember their names
 }
 
 Qsf::~Qsf() {

@@ -3,8 +3,6 @@
 #include "qsf/component/Component.h"
 #include "qsf/job/JobProxy.h"
 
-#include <stdexcept>
-
 namespace qsf {
 
 /// Lets an entity act: owns its action plan and drives the current action once a simulated frame. An action that is
@@ -27,15 +25,16 @@ public:
   /// Null if no action class has that id. The action belongs to no plan yet.
   std::unique_ptr<Action> createActionById(StringHash actionId) const;
   Action& insertAction(std::unique_ptr<Action> action, unsigned int priority, action::InsertionMode mode);
-  /// Null if no action class has that id.
-  Action* pushActionById(StringHash actionId, unsigned int priority = DEFAULT_PRIORITY,
+  /// Makes and inserts an action. If no action class has that id, this is logged at severity 4 and a std::runtime_error
+  /// leaves; the plan then stays as it was.
+  Action& pushActionById(StringHash actionId, unsigned int priority = DEFAULT_PRIORITY,
                          action::InsertionMode mode = action::APPEND_TO_BACK);
-  /// For a class of ours, known or not; to be initialised by the caller.
+  /// The same for a class at hand, to be initialised by the caller.
   template <class T>
   T& pushAction(unsigned int priority = DEFAULT_PRIORITY, action::InsertionMode mode = action::APPEND_TO_BACK) {
-    return static_cast<T&>(insertAction(std::make_unique<T>(), priority, mode));
+    return static_cast<T&>(pushActionById(T::ACTION_ID, priority, mode));
   }
-  /// An action that isn't in the plan does nothing. Its memory lives until the frame's end at least.
+  /// An action that isn't in the plan does nothing. Its memory lives until the frame's end.
   void removeAction(const Action* action);
   void clearPlan();
 
@@ -48,10 +47,9 @@ private:
   bool startAction(Action& action);
   void stopAction(Action& action);
   void updateRegistration();
-  std::string describeCurrent() const;
+  std::string describeActions() const;
 
   ActionPlan mPlan;
-  std::vector<std::unique_ptr<Action>> mRetired; // one of them may be running right now
   JobProxy mJob;
   std::uint32_t mUpdates = 0;
 };

@@ -6,9 +6,10 @@
 
 namespace qsf {
 
-/// The actions of an entity in the order of their doing; the first is the current one. A new action goes
-/// APPEND_TO_BACK behind all of its priority or a higher one; INSERT_AT_FRONT behind the current action if that has its
-/// priority or a higher one, else in front of it; INSERT_BEFORE_CURRENT in front of all; REPLACE_WHOLE_PLAN alone.
+/// The actions of an entity in the order of their doing; the first is the current one, from its insertion on. The order
+/// is that of insertion and mode; priorities never reorder. A new action goes APPEND_TO_BACK behind all;
+/// INSERT_AT_FRONT in front of all but the current one, and of that, too, if its own priority is higher;
+/// INSERT_BEFORE_CURRENT in front of all; REPLACE_WHOLE_PLAN alone.
 class QSF_API ActionPlan {
 public:
   const std::vector<Action*>& getActions() const { return mView; }

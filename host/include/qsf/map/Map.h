@@ -69,7 +69,9 @@ public:
   bool isStarted() const { return mStarted; }
   /// Destroys everything.
   void clear();
-  /// Releases what destroyObjectById took off the map; the host calls it between frames.
+  /// Takes over what somebody has removed while it may still be at work, and frees it at the end of the frame.
+  void keepUntilFrameEnd(std::shared_ptr<void> removed);
+  /// Frees what was taken off the map and what it keeps; the host calls it between frames.
   void collectGarbage();
 
   struct Internals;

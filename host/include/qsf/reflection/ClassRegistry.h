@@ -2,7 +2,10 @@
 #include "qsf/base/StringHash.h"
 
 #include <camp/class.hpp>
+#include <camp/userobject.hpp>
 
+#include <memory>
+#include <string>
 #include <type_traits>
 #include <vector>
 
@@ -19,9 +22,12 @@ public:
   /// Makes a component of a class with `new`. Much faster than the class's own constructor in CAMP.
   using ComponentMaker = Component* (*)(Prototype* owner);
 
-  /// Adds a class under the hash of its name. A class that is there already is not added again.
+  /// Adds a class under the hash of its name. A class that is there already is not added again. The running host
+  /// remembers the name of the hash.
   static void addClass(const camp::Class& campClass, ComponentMaker maker = nullptr);
-  /// A class that isn't there does nothing.
+  /// Lets a class be found under another name, too. A name that is taken stays as it is.
+  static void addOtherName(const camp::Class& campClass, const std::string& name);
+  /// With its other names. A class that isn't there does nothing.
   static void removeClass(const camp::Class& campClass);
   /// Null if there is none. Declared classes that were never added are not found.
   static const camp::Class* findClass(StringHash id);
@@ -30,6 +36,13 @@ public:
 
   /// Null if the class isn't known, is no component, or was added without one; then CAMP's constructor serves.
   static ComponentMaker findComponentMaker(StringHash id);
+
+  /// A new object of the class of that id. Null if there is none, if it isn't T and doesn't derive from it, or if it
+  /// can't be made without arguments; the latter is logged.
+  template <class T> static std::unique_ptr<T> createObject(StringHash id) {
+    const camp::UserObject made = construct(id, camp::classByType<T>());
+    return std::unique_ptr<T>(made.pointer() ? made.get<T*>() : nullptr);
+  }
 
   /// Declares a class with its static declareCamp() unless that was done before in this process, and adds it.
   /// Declaring a class twice is an error in CAMP.
@@ -52,6 +65,7 @@ private:
       return nullptr;
   }
   static void addDeclaration(void (*declare)());
+  static camp::UserObject construct(StringHash id, const camp::Class& base);
 };
 
 /// Makes a class of the host's own known to every host: a constant of this type stands in the class's source, above its

@@ -1,19 +1,22 @@
 #include "qsf/action/ActionComponent.h"
 
+#include "qsf/log/ErrorHandling.h"
 #include "qsf/log/FaultCounter.h"
 #include "qsf/log/LogSystem.h"
+#include "qsf/map/Map.h"
+#include "qsf/reflection/CampTypes.h"
 #include "qsf/reflection/ClassRegistry.h"
+
+#include <stdexcept>
 
 namespace qsf {
 
 void ActionPlan::insert(std::unique_ptr<Action> action, action::InsertionMode mode) {
-  const unsigned int priority = action->getPriority();
-  std::size_t place = 0;
-  if (mode == action::INSERT_AT_FRONT)
-    place = !mView.empty() && mView.front()->getPriority() >= priority ? 1 : 0;
-  else if (mode != action::INSERT_BEFORE_CURRENT)
-    while (place < mView.size() && mView[place]->getPriority() >= priority)
-      ++place;
+  std::size_t place = mView.size();
+  if (mode == action::INSERT_BEFORE_CURRENT)
+    place = 0;
+  else if (mode == action::INSERT_AT_FRONT && !mView.empty())
+    place = action->getPriority() > mView.front()->getPriority() ? 0 : 1;
   mView.insert(mView.begin() + static_cast<std::ptrdiff_t>(place), action.get());
   mActions.insert(mActions.begin() + static_cast<std::ptrdiff_t>(place), std::move(action));
 }
@@ -44,15 +47,7 @@ unsigned int ActionComponent::getCurrentPriority() const {
 }
 
 std::unique_ptr<Action> ActionComponent::createActionById(StringHash actionId) const {
-  const camp::Class* metaclass = ClassRegistry::findClass(actionId);
-  if (!metaclass) return nullptr;
-  try {
-    const camp::UserObject made = metaclass->construct();
-    return std::unique_ptr<Action>(made.pointer() ? made.get<Action*>() : nullptr);
-  } catch (const std::exception& fault) {
-    logMessage(LogSystem::ERROR, "An action " + metaclass->name() + " could not be made: " + fault.what());
-    return nullptr;
-  }
+  return ClassRegistry::createObject<Action>(actionId);
 }
 
 Action& ActionComponent::insertAction(std::unique_ptr<Action> action, unsigned int priority,
@@ -68,17 +63,20 @@ Action& ActionComponent::insertAction(std::unique_ptr<Action> action, unsigned i
   return inserted;
 }
 
-Action* ActionComponent::pushActionById(StringHash actionId, unsigned int priority, action::InsertionMode mode) {
+Action& ActionComponent::pushActionById(StringHash actionId, unsigned int priority, action::InsertionMode mode) {
   std::unique_ptr<Action> action = createActionById(actionId);
-  return action ? &insertAction(std::move(action), priority, mode) : nullptr;
+  if (action) return insertAction(std::move(action), priority, mode);
+  const std::string fault = "ActionComponent::PushAction() Can't create action: \"" + toText(actionId) + "\"";
+  ErrorHandling::printToLog(fault, 1);
+  throw std::runtime_error(fault);
 }
 
 void ActionComponent::removeAction(const Action* action) {
   std::unique_ptr<Action> removed = action ? mPlan.remove(*action) : nullptr;
   if (!removed) return;
   Action& stopped = *removed;
-  mRetired.push_back(std::move(removed));
   stopAction(stopped);
+  getEntity().getMap().keepUntilFrameEnd(std::move(removed)); // it may be running right now
   updateRegistration();
 }
 
@@ -98,33 +96,40 @@ void ActionComponent::onShutdown() {
 }
 
 void ActionComponent::updateRegistration() {
-  // Retired actions are released by the job, too.
-  const bool hasWork = isRunning() && (!mPlan.isEmpty() || !mRetired.empty());
+  const bool hasWork = isRunning() && !mPlan.isEmpty();
   if (hasWork && !mJob.isRegistered())
     mJob.registerInSimulation([this](const JobArguments& arguments) { update(arguments); });
 }
 
 void ActionComponent::update(const JobArguments& arguments) {
-  mRetired.clear();
   Action* current = getCurrentAction();
   if (!current) return mJob.unregister();
   if (!isActive()) return;
   const Clock clock(arguments.getTimePassed(), ++mUpdates);
-  bool isDone = true;
-  callGuarded([&] { isDone = !startAction(*current) || current->updateAction(clock) == action::RESULT_DONE; },
-              [&] { return describeCurrent(); });
+  bool isDone = true; // so it is, too, if it throws
+  callGuarded(
+      [&] {
+        const bool isStarted = startAction(*current);
+        const bool isCurrent = getCurrentAction() == current; // its own start may have changed the plan
+        isDone = !isStarted || (isCurrent && current->updateAction(clock) == action::RESULT_DONE);
+      },
+      [&] { return describeActions(); });
   if (isDone) removeAction(current);
 }
 
-std::string ActionComponent::describeCurrent() const { return "an action of entity " + std::to_string(getEntityId()); }
+std::string ActionComponent::describeActions() const { return "an action of entity " + std::to_string(getEntityId()); }
 
 bool ActionComponent::startAction(Action& action) {
-  if (!action.mStarted) action.mStarted = action.onStartup();
-  return action.mStarted;
+  if (action.mStarted) return true;
+  if (!action.onStartup()) return false;
+  action.mStarted = true;
+  if (getCurrentAction() != &action) stopAction(action); // its own start has removed or interrupted it
+  return true;
 }
 
 void ActionComponent::stopAction(Action& action) {
-  if (std::exchange(action.mStarted, false)) action.onShutdown();
+  if (std::exchange(action.mStarted, false))
+    callGuarded([&] { action.onShutdown(); }, [&] { return describeActions(); });
 }
 
 }

@@ -173,11 +173,14 @@ void Map::clear() {
   mNextId = 2;
 }
 
+void Map::keepUntilFrameEnd(std::shared_ptr<void> removed) { mInternals->kept.push_back(std::move(removed)); }
+
 void Map::collectGarbage() {
   // Destructors may take off more.
-  while (!mDestroyed.empty() || !mInternals->destroyedComponents.empty()) {
+  while (!mDestroyed.empty() || !mInternals->destroyedComponents.empty() || !mInternals->kept.empty()) {
     const auto entities = std::exchange(mDestroyed, {});
     const auto components = std::exchange(mInternals->destroyedComponents, {});
+    const auto kept = std::exchange(mInternals->kept, {}); // goes first: it may belong to one of the others
   }
 }
 

@@ -27,6 +27,7 @@ struct Map::Internals {
   Ground ground;
   std::vector<std::unique_ptr<Layer>> layers; // by id, the base layer first
   std::vector<std::unique_ptr<Component>> destroyedComponents;
+  std::vector<std::shared_ptr<void>> kept; // until the frame's end
 
   Internals() { reset(); }
   void reset();

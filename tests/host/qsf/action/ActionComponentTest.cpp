@@ -1,6 +1,7 @@
 #include "qsf/action/ActionComponent.h"
 #include "host/qsf/TestWorld.h"
 #include "qsf/action/WaitAction.h"
+#include "qsf/base/StringHashManager.h"
 
 using qsf::ActionComponent;
 using qsf::IdleAction;
@@ -8,24 +9,6 @@ using qsf::WaitAction;
 namespace action = qsf::action;
 
 namespace {
-
-class ActionComponentTest : public host_test::WorldTest {
-protected:
-  ActionComponentTest() { map.startup(); }
-  IdleAction& push(const std::string& name, unsigned int priority,
-                   action::InsertionMode mode = action::APPEND_TO_BACK) {
-    IdleAction& pushed = actions.pushAction<IdleAction>(priority, mode);
-    pushed.init(name);
-    return pushed;
-  }
-  std::string plan() const {
-    std::string names;
-    for (const qsf::Action* entry : actions.getPlan().getActions())
-      names += entry->getTypeName();
-    return names;
-  }
-  ActionComponent& actions = *makeEntity(100).getOrCreateComponent<ActionComponent>();
-};
 
 /// Counts what is called and does as it is told.
 class ProbeAction : public qsf::Action {
@@ -36,16 +19,38 @@ public:
   bool starting = true;
   std::function<action::Result()> body = [] { return action::RESULT_CONTINUE; };
   std::string getTypeName() const override { return "P"; }
+  std::function<void()> atStart = [] {};
 
 protected:
   bool onStartup() override {
-    if (starts) ++*starts;
+    ++*starts;
+    atStart();
     return starting;
   }
   action::Result updateAction(const qsf::Clock&) override { return body(); }
-  void onShutdown() override {
-    if (stops) ++*stops;
+  void onShutdown() override { ++*stops; }
+};
+
+class ActionComponentTest : public host_test::WorldTest {
+protected:
+  ActionComponentTest() { map.startup(); }
+  IdleAction& push(const std::string& name, unsigned int priority,
+                   action::InsertionMode mode = action::APPEND_TO_BACK) {
+    IdleAction& pushed = actions.pushAction<IdleAction>(priority, mode);
+    pushed.init(name);
+    return pushed;
   }
+  ProbeAction& pushProbe(unsigned int priority = 100) {
+    return static_cast<ProbeAction&>(
+        actions.insertAction(std::make_unique<ProbeAction>(), priority, action::APPEND_TO_BACK));
+  }
+  std::string plan() const {
+    std::string names;
+    for (const qsf::Action* entry : actions.getPlan().getActions())
+      names += entry->getTypeName();
+    return names;
+  }
+  ActionComponent& actions = *makeEntity(100).getOrCreateComponent<ActionComponent>();
 };
 
 TEST_F(ActionComponentTest, AnEmptyPlanHasNoActionAndPriorityZero) {
@@ -53,21 +58,52 @@ TEST_F(ActionComponentTest, AnEmptyPlanHasNoActionAndPriorityZero) {
   EXPECT_EQ(0u, actions.getCurrentPriority());
 }
 
-TEST_F(ActionComponentTest, InsertionModesAndPrioritiesOrderThePlan) {
+TEST_F(ActionComponentTest, AppendedActionsKeepTheOrderOfTheirInsertionWhateverTheirPriority) {
+  push("A", 100);
+  push("B", 300);
+  push("C", 200);
+  EXPECT_EQ("ABC", plan());
+  EXPECT_EQ(100u, actions.getCurrentPriority());
+}
+
+TEST_F(ActionComponentTest, InsertedAtTheFrontAnActionOvertakesAllButACurrentOneOfAtLeastItsPriority) {
+  push("A", 100);
+  push("B", 50);
+  push("C", 100, action::INSERT_AT_FRONT);
+  EXPECT_EQ("ACB", plan());
+  push("D", 10, action::INSERT_AT_FRONT);
+  EXPECT_EQ("ADCB", plan());
+  push("E", 101, action::INSERT_AT_FRONT);
+  EXPECT_EQ("EADCB", plan());
+}
+
+TEST_F(ActionComponentTest, InsertedBeforeTheCurrentOneAnActionOvertakesWhateverItsPriority) {
+  push("A", 100);
+  push("B", 1, action::INSERT_BEFORE_CURRENT);
+  EXPECT_EQ("BA", plan());
+}
+
+TEST_F(ActionComponentTest, ReplacingLeavesTheNewActionAlone) {
   push("A", 100);
   push("B", 100);
-  EXPECT_EQ("AB", plan());
-  push("C", 200);
-  EXPECT_EQ("CAB", plan());
-  push("D", 100, action::INSERT_AT_FRONT);
-  EXPECT_EQ("CDAB", plan());
-  push("E", 10, action::INSERT_BEFORE_CURRENT);
-  EXPECT_EQ("ECDAB", plan());
-  push("F", 50, action::INSERT_AT_FRONT);
-  EXPECT_EQ("FECDAB", plan());
-  push("G", 1, action::REPLACE_WHOLE_PLAN);
-  EXPECT_EQ("G", plan());
+  push("C", 1, action::REPLACE_WHOLE_PLAN);
+  EXPECT_EQ("C", plan());
   EXPECT_EQ(1u, actions.getCurrentPriority());
+}
+
+TEST_F(ActionComponentTest, AnActionInAnEmptyPlanIsTheCurrentOneAtOnce) {
+  const qsf::Action& first = push("A", 100, action::INSERT_AT_FRONT);
+  EXPECT_EQ(&first, actions.getCurrentAction());
+  push("B", 100, action::INSERT_AT_FRONT);
+  EXPECT_EQ(&first, actions.getCurrentAction());
+}
+
+TEST_F(ActionComponentTest, AChangedPriorityCountsForComparisonsAndMovesNothing) {
+  qsf::Action& current = push("A", 100);
+  push("B", 150);
+  current.setPriority(200);
+  push("C", 200, action::INSERT_AT_FRONT);
+  EXPECT_EQ("ACB", plan());
 }
 
 TEST_F(ActionComponentTest, WaitsRunOneAfterTheOther) {
@@ -82,21 +118,56 @@ TEST_F(ActionComponentTest, WaitsRunOneAfterTheOther) {
 }
 
 TEST_F(ActionComponentTest, ActionsAreMadeByTheHashOfTheirName) {
-  qsf::Action* made = actions.pushActionById("qsf::WaitAction", 5);
-  ASSERT_NE(nullptr, made);
-  EXPECT_EQ(WaitAction::ACTION_ID, made->getTypeId());
-  EXPECT_EQ("qsf::WaitAction", made->getTypeName());
-  EXPECT_EQ(100u, made->getEntityId());
-  EXPECT_EQ(nullptr, actions.pushActionById("qsf::NoSuchAction"));
-  EXPECT_EQ(nullptr, actions.pushActionById("qsf::LinkComponent"));
+  const qsf::Action& made = actions.pushActionById("qsf::WaitAction", 5);
+  EXPECT_EQ(WaitAction::ACTION_ID, made.getTypeId());
+  EXPECT_EQ("qsf::WaitAction", made.getTypeName());
+  EXPECT_EQ(5u, made.getPriority());
+  EXPECT_EQ(100u, made.getEntityId());
+}
+
+TEST_F(ActionComponentTest, AnUnknownActionIsLoggedAndThrownAndLeavesThePlanAlone) {
+  host.getStringHashManager().registerStringHash("my::NoSuchAction", "my::NoSuchAction");
+  push("A", 100);
+  EXPECT_THROW(actions.pushActionById("my::NoSuchAction", 100, action::REPLACE_WHOLE_PLAN), std::runtime_error);
+  EXPECT_EQ("A", plan());
+  EXPECT_EQ(std::vector<std::string>{"ActionComponent::PushAction() Can't create action: \"my::NoSuchAction\""}, log);
+}
+
+TEST_F(ActionComponentTest, AClassThatIsNoActionCannotBeOne) {
+  EXPECT_EQ(nullptr, actions.createActionById("qsf::LinkComponent"));
+  EXPECT_EQ(nullptr, actions.createActionById("qsf::logic::TargetPointProvider"));
+  EXPECT_TRUE(log.empty());
+}
+
+TEST_F(ActionComponentTest, AWaitTellsItsTime) {
+  auto& wait = actions.pushAction<WaitAction>();
+  wait.init(qsf::Time::fromSeconds(2.5));
+  EXPECT_EQ((action::Description{{"time", "2.5"}}), wait.describe());
+}
+
+TEST_F(ActionComponentTest, AnInterruptedWaitBeginsAnew) {
+  actions.pushAction<WaitAction>().init(qsf::Time::fromSeconds(1));
+  runSeconds(0.9);
+  actions.pushAction<WaitAction>(1, action::INSERT_BEFORE_CURRENT).init(qsf::Time::fromSeconds(0.5));
+  runSeconds(0.5);
+  EXPECT_EQ(1u, actions.getPlan().getActions().size());
+  runSeconds(0.95);
+  EXPECT_EQ(1u, actions.getPlan().getActions().size());
+  runSeconds(0.05);
+  EXPECT_TRUE(actions.getPlan().isEmpty());
+}
+
+TEST_F(ActionComponentTest, AnEndlessWaitNeverEnds) {
+  actions.pushAction<WaitAction>().init(qsf::Time::fromSeconds(std::numeric_limits<double>::infinity()));
+  runSeconds(10);
   EXPECT_EQ(1u, actions.getPlan().getActions().size());
 }
 
-TEST_F(ActionComponentTest, AnOvertakenActionStopsAndStartsAnew) {
-  const auto& probe = actions.pushAction<ProbeAction>(100);
+TEST_F(ActionComponentTest, AnInterruptedActionStopsAndStartsAnew) {
+  const ProbeAction& probe = pushProbe(100);
   runSeconds(0.1);
   EXPECT_EQ(1, *probe.starts);
-  qsf::Action& other = push("B", 200);
+  const qsf::Action& other = push("B", 200, action::INSERT_AT_FRONT);
   EXPECT_EQ(1, *probe.stops);
   runSeconds(0.1);
   EXPECT_EQ(1, *probe.starts);
@@ -105,9 +176,25 @@ TEST_F(ActionComponentTest, AnOvertakenActionStopsAndStartsAnew) {
   EXPECT_EQ(2, *probe.starts);
 }
 
+TEST_F(ActionComponentTest, AppendingDoesNotInterrupt) {
+  const ProbeAction& probe = pushProbe(100);
+  runSeconds(0.1);
+  push("B", 1000);
+  runSeconds(0.1);
+  EXPECT_EQ(0, *probe.stops);
+  EXPECT_EQ(1, *probe.starts);
+}
+
+TEST_F(ActionComponentTest, AnActionThatHasNotBegunIsNotShutDown) {
+  const std::shared_ptr<int> stops = pushProbe(100).stops;
+  actions.clearPlan();
+  runSeconds(0.1);
+  EXPECT_EQ(0, *stops);
+}
+
 TEST_F(ActionComponentTest, WhatDoesNotStartOrThrowsIsDropped) {
-  actions.pushAction<ProbeAction>().starting = false;
-  actions.pushAction<ProbeAction>().body = []() -> action::Result { throw std::runtime_error("out of range"); };
+  pushProbe().starting = false;
+  pushProbe().body = []() -> action::Result { throw std::runtime_error("out of range"); };
   push("A", 100);
   runSeconds(0.1);
   EXPECT_EQ("A", plan());
@@ -115,9 +202,48 @@ TEST_F(ActionComponentTest, WhatDoesNotStartOrThrowsIsDropped) {
   EXPECT_NE(std::string::npos, log[0].find("out of range"));
 }
 
+TEST_F(ActionComponentTest, AnActionThatRemovesItselfWhileItStartsIsShutDownAgain) {
+  ProbeAction& probe = pushProbe();
+  const std::shared_ptr<int> stops = probe.stops;
+  probe.atStart = [this] { actions.clearPlan(); };
+  probe.body = []() -> action::Result { throw std::logic_error("it is not in the plan any more"); };
+  runSeconds(0.1);
+  EXPECT_EQ(1, *stops);
+  EXPECT_TRUE(log.empty());
+}
+
+TEST_F(ActionComponentTest, AnActionThatIsInterruptedWhileItStartsIsShutDownAndComesAgain) {
+  ProbeAction& probe = pushProbe();
+  probe.atStart = [&] {
+    if (*probe.starts == 1) actions.pushAction<WaitAction>(1, action::INSERT_BEFORE_CURRENT);
+  };
+  runSeconds(0.05);
+  EXPECT_EQ(1, *probe.stops);
+  EXPECT_EQ("qsf::WaitActionP", plan());
+  runSeconds(0.1);
+  EXPECT_EQ(2, *probe.starts);
+  EXPECT_EQ("P", plan());
+}
+
+TEST_F(ActionComponentTest, RemovedActionsAreFreedEvenInAPausedSimulation) {
+  host.getJobManagers().setPaused(true);
+  const std::size_t before = qsf::Action::getNumberOfLiving();
+  for (int i = 0; i < 50; ++i) {
+    push("A", 100);
+    actions.clearPlan();
+    runSeconds(0.05);
+  }
+  EXPECT_LE(qsf::Action::getNumberOfLiving(), before + 1);
+}
+
+TEST_F(ActionComponentTest, ARemovedActionLivesUntilTheFrameEnds) {
+  const qsf::Action& removed = push("A", 100);
+  actions.removeAction(&removed);
+  EXPECT_EQ("A", removed.getTypeName());
+}
+
 TEST_F(ActionComponentTest, AnActionMayChangeItsPlanFromInside) {
-  auto& probe = actions.pushAction<ProbeAction>();
-  probe.body = [this] {
+  pushProbe().body = [this] {
     actions.clearPlan();
     push("A", 100);
     return action::RESULT_DONE;
@@ -127,7 +253,7 @@ TEST_F(ActionComponentTest, AnActionMayChangeItsPlanFromInside) {
 }
 
 TEST_F(ActionComponentTest, AnActionMayDestroyItsOwnEntity) {
-  actions.pushAction<ProbeAction>().body = [this] {
+  pushProbe().body = [this] {
     map.destroyObjectById(100);
     return action::RESULT_CONTINUE;
   };
@@ -136,7 +262,7 @@ TEST_F(ActionComponentTest, AnActionMayDestroyItsOwnEntity) {
 }
 
 TEST_F(ActionComponentTest, AnActionMayDestroyItsOwnComponent) {
-  actions.pushAction<ProbeAction>().body = [this] {
+  pushProbe().body = [this] {
     map.getEntityById(100)->destroyComponentById(ActionComponent::COMPONENT_ID);
     return action::RESULT_DONE;
   };

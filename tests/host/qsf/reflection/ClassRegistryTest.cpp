@@ -21,10 +21,16 @@ class Second : public qsf::Object {
 public:
   static void declareCamp() { camp::Class::declare<Second>("registryTest::Second"); }
 };
+class Derived : public First {
+  CAMP_RTTI()
+public:
+  static void declareCamp() { camp::Class::declare<Derived>("registryTest::Derived").base<First>().constructor0(); }
+};
 
 }
 CAMP_TYPE_NONCOPYABLE(registryTest::First)
 CAMP_TYPE_NONCOPYABLE(registryTest::Second)
+CAMP_TYPE_NONCOPYABLE(registryTest::Derived)
 
 namespace {
 
@@ -64,6 +70,35 @@ TEST(ClassRegistry, FindsAddedClassesByTheHashOfTheirName) {
   EXPECT_EQ(ClassRegistry::findClass("registryTest::First"), first);
   ClassRegistry::removeClass(*first);
   EXPECT_EQ(ClassRegistry::getClasses().size(), before);
+}
+
+TEST(ClassRegistry, AClassMayHaveOtherNamesWhichGoWithIt) {
+  const std::size_t before = ClassRegistry::getClasses().size();
+  ClassRegistry::declareOnce<registryTest::First>();
+  ClassRegistry::declareOnce<registryTest::Second>();
+  const camp::Class& first = camp::classByType<registryTest::First>();
+  const camp::Class& second = camp::classByType<registryTest::Second>();
+  ClassRegistry::addOtherName(first, "registryTest::Nickname");
+  ClassRegistry::addOtherName(second, "registryTest::Nickname"); // taken
+  EXPECT_EQ(&first, ClassRegistry::findClass("registryTest::Nickname"));
+  EXPECT_EQ(before + 2, ClassRegistry::getClasses().size());
+  ClassRegistry::removeClass(first);
+  EXPECT_EQ(nullptr, ClassRegistry::findClass("registryTest::Nickname"));
+  ClassRegistry::removeClass(second);
+}
+
+TEST(ClassRegistry, MakesObjectsOfAClassThatFitsTheBase) {
+  ClassRegistry::declareOnce<registryTest::First>();
+  ClassRegistry::declareOnce<registryTest::Second>();
+  ClassRegistry::declareOnce<registryTest::Derived>();
+  const auto made = ClassRegistry::createObject<registryTest::First>("registryTest::Derived");
+  ASSERT_NE(nullptr, made);
+  EXPECT_EQ("registryTest::Derived", made->getCampClass().name());
+  EXPECT_EQ(nullptr, ClassRegistry::createObject<registryTest::Second>("registryTest::Derived"));
+  EXPECT_EQ(nullptr, ClassRegistry::createObject<registryTest::First>("registryTest::First")); // has no constructor
+  EXPECT_EQ(nullptr, ClassRegistry::createObject<registryTest::First>("registryTest::None"));
+  for (const char* name : {"registryTest::First", "registryTest::Second", "registryTest::Derived"})
+    ClassRegistry::removeClass(*ClassRegistry::findClass(name));
 }
 
 }
