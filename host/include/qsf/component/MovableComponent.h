@@ -44,6 +44,9 @@ public:
   /// Units a second; below 0 counts as 0.
   float getSpeed() const { return mSpeed; }
   void setSpeed(float speed);
+  /// Multiplies the speed of moves from now on, for whoever steers them; 1 at first. Below 0 counts as 0.
+  float getSpeedFactor() const { return mSpeedFactor; }
+  void setSpeedFactor(float factor) { mSpeedFactor = factor > 0 ? factor : 0; }
   /// Degrees a second; below 0 counts as 0.
   float getTurnSpeed() const { return mTurnSpeed; }
   void setTurnSpeed(float degreesPerSecond);
@@ -69,6 +72,7 @@ private:
   glm::quat mAngularVelocity{1, 0, 0, 0};
   float mAngularVelocitySpan = 1.0f;
   float mSpeed = DEFAULT_SPEED;
+  float mSpeedFactor = 1.0f;
   float mTurnSpeed = DEFAULT_TURN_SPEED;
   bool mMoving = false;
   bool mTurning = false;

@@ -16,6 +16,8 @@ public:
   glm::quat getRotation() const;
   /// Null if the entity isn't linked below another one.
   Entity* getParent() const;
+  /// Whether it is that entity or is linked below it, at whatever depth: then it moves and turns along with it.
+  bool movesAlongWith(const Entity& other) const;
 
 private:
   Entity& mEntity;

@@ -3,6 +3,7 @@
 #include "qsf/base/StringHash.h"
 #include "qsf/map/Entity.h"
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -39,6 +40,9 @@ public:
   /// The entity is gone for every look-up at once; its memory is released at the end of the frame, so the caller may be
   /// one of its own components. Unlinks parent and children. An unknown id does nothing.
   void destroyObjectById(std::uint64_t id);
+  /// Called for each entity that comes to be while the map is started, when it is complete; one without a prefab as yet
+  /// without components.
+  void setSpawnListener(std::function<void(Entity&)> listener) { mSpawnListener = std::move(listener); }
   /// All living entities by ascending id.
   std::vector<Entity*> getEntities() const;
   std::size_t getNumberOfEntities() const { return mEntities.size(); }
@@ -82,6 +86,9 @@ private:
   friend class LayerManager;
   friend class MapReader;
   bool isIdTaken(std::uint64_t id) const;
+  Entity* makeEntity(std::uint64_t id);
+  std::uint64_t findFreeId() const;
+  void tellSpawn(Entity* entity) const;
   /// Shut down, unlinked and out of every index; null if there is no such entity.
   std::unique_ptr<Entity> takeOffMap(std::uint64_t id);
   void putOnMap(std::unique_ptr<Entity> entity);
@@ -92,6 +99,7 @@ private:
   std::vector<std::unique_ptr<Entity>> mDestroyed;
   std::string mLocalAssetName;
   Bounds mBounds{-1000, -1000, 1000, 1000};
+  std::function<void(Entity&)> mSpawnListener;
   std::uint64_t mNextId = 2;
   std::uint32_t mGlobalAssetId = UNINITIALIZED_STRING_HASH;
   bool mStarted = false;

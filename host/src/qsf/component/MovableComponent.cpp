@@ -130,7 +130,7 @@ void MovableComponent::update(const JobArguments& arguments) {
 glm::vec3 MovableComponent::advancePosition(const glm::vec3& position, float seconds) {
   const glm::vec3 way = mTargetPosition - position;
   const float distance = glm::length(way);
-  const float step = mSpeed * seconds;
+  const float step = mSpeed * mSpeedFactor * seconds;
   // The tolerance keeps a move of a whole number of steps from needing one more for what rounding left over. A place
   // that isn't finite has no way to anywhere and is left at once.
   constexpr float TOLERANCE = 1e-3f;

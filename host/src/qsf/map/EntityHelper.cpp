@@ -15,6 +15,15 @@ glm::quat EntityHelper::getRotation() const {
   return transform ? transform->getRotation() : glm::quat(1, 0, 0, 0);
 }
 
+bool EntityHelper::movesAlongWith(const Entity& other) const {
+  for (const Entity* link = &mEntity; link;) {
+    if (link == &other) return true;
+    const auto* component = link->getComponent<LinkComponent>();
+    link = component && component->getParentLink() ? &component->getParentLink()->getEntity() : nullptr;
+  }
+  return false;
+}
+
 Entity* EntityHelper::getParent() const {
   const auto* link = mEntity.getComponent<LinkComponent>();
   return link && link->getParentLink() ? &link->getParentLink()->getEntity() : nullptr;

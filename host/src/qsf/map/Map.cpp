@@ -38,7 +38,7 @@ Entity* Map::getEntityById(std::uint64_t id) const {
   return found == mEntitiesById.end() ? nullptr : found->second;
 }
 
-Entity* Map::createEntity(std::uint64_t id) {
+Entity* Map::makeEntity(std::uint64_t id) {
   // Ids from the next one on were never used, so that the search is left to those that a map or a script names.
   if (id == UNINITIALIZED_ID || (id < mNextId && isIdTaken(id))) return nullptr;
   if (id >= mNextId) mNextId = id + 1;
@@ -50,13 +50,25 @@ Entity* Map::createEntity(std::uint64_t id) {
   return &made;
 }
 
-Entity* Map::createEntity() {
+std::uint64_t Map::findFreeId() const {
   std::uint64_t id = mNextId;
   if (id == UNINITIALIZED_ID) // the highest id is in use, so a gap has to serve
     for (id = 2; isIdTaken(id);)
       ++id;
-  return createEntity(id);
+  return id;
 }
+
+void Map::tellSpawn(Entity* entity) const {
+  if (entity && mStarted && mSpawnListener) mSpawnListener(*entity);
+}
+
+Entity* Map::createEntity(std::uint64_t id) {
+  Entity* entity = makeEntity(id);
+  tellSpawn(entity);
+  return entity;
+}
+
+Entity* Map::createEntity() { return createEntity(findFreeId()); }
 
 bool Map::isIdTaken(std::uint64_t id) const {
   if (mEntitiesById.contains(id)) return true;
@@ -102,7 +114,7 @@ std::vector<Entity*> Map::getEntities() const {
 }
 
 Entity* Map::createObjectFromPrefab(const Prefab& prefab, std::uint64_t id) {
-  Entity* entity = id == UNINITIALIZED_ID ? createEntity() : createEntity(id);
+  Entity* entity = makeEntity(id == UNINITIALIZED_ID ? findFreeId() : id);
   if (!entity) return nullptr;
   entity->getOrCreateComponentById(TransformComponent::COMPONENT_ID, false);
   auto* metadata =
@@ -110,6 +122,7 @@ Entity* Map::createObjectFromPrefab(const Prefab& prefab, std::uint64_t id) {
   prefab.copyComponentsTo(*entity);
   metadata->setBasePrefab(StringHash(prefab.getLocalAssetName()));
   if (mStarted) startComponents(*entity);
+  tellSpawn(entity);
   return entity;
 }
 
