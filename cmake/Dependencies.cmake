@@ -10,6 +10,7 @@ find_package(utf8cpp REQUIRED)
 find_package(box2d REQUIRED)
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(BULLET REQUIRED IMPORTED_TARGET bullet)
+pkg_check_modules(VORBISFILE REQUIRED IMPORTED_TARGET vorbisfile)
 find_library(CAMP_LIBRARY camp REQUIRED)
 
 add_library(tidemark_camp INTERFACE)

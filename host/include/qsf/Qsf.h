@@ -18,6 +18,7 @@ class LocalizationSystem;
 class LayerManager;
 class CallRecorder;
 class FaultCounter;
+class AudioSystem;
 
 /// The root of the runtime: owns the systems and hands them out. One lives at a time; the program that hosts the game
 /// makes and destroys it. Systems are made in the constructor and live as long as it does.
@@ -43,6 +44,7 @@ public:
   InputSystem& getInputSystem() const;
   LocalizationSystem& getLocalizationSystem() const;
   LayerManager& getLayerManager() const;
+  AudioSystem& getAudioSystem() const;
   /// Operations that leave no trace in a component are noted here, for tests and tools.
   CallRecorder& getCallRecorder() const;
   /// Faults that were caught in callbacks since the host's start.

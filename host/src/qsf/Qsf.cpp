@@ -1,6 +1,7 @@
 #include "qsf/Qsf.h"
 
 #include "qsf/asset/Project.h"
+#include "qsf/audio/AudioSystem.h"
 #include "qsf/base/CallRecorder.h"
 #include "qsf/base/Random.h"
 #include "qsf/base/StringHashManager.h"
@@ -49,7 +50,7 @@ private:
 /// below if it isn't a qsf::UniqueInstanceTarget.
 struct Qsf::Systems : SystemList<LogSystem, FaultCounter, StringHashManager, CallRecorder, MessageSystem, JobManagers,
                                  ProjectManager, PrototypeManager, LocalizationSystem, InputSystem, WindowApplication,
-                                 LayerManager, Map, PluginSystem> {};
+                                 LayerManager, AudioSystem, Map, PluginSystem> {};
 
 Qsf::Qsf() : mSystems(std::make_unique<Systems>()) {
   assert(!sInstance);
@@ -83,6 +84,7 @@ InputSystem& Qsf::getInputSystem() const { return mSystems->get<InputSystem>(); 
 LocalizationSystem& Qsf::getLocalizationSystem() const { return mSystems->get<LocalizationSystem>(); }
 LayerManager& Qsf::getLayerManager() const { return mSystems->get<LayerManager>(); }
 CallRecorder& Qsf::getCallRecorder() const { return mSystems->get<CallRecorder>(); }
+AudioSystem& Qsf::getAudioSystem() const { return mSystems->get<AudioSystem>(); }
 FaultCounter& Qsf::getFaultCounter() const { return mSystems->get<FaultCounter>(); }
 
 Map& getMainMap() { return Qsf::instance()->getMainMap(); }
