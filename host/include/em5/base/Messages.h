@@ -8,11 +8,20 @@
 /// - EM5_PRE_COMMAND_EXECUTE: filter 1 command id, filter 2 caller, filter 3 target; parameter "context" a
 ///   `const em5::CommandContext*`. A response of RESPONSE_BLOCK forbids the command.
 /// - EM5_CHANGE_SELECTION: the player's selection, or what is shown of it, is another.
+/// - EM5_SPAWN_ENTITY: filter 1 an entity that has come to be in a running game; the map's own ones are not told.
+/// - EM5_ACTION_ENTER_VEHICLE: filter 1 a person, filter 2 the vehicle that it is in now.
+/// - EM5_ACTION_GET_EQUIPMENT: filter 1 a person, filter 2 the equipment that it holds now.
+/// - EM5_ACTION_SPEAK_TO_PERSON: filter 1 and parameter "PolicemanId" who has spoken, filter 2 and parameter "PersonId"
+///   to whom; both parameters are std::uint64_t.
 #define EM5_MESSAGES(MESSAGE)                                                                                          \
   MESSAGE(GAME_STARTUP_FINISHED)                                                                                       \
   MESSAGE(GAME_SHUTDOWN_STARTING)                                                                                      \
   MESSAGE(EM5_PRE_COMMAND_EXECUTE)                                                                                     \
-  MESSAGE(EM5_CHANGE_SELECTION)
+  MESSAGE(EM5_CHANGE_SELECTION)                                                                                        \
+  MESSAGE(EM5_SPAWN_ENTITY)                                                                                            \
+  MESSAGE(EM5_ACTION_ENTER_VEHICLE)                                                                                    \
+  MESSAGE(EM5_ACTION_GET_EQUIPMENT)                                                                                    \
+  MESSAGE(EM5_ACTION_SPEAK_TO_PERSON)
 
 namespace em5 {
 

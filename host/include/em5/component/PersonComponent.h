@@ -5,7 +5,8 @@
 namespace em5 {
 
 /// A person. Properties "EquipmentId" (the entity held as active equipment), "ContainerId" (the vehicle or building
-/// that the person is in), "Gangster", "Drunken".
+/// that the person is in), "Gangster", "Drunken", "Masked" (wears its breathing
+/// mask and suit).
 class QSF_API PersonComponent : public qsf::Component {
   CAMP_RTTI()
 public:
@@ -25,12 +26,15 @@ public:
   void setGangsterFlag(bool gangster) { mGangster = gangster; }
   bool isDrunken() const { return mDrunken; }
   void setDrunken(bool drunken) { mDrunken = drunken; }
+  bool isMasked() const { return mMasked; }
+  void setMasked(bool masked) { mMasked = masked; }
 
 private:
   std::uint64_t mEquipmentId = qsf::UNINITIALIZED_ID;
   std::uint64_t mContainerId = qsf::UNINITIALIZED_ID;
   bool mGangster = false;
   bool mDrunken = false;
+  bool mMasked = false;
 };
 
 }

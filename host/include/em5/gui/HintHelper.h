@@ -7,8 +7,8 @@
 
 namespace em5 {
 
-/// Hints that the player reads. Each is noted in the call recorder with its text, the supervisor's number and the
-/// seconds.
+/// Hints and the supervisor's messages, which the player reads. Each is noted in the call recorder: a hint with its
+/// text, the supervisor's number and the seconds, a message with its text and whether it is only heard.
 class QSF_API HintHelper {
 public:
   struct Hint {
@@ -22,9 +22,22 @@ public:
   /// Hints on the screen, oldest first.
   static const std::deque<Hint>& getCurrentHints();
 
-  /// For the host: lets real time pass for the hints.
+  struct SupervisorMessage {
+    std::string text;
+    bool audioOnly;
+    qsf::Time displayTime; ///< left until it goes
+  };
+  /// Stays up as a hint of 10 seconds does.
+  static void showSupervisorMessage(const std::string& text, bool audioOnly = false);
+  /// Messages that are up, oldest first.
+  static const std::deque<SupervisorMessage>& getCurrentSupervisorMessages();
+
+  /// One of the text ids of a list with commas, drawn from the game's random source; a single one is drawn without it.
+  static std::string getRandomStringOfIdString(const std::string& idString);
+
+  /// For the host: lets real time pass for both.
   static void update(qsf::Time timePassed);
-  /// For the host: takes all hints off, at a game's end.
+  /// For the host: takes all off, at a game's end.
   static void clear();
 };
 

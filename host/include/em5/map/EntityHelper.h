@@ -3,6 +3,7 @@
 #include "qsf/map/EntityHelper.h"
 
 #include <cstdint>
+#include <string>
 
 namespace em5 {
 
@@ -43,6 +44,10 @@ public:
   const OrderInfo* getOrderInfo() const;
   /// Null if the person holds none, or if what it held is gone.
   qsf::Entity* getActiveEquipmentEntity() const;
+
+  /// The nearest road vehicle of this unit's player that has equipment of that name on board, is in a valid state and
+  /// within the map; the first of equally near ones. Null if there is none or this is no player's unit.
+  qsf::Entity* getReachableRoadVehicleWithEquipment(const std::string& equipmentName) const;
 
   /// Makes the entity burn, if it can.
   bool startFire() const;

@@ -26,7 +26,8 @@ class QSF_API AssetProxy {
 public:
   AssetProxy() = default;
   explicit AssetProxy(StringHash localAssetId) : mId(localAssetId) {}
-  explicit AssetProxy(const std::string& localAssetName) : mId(localAssetName) {}
+  /// The running host remembers the name of the id, so that it can be told where the asset doesn't exist.
+  explicit AssetProxy(const std::string& localAssetName);
 
   /// Null if no mounted project has it.
   const BaseAsset* getAsset() const;

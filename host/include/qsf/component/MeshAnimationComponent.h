@@ -36,12 +36,15 @@ private:
 
 /// Plays an entity's animations, one at a time: a new one takes the place of the one before. An animation lasts as long
 /// as "length" in its asset's JSON file says, in seconds of simulated time; without that, a second. Property
-/// "Animation": the local asset name of what plays, empty when nothing does; setting it plays that animation once.
+/// "Animation": the local asset name of what plays, empty when nothing does; setting it plays that animation once. The
+/// play operations are noted in the call recorder.
 class QSF_API MeshAnimationComponent : public Component {
   CAMP_RTTI()
 public:
   static constexpr StringHash COMPONENT_ID{"qsf::MeshAnimationComponent"};
   explicit MeshAnimationComponent(Prototype* prototype) : Component(prototype) {}
+  /// What plays ends with the component.
+  ~MeshAnimationComponent() override;
   static void declareCamp();
 
   /// Null, and what plays goes on, if the asset doesn't exist. A speed of 0 or less, or one that isn't a number, counts
@@ -65,6 +68,8 @@ protected:
 private:
   std::string getAnimationName() const;
   void setAnimationName(const std::string& name);
+  std::shared_ptr<MeshAnimationChannel> startAnimation(const AssetProxy& animation, bool looped, bool reverse,
+                                                       float speed);
   void updateRegistration();
   void update(const JobArguments& arguments);
 

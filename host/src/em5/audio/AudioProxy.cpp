@@ -1,13 +1,15 @@
 #include "em5/audio/AudioProxy.h"
 
-#include "qsf/Qsf.h"
-#include "qsf/base/CallRecorder.h"
+#include "qsf/base/RecordedOperation.h"
 
 namespace em5 {
 
-void AudioProxy::synchronizeWithMultiplay(bool value) {
-  if (const qsf::Qsf* host = qsf::Qsf::instance())
-    host->getCallRecorder().record("em5::AudioProxy::synchronizeWithMultiplay", {value ? "1" : "0"});
+namespace {
+
+const qsf::RecordedOperation synchronizeCall{"em5::AudioProxy::synchronizeWithMultiplay", "`0` or `1`"};
+
 }
+
+void AudioProxy::synchronizeWithMultiplay(bool value) { synchronizeCall.record({value ? "1" : "0"}); }
 
 }

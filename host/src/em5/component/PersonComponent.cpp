@@ -16,7 +16,8 @@ void PersonComponent::declareCamp() {
       .property("ContainerId", &PersonComponent::getContainerId, &PersonComponent::setContainerId)
       .tag(qsf::UNSIGNED_TAG)
       .property("Gangster", &PersonComponent::isGangster, &PersonComponent::setGangsterFlag)
-      .property("Drunken", &PersonComponent::isDrunken, &PersonComponent::setDrunken);
+      .property("Drunken", &PersonComponent::isDrunken, &PersonComponent::setDrunken)
+      .property("Masked", &PersonComponent::isMasked, &PersonComponent::setMasked);
 }
 
 }

@@ -13,6 +13,7 @@
 #include "em5/settings/GameSettingsGroup.h"
 #include "qsf/Qsf.h"
 #include "qsf/asset/Project.h"
+#include "qsf/audio/AudioSystem.h"
 #include "qsf/base/Random.h"
 #include "qsf/editor/EditorApplication.h"
 #include "qsf/input/InputSystem.h"
@@ -130,6 +131,7 @@ void HostSession::Internals::renewGame() {
 void HostSession::Internals::dropGame() {
   // The map goes first: its components may ask for the game until they are gone.
   qsf.getMainMap().clear();
+  qsf.getAudioSystem().getAudioManager().stopAll();
   renewGame();
 }
 
@@ -178,6 +180,11 @@ HostSession::HostSession(const Options& options) {
   internals.qsf.getLocalizationSystem().setLanguage(options.language, true); // texts come with the projects
   internals.application.getGameSessionConfiguration().setGameModeType(options.gameMode);
   internals.settingsGroup.setSavedAccountname(options.account);
+  internals.qsf.getMainMap().setSpawnListener([&internals](const qsf::Entity& entity) {
+    if (internals.gameRunning && internals.isGame())
+      internals.qsf.getMessageSystem().emitMessage(
+          qsf::MessageConfiguration(Messages::EM5_SPAWN_ENTITY, entity.getId()));
+  });
 }
 
 HostSession::~HostSession() {

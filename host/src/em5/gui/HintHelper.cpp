@@ -1,8 +1,10 @@
 #include "em5/gui/HintHelper.h"
 
+#include "qsf/base/Random.h"
 #include "qsf/base/RecordedOperation.h"
 
-#include <algorithm>
+#include <boost/algorithm/string.hpp>
+
 #include <sstream>
 
 namespace em5 {
@@ -11,6 +13,8 @@ namespace {
 
 const qsf::RecordedOperation showHintCall{"em5::HintHelper::showHint",
                                           "text, number of the supervisor (4294967295: none), seconds as given"};
+const qsf::RecordedOperation showSupervisorMessageCall{"em5::HintHelper::showSupervisorMessage",
+                                                       "text, `1` if it is only heard"};
 
 constexpr std::size_t MAXIMUM_HINTS = 50;
 const qsf::Time DEFAULT_DISPLAY_TIME = qsf::Time::fromMicroseconds(10'000'000);
@@ -20,30 +24,68 @@ std::deque<HintHelper::Hint>& hints() {
   return current;
 }
 
+std::deque<HintHelper::SupervisorMessage>& supervisorMessages() {
+  static std::deque<HintHelper::SupervisorMessage> current;
+  return current;
+}
+
 std::string secondsToText(qsf::Time time) {
   std::ostringstream text;
   text << time.getSecondsAsDouble();
   return text.str();
 }
 
+bool isTextId(const std::string& text) {
+  return !text.empty() && text.find_first_not_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_") == std::string::npos;
+}
+
+template <class Entry> void add(std::deque<Entry>& entries, Entry entry) {
+  entries.push_back(std::move(entry));
+  if (entries.size() > MAXIMUM_HINTS) entries.pop_front();
+}
+
+template <class Entry> void letPass(std::deque<Entry>& entries, qsf::Time timePassed) {
+  for (Entry& entry : entries)
+    entry.displayTime -= timePassed;
+  std::erase_if(entries, [](const Entry& entry) { return entry.displayTime <= qsf::Time(); });
+}
+
 }
 
 void HintHelper::showHint(const std::string& text, std::uint32_t supervisor, qsf::Time displayTime) {
   showHintCall.record({text, std::to_string(supervisor), secondsToText(displayTime)});
-  hints().push_back({text, supervisor, displayTime > qsf::Time() ? displayTime : DEFAULT_DISPLAY_TIME});
-  if (hints().size() > MAXIMUM_HINTS) hints().pop_front();
+  add(hints(), Hint{text, supervisor, displayTime > qsf::Time() ? displayTime : DEFAULT_DISPLAY_TIME});
 }
 
 const std::deque<HintHelper::Hint>& HintHelper::getCurrentHints() { return hints(); }
 
-void HintHelper::update(qsf::Time timePassed) {
-  for (Hint& hint : hints())
-    hint.displayTime -= timePassed;
-  hints().erase(
-      std::remove_if(hints().begin(), hints().end(), [](const Hint& hint) { return hint.displayTime <= qsf::Time(); }),
-      hints().end());
+void HintHelper::showSupervisorMessage(const std::string& text, bool audioOnly) {
+  showSupervisorMessageCall.record({text, audioOnly ? "1" : "0"});
+  add(supervisorMessages(), SupervisorMessage{text, audioOnly, DEFAULT_DISPLAY_TIME});
 }
 
-void HintHelper::clear() { hints().clear(); }
+const std::deque<HintHelper::SupervisorMessage>& HintHelper::getCurrentSupervisorMessages() {
+  return supervisorMessages();
+}
+
+std::string HintHelper::getRandomStringOfIdString(const std::string& idString) {
+  std::vector<std::string> ids;
+  boost::algorithm::split(ids, idString, [](char character) { return character == ','; });
+  for (std::string& id : ids)
+    boost::algorithm::trim(id);
+  // A text that merely holds a comma is no list.
+  if (ids.size() == 1 || !std::all_of(ids.begin(), ids.end(), isTextId)) return idString;
+  return ids[qsf::Random::getRandomUint(0, static_cast<std::uint32_t>(ids.size() - 1))];
+}
+
+void HintHelper::update(qsf::Time timePassed) {
+  letPass(hints(), timePassed);
+  letPass(supervisorMessages(), timePassed);
+}
+
+void HintHelper::clear() {
+  hints().clear();
+  supervisorMessages().clear();
+}
 
 }

@@ -11,7 +11,10 @@
 #include "em5/game/Game.h"
 #include "em5/order/OrderInfoManager.h"
 #include "qsf/component/LinkComponent.h"
+#include "qsf/game/InventoryComponent.h"
 #include "qsf/map/Map.h"
+
+#include <limits>
 
 namespace em5 {
 
@@ -99,6 +102,27 @@ const OrderInfo* EntityHelper::getOrderInfo() const {
 qsf::Entity* EntityHelper::getActiveEquipmentEntity() const {
   const PersonComponent* person = getEntity().getComponent<PersonComponent>();
   return person ? getEntityOnMap(person->getEquipmentId()) : nullptr;
+}
+
+qsf::Entity* EntityHelper::getReachableRoadVehicleWithEquipment(const std::string& equipmentName) const {
+  const CommandableComponent* unit = getEntity().getComponent<CommandableComponent>();
+  if (!unit) return nullptr;
+  qsf::Entity* nearest = nullptr;
+  float nearestDistance = std::numeric_limits<float>::infinity();
+  for (const qsf::Component* component :
+       getEntity().getMap().getComponentInstances(RoadVehicleComponent::COMPONENT_ID)) {
+    qsf::Entity& vehicle = component->getEntity();
+    const EntityHelper helper(vehicle);
+    const auto* commandable = vehicle.getComponent<CommandableComponent>();
+    const auto* inventory = vehicle.getComponent<qsf::game::InventoryComponent>();
+    if (!commandable || commandable->getPlayerId() != unit->getPlayerId() || !inventory) continue;
+    if (!helper.isSquadVehicleInValidState() || !helper.isInMapBoundaries()) continue;
+    const float distance = glm::distance(getPosition(), helper.getPosition());
+    if (distance >= nearestDistance || inventory->findItemByEquipmentName(equipmentName).empty()) continue;
+    nearest = &vehicle;
+    nearestDistance = distance;
+  }
+  return nearest;
 }
 
 bool EntityHelper::startFire() const {

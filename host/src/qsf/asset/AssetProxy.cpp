@@ -2,12 +2,18 @@
 
 #include "qsf/Qsf.h"
 #include "qsf/asset/Project.h"
+#include "qsf/base/StringHashManager.h"
 
 namespace qsf {
 
 std::string BaseAsset::getType() const {
   const std::size_t begin = mLocalName.find('/') + 1;
   return mLocalName.substr(begin, mLocalName.find('/', begin) - begin);
+}
+
+AssetProxy::AssetProxy(const std::string& localAssetName) : mId(localAssetName) {
+  if (const Qsf* host = Qsf::instance(); host && mId.isInitialized())
+    host->getStringHashManager().registerStringHash(mId, localAssetName);
 }
 
 const BaseAsset* AssetProxy::getAsset() const {

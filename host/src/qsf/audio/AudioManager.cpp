@@ -1,7 +1,6 @@
 #include "qsf/audio/AudioManager.h"
 
 #include "VorbisFile.h"
-#include "em5/base/Jobs.h"
 #include "qsf/asset/AssetProxy.h"
 #include "qsf/log/LogSystem.h"
 
@@ -44,8 +43,7 @@ std::shared_ptr<AudioSource> AudioManager::play(const AudioSettings& settings) {
   }
   mSources.push_back(std::make_shared<AudioSource>(settings, buffer));
   if (!mJob.isRegistered())
-    mJob.registerAt(em5::Jobs::SIMULATION_LOGIC,
-                    [this](const JobArguments& arguments) { advance(arguments.getTimePassed()); });
+    mJob.registerInSimulation([this](const JobArguments& arguments) { advance(arguments.getTimePassed()); });
   return mSources.back();
 }
 

@@ -2,7 +2,7 @@
 
 #include "qsf/Qsf.h"
 #include "qsf/audio/AudioSystem.h"
-#include "qsf/base/CallRecorder.h"
+#include "qsf/base/RecordedOperation.h"
 #include "qsf/map/Entity.h"
 #include "qsf/reflection/PropertyText.h"
 
@@ -10,14 +10,14 @@ namespace qsf {
 
 namespace {
 
+const RecordedOperation playCall{"qsf::AudioProxy::play", "source file, loop, spatial, volume, reference distance, "
+                                                          "maximum distance; for a missing file, too"};
+const RecordedOperation stopCall{"qsf::AudioProxy::stop", "source file"};
+const RecordedOperation detachCall{"qsf::AudioProxy::detach", "source file"};
+
 std::string toText(bool value) { return value ? "1" : "0"; }
 
 std::string toText(float value) { return qsf::toText(static_cast<double>(value)); }
-
-void record(const char* operation, std::vector<std::string> arguments) {
-  if (const Qsf* host = Qsf::instance())
-    host->getCallRecorder().record(std::string("qsf::AudioProxy::") + operation, std::move(arguments));
-}
 
 }
 
@@ -26,20 +26,20 @@ void AudioProxy::setContextEntity(const Entity* entity) {
 }
 
 void AudioProxy::play() {
-  record("play", {mSettings.sourceFile, toText(mSettings.loop), toText(mSettings.spatial), toText(mSettings.volume),
-                  toText(mSettings.referenceDistance), toText(mSettings.maximumDistance)});
+  playCall.record({mSettings.sourceFile, toText(mSettings.loop), toText(mSettings.spatial), toText(mSettings.volume),
+                   toText(mSettings.referenceDistance), toText(mSettings.maximumDistance)});
   if (mSource) mSource->stop();
   const Qsf* host = Qsf::instance();
   mSource = host ? host->getAudioSystem().getAudioManager().play(mSettings) : nullptr;
 }
 
 void AudioProxy::stop() {
-  record("stop", {mSettings.sourceFile});
+  stopCall.record({mSettings.sourceFile});
   if (mSource) mSource->stop();
 }
 
 void AudioProxy::detach() {
-  record("detach", {mSettings.sourceFile});
+  detachCall.record({mSettings.sourceFile});
   mSource.reset();
 }
 

@@ -1,14 +1,20 @@
 #include "qsf/component/MeshAnimationComponent.h"
 
 #include "qsf/base/JsonFile.h"
+#include "qsf/base/RecordedOperation.h"
 #include "qsf/log/LogSystem.h"
 #include "qsf/reflection/ClassRegistry.h"
+#include "qsf/reflection/PropertyText.h"
 
 #include <stdexcept>
 
 namespace qsf {
 
 namespace {
+
+const RecordedOperation playAnimationCall{"qsf::MeshAnimationComponent::playAnimation", "asset, loop, reverse, 0"};
+const RecordedOperation blendToAnimationCall{"qsf::MeshAnimationComponent::blendToAnimation",
+                                             "asset, loop, reverse, seconds of blending"};
 
 const Time DEFAULT_LENGTH = Time::fromMicroseconds(1000000);
 
@@ -25,6 +31,12 @@ Time readLength(const BaseAsset& asset) {
     logMessage(LogSystem::WARNING, std::string(fault.what()) + "; the animation is taken to last a second");
     return DEFAULT_LENGTH;
   }
+}
+
+void recordPlay(const RecordedOperation& operation, const AssetProxy& animation, bool looped, bool reverse,
+                Time blendTime) {
+  operation.record({toText(animation.getLocalAssetId()), looped ? "1" : "0", reverse ? "1" : "0",
+                    toText(blendTime.getSecondsAsDouble())});
 }
 
 }
@@ -59,6 +71,10 @@ void MeshAnimationChannel::advance(Time timePassed) {
   mPosition = mDirection == Direction::FORWARD ? base + over : base - over;
 }
 
+MeshAnimationComponent::~MeshAnimationComponent() {
+  if (mChannel) mChannel->stop();
+}
+
 static const DeclaredClass<MeshAnimationComponent> declared;
 
 void MeshAnimationComponent::declareCamp() {
@@ -70,6 +86,12 @@ void MeshAnimationComponent::declareCamp() {
 
 std::shared_ptr<MeshAnimationChannel> MeshAnimationComponent::playAnimation(const AssetProxy& animation, bool looped,
                                                                             bool reverse, float speed) {
+  recordPlay(playAnimationCall, animation, looped, reverse, Time());
+  return startAnimation(animation, looped, reverse, speed);
+}
+
+std::shared_ptr<MeshAnimationChannel> MeshAnimationComponent::startAnimation(const AssetProxy& animation, bool looped,
+                                                                             bool reverse, float speed) {
   const BaseAsset* asset = animation.getAsset();
   if (!asset) return nullptr;
   clearAnimation();
@@ -82,9 +104,10 @@ std::shared_ptr<MeshAnimationChannel> MeshAnimationComponent::playAnimation(cons
 }
 
 std::shared_ptr<MeshAnimationChannel> MeshAnimationComponent::blendToAnimation(const AssetProxy& animation, bool looped,
-                                                                               Time /*blendTime*/, bool reverse,
+                                                                               Time blendTime, bool reverse,
                                                                                float offset, float speed) {
-  std::shared_ptr<MeshAnimationChannel> channel = playAnimation(animation, looped, reverse, speed);
+  recordPlay(blendToAnimationCall, animation, looped, reverse, blendTime);
+  std::shared_ptr<MeshAnimationChannel> channel = startAnimation(animation, looped, reverse, speed);
   if (channel && offset > 0) channel->setOffset(offset);
   return channel;
 }
@@ -112,7 +135,7 @@ std::string MeshAnimationComponent::getAnimationName() const {
 
 void MeshAnimationComponent::setAnimationName(const std::string& name) {
   if (name.empty()) return clearAnimation();
-  if (!playAnimation(AssetProxy(name)))
+  if (!startAnimation(AssetProxy(name), false, false, 1.0f))
     throw std::invalid_argument("no mounted project has an animation \"" + name + "\"");
 }
 

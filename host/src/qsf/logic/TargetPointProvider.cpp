@@ -58,6 +58,8 @@ glm::vec2 placeAtNearestEdge(const glm::vec2& from, const glm::vec2& half, float
 
 }
 
+static const DeclaredClass<TargetPointProvider> declared;
+
 void TargetPointProvider::declareCamp() {
   camp::Class::declare<TargetPointProvider>("qsf::logic::TargetPointProvider").base<Object>().constructor0();
 }
