@@ -15,8 +15,8 @@ namespace {
 /// Reads from a line that has a token of each kind.
 class ParameterReaderTest : public testing::Test {
 protected:
-  const LogCapture log;
-  const RunningHost host;
+  const LogCapture log{};
+  const RunningHost host{};
   const ExecutionScope scope{nullptr};
   ProgramBuilder builder{"test", "", host};
   const Words words{"Name", "text", "12", "1.5", "true", "FALSE", "18446744073709551615", "-3", ""};

@@ -22,6 +22,7 @@
 #include "qsf/log/FaultCounter.h"
 #include "qsf/map/Map.h"
 #include "qsf/reflection/PropertyText.h"
+#include "tests/support/Paths.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck.h>
@@ -41,7 +42,7 @@ class RandomWorld {
 public:
   RandomWorld() {
     em5::addGameLayer(mHost);
-    mHost.getProjectManager().registerSingleProjectFromFileSystem(TIDEMARK_DATA_DIRECTORY "/em5");
+    mHost.getProjectManager().registerSingleProjectFromFileSystem(paths::baseProject());
     mMap.startup();
     std::uint64_t id = FIRST_ID;
     for (const char* prefab : {"firefighter", "civilian", "fire_engine", "helicopter", "marker", "house"})
