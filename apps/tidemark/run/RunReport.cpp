@@ -87,8 +87,10 @@ std::string describeStores(const StoreReport& stores, std::string_view indent) {
   return layOut(std::move(rows), indent);
 }
 
+// A script that was refused for its place in the list has no mode yet.
 std::string describeFate(const FateView& fate) {
-  return fmt::format("\nscript {}{}  {}, {}{}{}\n", fate.project.empty() ? "" : fate.project + "/", fate.key, fate.mode,
+  const std::string mode = fate.mode == "UNKNOWN" ? "" : fate.mode + ", ";
+  return fmt::format("\nscript {}{}  {}{}{}{}\n", fate.project.empty() ? "" : fate.project + "/", fate.key, mode,
                      fate.what, fate.count > 1 ? fmt::format("; {} instances", fate.count) : "",
                      fate.time > qsf::Time::ZERO ? fmt::format("; ran {:.2f} s", fate.time.getSecondsAsDouble()) : "");
 }
