@@ -20,7 +20,7 @@ namespace {
 using tidemark::bench::Results;
 using tidemark::bench::Table;
 
-enum class Load { Idle, Firing };
+enum class Load { IDLE, FIRING };
 
 const qsf::Time TICK = qsf::Time::fromMilliseconds(50);
 
@@ -28,7 +28,7 @@ std::string makeScript(Load load, std::int64_t triggers) {
   std::string text;
   for (std::int64_t i = 0; i < triggers; ++i) {
     fmt::format_to(std::back_inserter(text), "InitNewTrigger(\"T_{0}\",true,true);\nInitConditions();\n", i);
-    if (load == Load::Idle)
+    if (load == Load::IDLE)
       fmt::format_to(std::back_inserter(text),
                      "CompareValues(\"v_{0}\",\"==\",\"1\");\nCompareValues(\"v_{0}\",\"<=\",\"9\");\n", i);
     else
@@ -44,7 +44,7 @@ template <Load LOAD> void script(benchmark::State& state) {
       std::make_shared<script::ScriptDocument>(script::ScriptParser().parseText(text, "bench", "bench/tick"));
   script::ScenarioHandler handler(std::make_shared<script::GlobalStores>());
   handler.SetDocument(document);
-  handler.Start(script::StartKind::Realtime);
+  handler.Start(script::StartKind::REALTIME);
   const qsf::JobArguments arguments(TICK);
   handler.Update(arguments);
   std::uint64_t ticks = 1;
@@ -54,14 +54,14 @@ template <Load LOAD> void script(benchmark::State& state) {
   }
   const script::ScenarioTrigger& last = document->triggers.back();
   if (document->triggers.size() != static_cast<std::size_t>(state.range(0)) ||
-      last.timesFired != (LOAD == Load::Firing ? ticks : 0))
+      last.timesFired != (LOAD == Load::FIRING ? ticks : 0))
     state.SkipWithError("the triggers did not do what is measured");
 }
 
 // The floor.
 
-enum class Operator : unsigned char { Less, LessOrEqual, Equal, NotEqual, GreaterOrEqual, Greater };
-enum class Arithmetic : unsigned char { Add, Subtract, Multiply, Divide };
+enum class Operator : unsigned char { LESS, LESS_OR_EQUAL, EQUAL, NOT_EQUAL, GREATER_OR_EQUAL, GREATER };
+enum class Arithmetic : unsigned char { ADD, SUBTRACT, MULTIPLY, DIVIDE };
 
 struct PlainCondition {
   std::uint32_t variable;
@@ -90,17 +90,17 @@ struct PlainTrigger {
 
 bool compare(float a, float b, Operator op) {
   switch (op) {
-  case Operator::Less:
+  case Operator::LESS:
     return a < b;
-  case Operator::LessOrEqual:
+  case Operator::LESS_OR_EQUAL:
     return a <= b;
-  case Operator::Equal:
+  case Operator::EQUAL:
     return a == b;
-  case Operator::NotEqual:
+  case Operator::NOT_EQUAL:
     return a != b;
-  case Operator::GreaterOrEqual:
+  case Operator::GREATER_OR_EQUAL:
     return a >= b;
-  case Operator::Greater:
+  case Operator::GREATER:
     return a > b;
   }
   return false;
@@ -108,13 +108,13 @@ bool compare(float a, float b, Operator op) {
 
 float compute(float a, float b, Arithmetic op) {
   switch (op) {
-  case Arithmetic::Add:
+  case Arithmetic::ADD:
     return a + b;
-  case Arithmetic::Subtract:
+  case Arithmetic::SUBTRACT:
     return a - b;
-  case Arithmetic::Multiply:
+  case Arithmetic::MULTIPLY:
     return a * b;
-  case Arithmetic::Divide:
+  case Arithmetic::DIVIDE:
     return a / b;
   }
   return 0;
@@ -128,12 +128,12 @@ struct PlainScript {
   PlainScript(Load load, std::uint32_t count) : triggers(count), variables(count) {
     for (std::uint32_t i = 0; i < count; ++i) {
       PlainTrigger& trigger = triggers[i];
-      if (load == Load::Idle)
-        trigger.conditions = {{i, 1, Operator::Equal}, {i, 9, Operator::LessOrEqual}};
+      if (load == Load::IDLE)
+        trigger.conditions = {{i, 1, Operator::EQUAL}, {i, 9, Operator::LESS_OR_EQUAL}};
       else
-        trigger.conditions = {{i, 0, Operator::GreaterOrEqual}};
+        trigger.conditions = {{i, 0, Operator::GREATER_OR_EQUAL}};
       trigger.required = static_cast<std::uint32_t>(trigger.conditions.size());
-      trigger.effects = {{i, 1, i, Arithmetic::Add, true}};
+      trigger.effects = {{i, 1, i, Arithmetic::ADD, true}};
     }
   }
 
@@ -174,7 +174,7 @@ template <Load LOAD> void loop(benchmark::State& state) {
     benchmark::ClobberMemory();
     ++ticks;
   }
-  if (plain.triggers.back().timesFired != (LOAD == Load::Firing ? ticks : 0))
+  if (plain.triggers.back().timesFired != (LOAD == Load::FIRING ? ticks : 0))
     state.SkipWithError("the loop did not do what is measured");
 }
 
@@ -186,10 +186,10 @@ void registerAll() {
     for (const std::int64_t count : COUNTS)
       registered->Arg(count);
   };
-  add("idle/script", &script<Load::Idle>);
-  add("idle/loop", &loop<Load::Idle>);
-  add("firing/script", &script<Load::Firing>);
-  add("firing/loop", &loop<Load::Firing>);
+  add("idle/script", &script<Load::IDLE>);
+  add("idle/loop", &loop<Load::IDLE>);
+  add("firing/script", &script<Load::FIRING>);
+  add("firing/loop", &loop<Load::FIRING>);
 }
 
 Table makeTable(const Results& results) {

@@ -124,7 +124,7 @@ public:
       : mDocument(
             std::make_shared<script::ScriptDocument>(script::ScriptParser().parseText(text, "bench", "bench/world"))) {
     mHandler.SetDocument(mDocument);
-    mHandler.Start(script::StartKind::Realtime);
+    mHandler.Start(script::StartKind::REALTIME);
   }
   void tick() { mHandler.Update(mArguments); }
   script::ScenarioHandler& handler() { return mHandler; }

@@ -74,17 +74,17 @@ std::string Table::text(Style style) const {
   std::string result;
   for (std::size_t i = 0; i < mRows.size(); ++i) {
     for (std::size_t column = 0; column < mRows[i].size(); ++column) {
-      const std::string_view separator = style == Style::Markdown ? "| " : "  ";
+      const std::string_view separator = style == Style::MARKDOWN ? "| " : "  ";
       // Names on the left, numbers on the right.
       result += column == 0 ? fmt::format("{}{:<{}} ", separator, mRows[i][column], widths[column])
                             : fmt::format("{}{:>{}} ", separator, mRows[i][column], widths[column]);
     }
-    if (style == Style::Markdown)
+    if (style == Style::MARKDOWN)
       result += "|";
     else
       result.pop_back();
     result += "\n";
-    if (i == 0 && style == Style::Markdown) {
+    if (i == 0 && style == Style::MARKDOWN) {
       for (std::size_t column = 0; column < widths.size(); ++column)
         result += column == 0 ? "|---" : "|--:";
       result += "|\n";
@@ -94,11 +94,11 @@ std::string Table::text(Style style) const {
 }
 
 int runAndPrint(int argc, char** argv, Table (*makeTable)(const Results& results)) {
-  Table::Style style = Table::Style::Plain;
+  Table::Style style = Table::Style::PLAIN;
   std::vector<char*> arguments(argv, argv + argc);
   const auto isMarkdown = [](const char* argument) { return std::string_view(argument) == "--markdown"; };
   if (const auto found = std::find_if(arguments.begin() + 1, arguments.end(), isMarkdown); found != arguments.end()) {
-    style = Table::Style::Markdown;
+    style = Table::Style::MARKDOWN;
     arguments.erase(found);
   }
   // Repetitions of all benchmarks are mixed, so that a slow spell of the machine hits both sides of a ratio.

@@ -30,7 +30,7 @@ class Table {
 public:
   explicit Table(std::vector<std::string> heading) : mRows{std::move(heading)} {}
   void add(std::vector<std::string> row) { mRows.push_back(std::move(row)); }
-  enum class Style { Plain, Markdown };
+  enum class Style { PLAIN, MARKDOWN };
   std::string text(Style style) const;
 
 private:

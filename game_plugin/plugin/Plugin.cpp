@@ -23,7 +23,7 @@ Plugin* thePlugin = nullptr;
 /// The editor's hot reload. Games have the debugger's reload, which starts the running map's scripts, too.
 void reloadInEditor() {
   if (qsf::UniqueInstance<em5::EmergencyGui>() || qsf::UniqueInstance<em5::Game>()) return;
-  MapScriptManager::Replace(false);
+  MapScriptManager::replace(false);
 }
 
 }
@@ -36,7 +36,7 @@ Plugin::~Plugin() {
   if (thePlugin == this) thePlugin = nullptr;
 }
 
-Plugin* Plugin::Get() { return thePlugin; }
+Plugin* Plugin::get() { return thePlugin; }
 
 const char* Plugin::getName() const { return "map change Plugin"; }
 const char* Plugin::getVendor() const { return "BrillTarn"; }
@@ -63,7 +63,7 @@ bool Plugin::onInstall() {
 
 bool Plugin::onStartup() {
   FiringLedger::clear();
-  MapScriptManager::Replace(true);
+  MapScriptManager::replace(true);
   qsf::Qsf::instance()->getMessageSystem().addMessageName(RELOAD_MESSAGE);
   mReloadMessageProxy.registerAt(qsf::StringHash(RELOAD_MESSAGE),
                                  [](const qsf::MessageParameters&) { reloadInEditor(); });
@@ -72,7 +72,7 @@ bool Plugin::onStartup() {
 
 void Plugin::onShutdown() {
   logInfo("Start Shutdown of Tidemark Plugin");
-  delete MapScriptManager::Get();
+  delete MapScriptManager::get();
   mReloadMessageProxy.unregister();
   logInfo("Tidemark Plugin was shutdown succesfully");
 }

@@ -15,7 +15,7 @@ public:
   ~Plugin() override;
 
   /// The newest plug-in made, or null.
-  static Plugin* Get();
+  static Plugin* get();
 
   const char* getName() const override;
   const char* getVendor() const override;

@@ -55,11 +55,11 @@ bool ScriptText::next() {
   mRest.remove_prefix(end == std::string_view::npos ? mRest.size() : end + 1);
   if (!mLine.raw.empty() && mLine.raw.back() == '\r') mLine.raw.remove_suffix(1);
   ++mLine.number;
-  mLine.kind = LineKind::Empty;
+  mLine.kind = LineKind::EMPTY;
   mLine.negated = false;
   mLine.tokens.clear();
   clean();
-  if (mLine.kind != LineKind::Comment && !mLine.text.empty()) classify();
+  if (mLine.kind != LineKind::COMMENT && !mLine.text.empty()) classify();
   // Read last, since keywords change where the line stands.
   mLine.inBlock = mInBlock;
   mLine.inElse = mInElse;
@@ -70,7 +70,7 @@ void ScriptText::clean() {
   mLine.text = mLine.raw;
   if (!holdsSpecials(mLine.raw)) return;
   if (mLine.raw.find('$') != std::string_view::npos) {
-    mLine.kind = LineKind::Comment;
+    mLine.kind = LineKind::COMMENT;
     mLine.text = {};
     return;
   }
@@ -83,7 +83,7 @@ void ScriptText::clean() {
 void ScriptText::classify() {
   if (!tokenizeFast(mLine.text, mLine.tokens) && !tokenizeByGrammar(mLine.text, mLine.tokens, mStorage)) {
     mLine.tokens.clear();
-    if (mLine.text.find_first_not_of(BLANKS) != std::string_view::npos) mLine.kind = LineKind::Invalid;
+    if (mLine.text.find_first_not_of(BLANKS) != std::string_view::npos) mLine.kind = LineKind::INVALID;
     return;
   }
   Token& first = mLine.tokens.front();
@@ -96,30 +96,30 @@ void ScriptText::classify() {
   }
   const std::string_view name = first.text;
   if (name == "InitNewTrigger") {
-    mLine.kind = LineKind::NewTrigger;
+    mLine.kind = LineKind::NEW_TRIGGER;
     mInBlock = false; // the section stays: only the first trigger of a file begins in its conditions
   } else if (name == "InitConditions") {
-    mLine.kind = LineKind::Conditions;
+    mLine.kind = LineKind::CONDITIONS;
     mReadingConditions = true;
   } else if (name == "InitEffects" || name == "InitNegativEffects") {
     // Negative effects are effects like the others: that is how they have always run.
-    mLine.kind = LineKind::Effects;
+    mLine.kind = LineKind::EFFECTS;
     mReadingConditions = false;
   } else if (name == "If") {
-    mLine.kind = LineKind::If;
+    mLine.kind = LineKind::IF;
     mInBlock = mReadingConditions = true;
     mInElse = false;
   } else if (name == "Else") {
-    mLine.kind = LineKind::Else;
+    mLine.kind = LineKind::ELSE;
     mInElse = true;
   } else if (mInBlock && name == "Then") {
-    mLine.kind = LineKind::Then;
+    mLine.kind = LineKind::THEN;
     mReadingConditions = false;
   } else if (mInBlock && name == "ThenEnd") {
-    mLine.kind = LineKind::ThenEnd;
+    mLine.kind = LineKind::THEN_END;
     mInBlock = mReadingConditions = false;
   } else {
-    mLine.kind = mReadingConditions ? LineKind::Condition : LineKind::Effect;
+    mLine.kind = mReadingConditions ? LineKind::CONDITION : LineKind::EFFECT;
   }
 }
 

@@ -9,24 +9,24 @@ namespace script::syntax {
 
 /// What the language makes of a line before it asks the catalogue for a name.
 enum class LineKind : unsigned char {
-  Empty,      ///< nothing, or blanks only
-  Comment,    ///< holds a `$`
-  Invalid,    ///< no command; dropped with a message
-  NewTrigger, ///< InitNewTrigger
-  Conditions, ///< InitConditions
-  Effects,    ///< InitEffects or InitNegativEffects
-  If,
-  Else,
-  Then,
-  ThenEnd,
-  Condition, ///< a name of the condition catalogue, or `Always`
-  Effect     ///< a name of the effect catalogue
+  EMPTY,       ///< nothing, or blanks only
+  COMMENT,     ///< holds a `$`
+  INVALID,     ///< no command; dropped with a message
+  NEW_TRIGGER, ///< InitNewTrigger
+  CONDITIONS,  ///< InitConditions
+  EFFECTS,     ///< InitEffects or InitNegativEffects
+  IF,
+  ELSE,
+  THEN,
+  THEN_END,
+  CONDITION, ///< a name of the condition catalogue, or `Always`
+  EFFECT     ///< a name of the effect catalogue
 };
 
 /// One line of a script. Its views live until the reader goes on.
 struct Line {
   std::uint32_t number = 0; ///< from 1
-  LineKind kind = LineKind::Empty;
+  LineKind kind = LineKind::EMPTY;
   bool negated = false;  ///< the name was written with a `!`, which is no part of tokens[0]
   bool inBlock = false;  ///< belongs to the last `If` of its trigger
   bool inElse = false;   ///< of a block: behind its Else

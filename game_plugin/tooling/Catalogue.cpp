@@ -43,10 +43,10 @@ std::vector<CatalogueEntry> describeCatalogue() {
   std::vector<CatalogueEntry> catalogue;
   for (const ConditionGroup* group : ScenarioConditions::groups())
     for (const ConditionEntry* entry : group->chain)
-      catalogue.push_back(toEntry(*entry, CatalogueEntry::Kind::Condition, group->name));
+      catalogue.push_back(toEntry(*entry, CatalogueEntry::Kind::CONDITION, group->name));
   for (const EffectGroup* group : ScenarioEffects::groups())
     for (const EffectEntry* entry : group->chain)
-      catalogue.push_back(toEntry(*entry, CatalogueEntry::Kind::Effect, group->name));
+      catalogue.push_back(toEntry(*entry, CatalogueEntry::Kind::EFFECT, group->name));
   return catalogue;
 }
 

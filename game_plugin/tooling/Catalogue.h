@@ -18,9 +18,9 @@ struct CatalogueParameter {
 
 /// One condition or effect that scripts can name.
 struct CatalogueEntry {
-  enum class Kind { Condition, Effect };
+  enum class Kind { CONDITION, EFFECT };
 
-  Kind kind = Kind::Condition;
+  Kind kind = Kind::CONDITION;
   std::string name;
   std::string group; ///< class of the group that holds it; empty for those that stand before all groups
   std::string category;

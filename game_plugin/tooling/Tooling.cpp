@@ -20,9 +20,9 @@ namespace {
 
 /// Null for an index beyond the scripts.
 const MapScriptEntry* findEntry(std::size_t script) {
-  const MapScriptManager* manager = MapScriptManager::Get();
-  if (!manager || script >= manager->GetScriptEntries().size()) return nullptr;
-  return manager->GetScriptEntries()[script];
+  const MapScriptManager* manager = MapScriptManager::get();
+  if (!manager || script >= manager->getScriptEntries().size()) return nullptr;
+  return manager->getScriptEntries()[script];
 }
 
 /// Null if the script doesn't run.
@@ -39,8 +39,8 @@ Store<T>* findStore(std::optional<std::size_t> script, Store<T> ScenarioHandler:
     ScenarioHandler* handler = findHandler(*script);
     return handler ? &(handler->*local) : nullptr;
   }
-  const MapScriptManager* manager = MapScriptManager::Get();
-  return manager ? &(manager->GetGlobalStores().get()->*global) : nullptr;
+  const MapScriptManager* manager = MapScriptManager::get();
+  return manager ? &(manager->getGlobalStores().get()->*global) : nullptr;
 }
 
 template <class T> std::vector<std::string> namesOf(const Store<T>* store) {
@@ -136,8 +136,8 @@ public:
 
   std::vector<ScriptView> getScripts() const override {
     std::vector<ScriptView> views;
-    if (const MapScriptManager* manager = MapScriptManager::Get())
-      for (const MapScriptEntry* entry : manager->GetScriptEntries())
+    if (const MapScriptManager* manager = MapScriptManager::get())
+      for (const MapScriptEntry* entry : manager->getScriptEntries())
         views.push_back(viewOf(*entry));
     return views;
   }
@@ -161,7 +161,7 @@ public:
 
   std::vector<DroppedLineView> getDroppedLines() const override {
     std::vector<DroppedLineView> views;
-    if (const MapScriptManager* manager = MapScriptManager::Get())
+    if (const MapScriptManager* manager = MapScriptManager::get())
       for (const auto& [path, lines] : manager->programs().droppedLines())
         for (const DroppedLine& line : lines)
           views.push_back({path, line.line, line.column, line.reason});
@@ -187,17 +187,17 @@ public:
   std::vector<std::string> getNames(std::optional<std::size_t> script, StoreKind kind) const override {
     const ScenarioHandler* handler = script ? findHandler(*script) : nullptr;
     switch (kind) {
-    case StoreKind::Variables:
+    case StoreKind::VARIABLES:
       return namesOf(variablesOf(script));
-    case StoreKind::Strings:
+    case StoreKind::STRINGS:
       return namesOf(stringsOf(script));
-    case StoreKind::Lists:
+    case StoreKind::LISTS:
       return namesOf(listsOf(script));
-    case StoreKind::Bools:
+    case StoreKind::BOOLS:
       return namesOf(handler ? &handler->boolVariables : nullptr);
-    case StoreKind::Jsons:
-      return namesOf(handler ? &handler->GetJsonStore().entries : nullptr);
-    case StoreKind::StringLists:
+    case StoreKind::JSONS:
+      return namesOf(handler ? &handler->getJsonStore().entries : nullptr);
+    case StoreKind::STRING_LISTS:
       return namesOf(handler ? &handler->stringLists : nullptr);
     }
     return {};
@@ -226,7 +226,7 @@ public:
   std::optional<std::string> getJson(std::size_t script, const std::string& name,
                                      const std::string& path) const override {
     const ScenarioHandler* handler = findHandler(script);
-    const auto* tree = findValue(handler ? &handler->GetJsonStore().entries : nullptr, name);
+    const auto* tree = findValue(handler ? &handler->getJsonStore().entries : nullptr, name);
     if (!tree) return std::nullopt;
     const auto value = tree->get_optional<std::string>(path);
     return value ? std::optional<std::string>(*value) : std::nullopt;
@@ -260,7 +260,7 @@ public:
         host->getMessageSystem().emitMessage(qsf::StringHash("script::ForceHotReload_EditorOnly"));
       return;
     }
-    MapScriptManager& manager = MapScriptManager::Replace(true);
+    MapScriptManager& manager = MapScriptManager::replace(true);
     if (hasGame) manager.StartMapScripts();
   }
 };
@@ -270,9 +270,9 @@ public:
 }
 
 /// What tools ask the module for once they have loaded it.
-extern "C" QSF_API script::tooling::Tooling* GetTidemarkTooling();
+extern "C" QSF_API script::tooling::Tooling* getTidemarkTooling();
 
-script::tooling::Tooling* GetTidemarkTooling() {
+script::tooling::Tooling* getTidemarkTooling() {
   static script::tooling::ManagerTooling tooling;
   return &tooling;
 }

@@ -87,7 +87,7 @@ struct DroppedLineView {
   std::string reason;
 };
 
-enum class StoreKind { Variables, Strings, Lists, Bools, Jsons, StringLists };
+enum class StoreKind { VARIABLES, STRINGS, LISTS, BOOLS, JSONS, STRING_LISTS };
 
 /// What tools may see and do. The object lives as long as the module is loaded. Scripts are addressed by their index in
 /// getScripts(), which changes when scripts start, stop or are reloaded. Reading never creates store entries.
@@ -141,6 +141,6 @@ public:
 
 /// Type and name of the function that the module exports for tools.
 using GetToolingFunction = Tooling* (*)();
-inline constexpr const char* GET_TOOLING_SYMBOL = "GetTidemarkTooling";
+inline constexpr const char* GET_TOOLING_SYMBOL = "getTidemarkTooling";
 
 }

@@ -36,8 +36,8 @@ protected:
   }
   void emit(const char* message) { session->getQsf().getMessageSystem().emitMessage(qsf::StringHash(message)); }
 
-  static script::MapScriptManager& manager() { return *script::MapScriptManager::Get(); }
-  static const script::MapScriptEntry& entry(std::size_t index) { return *manager().GetScriptEntries().at(index); }
+  static script::MapScriptManager& manager() { return *script::MapScriptManager::get(); }
+  static const script::MapScriptEntry& entry(std::size_t index) { return *manager().getScriptEntries().at(index); }
   long count(int severity, const std::string& message) const {
     return std::count(log.begin(), log.end(), std::pair<int, std::string>(severity, message));
   }

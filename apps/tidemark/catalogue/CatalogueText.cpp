@@ -12,7 +12,7 @@ namespace tidemark::catalogue {
 
 namespace {
 
-std::string_view kindOf(const Entry& entry) { return entry.kind == Entry::Kind::Condition ? "condition" : "effect"; }
+std::string_view kindOf(const Entry& entry) { return entry.kind == Entry::Kind::CONDITION ? "condition" : "effect"; }
 
 /// "SetVariable("var","0");", the line with all defaults.
 std::string exampleOf(const Entry& entry) {

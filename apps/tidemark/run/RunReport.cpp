@@ -24,14 +24,14 @@ using script::tooling::TriggerView;
 
 StoreReport collectStores(const Tooling& tooling, std::optional<std::size_t> script) {
   StoreReport stores;
-  for (const std::string& name : tooling.getNames(script, StoreKind::Variables))
+  for (const std::string& name : tooling.getNames(script, StoreKind::VARIABLES))
     stores.variables.emplace_back(toUtf8(name), tooling.getVariable(script, name).value_or(0));
-  for (const std::string& name : tooling.getNames(script, StoreKind::Strings))
+  for (const std::string& name : tooling.getNames(script, StoreKind::STRINGS))
     stores.strings.emplace_back(toUtf8(name), toUtf8(tooling.getString(script, name).value_or("")));
-  for (const std::string& name : tooling.getNames(script, StoreKind::Lists))
+  for (const std::string& name : tooling.getNames(script, StoreKind::LISTS))
     stores.lists.emplace_back(toUtf8(name), tooling.getList(script, name).value_or(std::vector<std::uint64_t>()));
   if (script)
-    for (const std::string& name : tooling.getNames(script, StoreKind::Bools))
+    for (const std::string& name : tooling.getNames(script, StoreKind::BOOLS))
       stores.bools.emplace_back(toUtf8(name), tooling.getBool(*script, name).value_or(false));
   return stores;
 }

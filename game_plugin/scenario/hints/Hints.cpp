@@ -95,7 +95,7 @@ bool noteRead(const void* store, std::string_view kind, std::string_view name) {
   if (name.empty() || ledger().written.contains(key)) return false;
   if (executionPoint.source && ledger().meant.contains(meantName(name))) return false;
   const auto index =
-      add(HintKind::Name, "the " + std::string(kind) + " \"" + key.name + "\" is read, but nobody has written it", {});
+      add(HintKind::NAME, "the " + std::string(kind) + " \"" + key.name + "\" is read, but nobody has written it", {});
   if (!index) return true;
   ledger().readNames.try_emplace(*index, meantName(name));
   std::vector<std::size_t>& reads = ledger().reads[std::move(key)];

@@ -9,15 +9,15 @@ namespace script {
 
 /// What a hint is about.
 enum class HintKind : unsigned char {
-  Word,       ///< a word that an entry doesn't know
-  Operator,   ///< an operator that falls back to less-than
-  Conversion, ///< a text that doesn't convert
-  Component,  ///< a component that isn't there
-  Property,   ///< a property that isn't there, or doesn't take the value
-  Entity,     ///< an id without an entity
-  Asset,      ///< an asset that nobody has
-  Name,       ///< a name that is read and that nobody has ever written
-  Link        ///< a link that is refused
+  WORD,       ///< a word that an entry doesn't know
+  OPERATOR,   ///< an operator that falls back to less-than
+  CONVERSION, ///< a text that doesn't convert
+  COMPONENT,  ///< a component that isn't there
+  PROPERTY,   ///< a property that isn't there, or doesn't take the value
+  ENTITY,     ///< an id without an entity
+  ASSET,      ///< an asset that nobody has
+  NAME,       ///< a name that is read and that nobody has ever written
+  LINK        ///< a link that is refused
 };
 
 /// Something that the language passes over without a word, at one place of a script.

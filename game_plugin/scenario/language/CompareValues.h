@@ -12,7 +12,14 @@ inline constexpr std::array<std::string_view, 6> COMPARISON_OPERATORS = {"<", "<
 /// message.
 class ComparisonOperator {
 public:
-  enum Kind : unsigned char { Less = 0, LessOrEqual = 1, Equal = 2, NotEqual = 3, GreaterOrEqual = 4, Greater = 5 };
+  enum Kind : unsigned char {
+    LESS = 0,
+    LESS_OR_EQUAL = 1,
+    EQUAL = 2,
+    NOT_EQUAL = 3,
+    GREATER_OR_EQUAL = 4,
+    GREATER = 5
+  };
 
   ComparisonOperator() = default;
   ComparisonOperator(std::string_view text) {
@@ -23,24 +30,24 @@ public:
   Kind kind() const { return mKind; }
   bool operator()(float a, float b) const {
     switch (mKind) {
-    case LessOrEqual:
+    case LESS_OR_EQUAL:
       return a <= b;
-    case Equal:
+    case EQUAL:
       return a == b; // exact on purpose
-    case NotEqual:
+    case NOT_EQUAL:
       return a != b;
-    case GreaterOrEqual:
+    case GREATER_OR_EQUAL:
       return a >= b;
-    case Greater:
+    case GREATER:
       return a > b;
-    case Less:
+    case LESS:
       break;
     }
     return a < b;
   }
 
 private:
-  Kind mKind = Less;
+  Kind mKind = LESS;
 };
 
 /// Compares once, by the operator's text.

@@ -202,10 +202,10 @@ constexpr std::string_view GANGSTER_LOGICS[] = {"em5::GangsterArsonist", "em5::G
                                                 "em5::GangsterCivilArmedLogic", "em5::GangsterAttackEveryoneLogic"};
 
 constexpr Word<ArithmeticOperator> ARITHMETIC_OPERATORS[] = {
-    {"+", ArithmeticOperator::Add},
-    {"-", ArithmeticOperator::Subtract},
-    {"*", ArithmeticOperator::Multiply},
-    {":", ArithmeticOperator::Divide},
+    {"+", ArithmeticOperator::ADD},
+    {"-", ArithmeticOperator::SUBTRACT},
+    {"*", ArithmeticOperator::MULTIPLY},
+    {":", ArithmeticOperator::DIVIDE},
 };
 
 }
@@ -231,7 +231,7 @@ std::string ToGangsterLogic(std::string_view text) {
 }
 
 ArithmeticOperator ToArithmeticOperator(std::string_view text) {
-  return lookUp(ARITHMETIC_OPERATORS, text).value_or(ArithmeticOperator::Add);
+  return lookUp(ARITHMETIC_OPERATORS, text).value_or(ArithmeticOperator::ADD);
 }
 
 std::span<const std::string_view> barTypeWords() { return wordsOf<BAR_TYPES>(); }

@@ -25,7 +25,7 @@ std::optional<std::uint32_t> ToInjury(std::string_view text);
 /// The same text if it names a gangster logic that scripts may use, otherwise the empty text.
 std::string ToGangsterLogic(std::string_view text);
 
-enum class ArithmeticOperator : unsigned char { Add = 0, Subtract = 1, Multiply = 2, Divide = 3 };
+enum class ArithmeticOperator : unsigned char { ADD = 0, SUBTRACT = 1, MULTIPLY = 2, DIVIDE = 3 };
 /// `-`, `*`, `:`; anything else, `/` included, adds.
 ArithmeticOperator ToArithmeticOperator(std::string_view text);
 

@@ -24,11 +24,11 @@ struct ModeText {
   std::string_view text;
   ScriptMode mode;
 };
-constexpr ModeText MODES[] = {{"GAME_STARTUP", ScriptMode::GameStartup},
-                              {"MAP_STARTUP", ScriptMode::MapStartup},
-                              {"TEMPORARY", ScriptMode::Temporary},
-                              {"EDITOR_STARTUP", ScriptMode::EditorStartup},
-                              {"MAP_STARTUP_SIMULATION", ScriptMode::MapStartupSimulation}};
+constexpr ModeText MODES[] = {{"GAME_STARTUP", ScriptMode::GAME_STARTUP},
+                              {"MAP_STARTUP", ScriptMode::MAP_STARTUP},
+                              {"TEMPORARY", ScriptMode::TEMPORARY},
+                              {"EDITOR_STARTUP", ScriptMode::EDITOR_STARTUP},
+                              {"MAP_STARTUP_SIMULATION", ScriptMode::MAP_STARTUP_SIMULATION}};
 
 std::string scriptDirectoryOf(const em5::Mod& mod) {
   return mod.getProject()->getAbsoluteDirectory() + "/x64/tidemark/";
@@ -101,7 +101,7 @@ bool readMode(const ptree& root, const std::string& node, MapScriptEntry& entry)
   const auto text = root.get_optional<std::string>(node + ".Mode");
   if (!text) return refuseMissingNode(entry, node + ".Mode");
   entry.mode = toScriptMode(*text);
-  if (entry.mode != ScriptMode::Unknown) return true;
+  if (entry.mode != ScriptMode::UNKNOWN) return true;
   return refuse(entry, "MapscriptManager: " + entry.key +
                            " cant be created because the Mode \"5\" does not exist. Try to use \"GAME_STARTUP\", "
                            "\"MAP_STARTUP_SIMULATION\", \"MAP_STARTUP\" or \"EDITOR_STARTUP\" (but Editor_Startup can "
@@ -114,7 +114,7 @@ bool readMode(const ptree& root, const std::string& node, MapScriptEntry& entry)
 ScriptMode toScriptMode(std::string_view text) {
   for (const ModeText& mode : MODES)
     if (mode.text == text) return mode.mode;
-  return ScriptMode::Unknown;
+  return ScriptMode::UNKNOWN;
 }
 
 std::string_view toText(ScriptMode mode) {
@@ -123,7 +123,7 @@ std::string_view toText(ScriptMode mode) {
   return "UNKNOWN";
 }
 
-void MapScriptManager::ReadMod(const em5::Mod& mod) {
+void MapScriptManager::readMod(const em5::Mod& mod) {
   const std::string directory = scriptDirectoryOf(mod);
   const std::string file = directory + "MapScript.json";
   if (!canOpenFile(file)) {
@@ -139,10 +139,10 @@ void MapScriptManager::ReadMod(const em5::Mod& mod) {
     fates::noteUnreadable(error.what());
     return;
   }
-  ReadScripts(mod, root);
+  readScripts(mod, root);
 }
 
-void MapScriptManager::ReadScripts(const em5::Mod& mod, const ptree& root) {
+void MapScriptManager::readScripts(const em5::Mod& mod, const ptree& root) {
   const auto scripts = root.get_child_optional("MapScripts");
   if (!scripts) {
     logInfo("Node Mapscripts was not found");
@@ -154,14 +154,14 @@ void MapScriptManager::ReadScripts(const em5::Mod& mod, const ptree& root) {
     auto entry = std::make_unique<MapScriptEntry>();
     entry->key = child.first;
     entry->project = mod.getProject()->getName();
-    if (!ReadScript(mod, root, *entry)) continue;
+    if (!readScript(mod, root, *entry)) continue;
     mScriptEntries.push_back(entry.release());
     logInfo("\tMapscriptManager: Created MapScript:\t" + child.first + " succesfully");
   }
   logInfo("***** MapscriptManager created " + std::to_string(mScriptEntries.size()) + " mapscripts *****");
 }
 
-bool MapScriptManager::ReadScript(const em5::Mod& mod, const ptree& root, MapScriptEntry& entry) const {
+bool MapScriptManager::readScript(const em5::Mod& mod, const ptree& root, MapScriptEntry& entry) const {
   // The key becomes part of a path whose separator is the dot: a key that holds one names another node, or none.
   const std::string node = "MapScripts." + entry.key;
   const auto path = root.get_optional<std::string>(node + ".Path");

@@ -48,7 +48,7 @@ MapScriptManager::MapScriptManager(bool writeDocumentation) : mPrograms(std::mak
   ScenarioHandler::setDirectory(this);
   LoadConfiguration(writeDocumentation);
   mGameStartupMessageProxy.registerAt(em5::Messages::GAME_STARTUP_FINISHED,
-                                      [this](const qsf::MessageParameters&) { OnGameStartupFinished(); });
+                                      [this](const qsf::MessageParameters&) { onGameStartupFinished(); });
   mGameShutdownMessageProxy.registerAt(em5::Messages::GAME_SHUTDOWN_STARTING,
                                        [this](const qsf::MessageParameters&) { DoShutdown(); });
   mFrameJobProxy.registerAt(em5::Jobs::ANIMATION_VEHICLE, [this](const qsf::JobArguments&) {
@@ -60,16 +60,16 @@ MapScriptManager::MapScriptManager(bool writeDocumentation) : mPrograms(std::mak
 MapScriptManager::~MapScriptManager() {
   DoShutdown();
   for (ScenarioHandler* handler : mLeftRunning)
-    ScenarioHandler::Retire(handler);
-  ForgetScripts();
+    ScenarioHandler::retire(handler);
+  forgetScripts();
   if (theManager != this) return;
   theManager = nullptr;
   ScenarioHandler::setDirectory(nullptr);
 }
 
-MapScriptManager* MapScriptManager::Get() { return theManager; }
+MapScriptManager* MapScriptManager::get() { return theManager; }
 
-MapScriptManager& MapScriptManager::Replace(bool writeDocumentation) {
+MapScriptManager& MapScriptManager::replace(bool writeDocumentation) {
   delete theManager;
   return *new MapScriptManager(writeDocumentation);
 }
@@ -77,21 +77,21 @@ MapScriptManager& MapScriptManager::Replace(bool writeDocumentation) {
 void MapScriptManager::LoadConfiguration(bool /*writeDocumentation*/) {
   logInfo("***** MapscriptManager started succesfully *****");
   logInfo("");
-  ForgetScripts();
+  forgetScripts();
   fates::clear();
   if (em5::Plugin* game = em5::Plugin::getInstance())
     for (const auto& mod : game->getModSystem().getMods())
-      if (mod->isMounted() && mod->isEnabled()) ReadMod(*mod);
+      if (mod->isMounted() && mod->isEnabled()) readMod(*mod);
 
   if (!hasGame() || !hasGui()) // the editor
     mEditorJobProxy.registerAt(
-        em5::Jobs::ANIMATION_VEHICLE, [this](const qsf::JobArguments& arguments) { EditorJob(arguments); },
+        em5::Jobs::ANIMATION_VEHICLE, [this](const qsf::JobArguments& arguments) { editorJob(arguments); },
         qsf::jobs::JobConfiguration(2));
-  ParseScripts();
-  if (hasGui()) StartGameScript();
+  parseScripts();
+  if (hasGui()) startGameScript();
 }
 
-void MapScriptManager::ParseScripts() {
+void MapScriptManager::parseScripts() {
   for (MapScriptEntry* entry : mScriptEntries) {
     entry->document = std::make_shared<ScriptDocument>(mPrograms->load(entry->path, entry->globalNamePrefix));
     FiringLedger::restore(*entry);
@@ -99,27 +99,27 @@ void MapScriptManager::ParseScripts() {
 }
 
 /// Only the first one ever runs: it is the game's one script, and starts once per manager.
-void MapScriptManager::StartGameScript() {
+void MapScriptManager::startGameScript() {
   const auto found = std::find_if(mScriptEntries.begin(), mScriptEntries.end(),
-                                  [](const MapScriptEntry* entry) { return entry->mode == ScriptMode::GameStartup; });
-  if (found != mScriptEntries.end()) StartScript(**found);
+                                  [](const MapScriptEntry* entry) { return entry->mode == ScriptMode::GAME_STARTUP; });
+  if (found != mScriptEntries.end()) startScript(**found);
 }
 
-void MapScriptManager::StartScript(MapScriptEntry& entry) {
+void MapScriptManager::startScript(MapScriptEntry& entry) {
   if (entry.handler) mLeftRunning.push_back(entry.handler);
   entry.handler = new ScenarioHandler(mGlobalStores);
   entry.handler->SetDocument(entry.document);
-  entry.handler->Start(entry.mode == ScriptMode::MapStartupSimulation ? StartKind::Simulation : StartKind::Realtime);
+  entry.handler->Start(entry.mode == ScriptMode::MAP_STARTUP_SIMULATION ? StartKind::SIMULATION : StartKind::REALTIME);
 }
 
-void MapScriptManager::OnGameStartupFinished() {
+void MapScriptManager::onGameStartupFinished() {
   if (hasGame() && hasGui()) StartMapScripts();
 }
 
 void MapScriptManager::StartMapScripts() {
   mBlockedEntityIds.clear();
-  StartScriptsOfMap(
-      [](ScriptMode mode) { return mode == ScriptMode::MapStartup || mode == ScriptMode::MapStartupSimulation; });
+  startScriptsOfMap(
+      [](ScriptMode mode) { return mode == ScriptMode::MAP_STARTUP || mode == ScriptMode::MAP_STARTUP_SIMULATION; });
   mPreCommandMessageProxy.registerAt(em5::Messages::EM5_PRE_COMMAND_EXECUTE,
                                      [this](const qsf::MessageParameters& parameters) {
                                        if (isExtinguishingBlocked(parameters, mBlockedEntityIds))
@@ -127,21 +127,21 @@ void MapScriptManager::StartMapScripts() {
                                      });
 }
 
-void MapScriptManager::StartScriptsOfMap(bool (*isStarted)(ScriptMode)) {
+void MapScriptManager::startScriptsOfMap(bool (*isStarted)(ScriptMode)) {
   for (MapScriptEntry* entry : mScriptEntries)
     if (isStarted(entry->mode) && std::any_of(entry->maps.begin(), entry->maps.end(),
                                               [](const std::string& map) { return map == "All" || isMainMap(map); }))
-      StartScript(*entry);
+      startScript(*entry);
 }
 
-void MapScriptManager::EditorJob(const qsf::JobArguments& arguments) {
+void MapScriptManager::editorJob(const qsf::JobArguments& arguments) {
   logInfo("create MSG reciever");
   mEditorDelay += arguments.getTimePassed();
   if (mEditorDelay < qsf::Time::fromSeconds(0.1)) return;
   logInfo("Editor Mode started");
   logInfo("create MSG reciever2");
   mBlockedEntityIds.clear();
-  StartScriptsOfMap([](ScriptMode mode) { return mode == ScriptMode::EditorStartup; });
+  startScriptsOfMap([](ScriptMode mode) { return mode == ScriptMode::EDITOR_STARTUP; });
   mEditorJobProxy.unregister();
 }
 
@@ -150,20 +150,20 @@ void MapScriptManager::StartTemporaryScript(const std::string& path) {
   const std::size_t known = mScriptEntries.size();
   for (std::size_t i = 0; i < known; ++i) {
     if (mScriptEntries[i]->path == path) continue;
-    if (!MayStartAnother(path)) return;
+    if (!mayStartAnother(path)) return;
     MapScriptEntry* entry = new MapScriptEntry;
-    entry->mode = ScriptMode::Temporary;
+    entry->mode = ScriptMode::TEMPORARY;
     entry->path = path;
     entry->key = path;
     entry->document = std::make_shared<ScriptDocument>(mPrograms->load(path, entry->globalNamePrefix));
     mScriptEntries.push_back(entry);
-    StartScript(*entry);
+    startScript(*entry);
     logInfo("\tMapscriptManager: succesfully initialize new temproray Scenario " + path);
   }
 }
 
 /// Told once a frame: thousands of scripts may ask.
-bool MapScriptManager::MayStartAnother(const std::string& path) {
+bool MapScriptManager::mayStartAnother(const std::string& path) {
   if (mScriptEntries.size() < MAXIMUM_SCRIPTS && mStartsInFrame < MAXIMUM_SCRIPTS) {
     ++mStartsInFrame;
     return true;
@@ -175,12 +175,12 @@ bool MapScriptManager::MayStartAnother(const std::string& path) {
   return false;
 }
 
-void MapScriptManager::StopScript(const std::string& path) {
+void MapScriptManager::stopScript(const std::string& path) {
   // Kept: the walk goes on behind the place of a removed entry, so of two neighbours with one path the second stays.
   for (std::size_t i = 0; i < mScriptEntries.size(); ++i) {
     if (mScriptEntries[i]->path != path) continue;
-    ScenarioHandler::Retire(std::exchange(mScriptEntries[i]->handler, nullptr));
-    RemoveEntry(i, withOrigin("stopped by StopScenario"));
+    ScenarioHandler::retire(std::exchange(mScriptEntries[i]->handler, nullptr));
+    removeEntry(i, withOrigin("stopped by StopScenario"));
   }
 }
 
@@ -196,20 +196,20 @@ void MapScriptManager::DoShutdown() {
   mPreCommandMessageProxy.unregister();
   // Kept: the entry behind a forgotten temporary one is skipped, and its script goes on into the next map.
   for (std::size_t i = 0; i < mScriptEntries.size(); ++i) {
-    ScenarioHandler::Retire(std::exchange(mScriptEntries[i]->handler, nullptr));
-    if (mScriptEntries[i]->mode == ScriptMode::Temporary) RemoveEntry(i, "ended with its map");
+    ScenarioHandler::retire(std::exchange(mScriptEntries[i]->handler, nullptr));
+    if (mScriptEntries[i]->mode == ScriptMode::TEMPORARY) removeEntry(i, "ended with its map");
   }
   logInfo("DoShutdown Finished");
 }
 
-void MapScriptManager::ForgetScripts() {
+void MapScriptManager::forgetScripts() {
   while (!mScriptEntries.empty()) {
-    ScenarioHandler::Retire(mScriptEntries.back()->handler);
-    RemoveEntry(mScriptEntries.size() - 1, "");
+    ScenarioHandler::retire(mScriptEntries.back()->handler);
+    removeEntry(mScriptEntries.size() - 1, "");
   }
 }
 
-void MapScriptManager::RemoveEntry(std::size_t index, const std::string& fate) {
+void MapScriptManager::removeEntry(std::size_t index, const std::string& fate) {
   MapScriptEntry* entry = mScriptEntries[index];
   if (!fate.empty()) fates::noteEnded(*entry, fate);
   FiringLedger::store(*entry);

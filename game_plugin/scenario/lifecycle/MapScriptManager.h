@@ -20,12 +20,12 @@ class ProgramCache;
 
 /// When a script's handler is made.
 enum class ScriptMode : std::uint32_t {
-  GameStartup = 0,
-  MapStartup = 1,
-  Temporary = 2,
-  EditorStartup = 3,
-  MapStartupSimulation = 4,
-  Unknown = 5 ///< any other text; the entry is refused
+  GAME_STARTUP = 0,
+  MAP_STARTUP = 1,
+  TEMPORARY = 2,
+  EDITOR_STARTUP = 3,
+  MAP_STARTUP_SIMULATION = 4,
+  UNKNOWN = 5 ///< any other text; the entry is refused
 };
 
 /// "GAME_STARTUP" and so on, compared exactly.
@@ -35,7 +35,7 @@ std::string_view toText(ScriptMode mode);
 /// A script that the manager knows. On the heap; entries of a manager live until it ends or, temporary ones, until they
 /// stop.
 struct MapScriptEntry {
-  ScriptMode mode = ScriptMode::Unknown;
+  ScriptMode mode = ScriptMode::UNKNOWN;
   std::vector<std::string> maps;            ///< local asset names, or "All"
   std::string path;                         ///< absolute file; for a temporary script the path as given
   std::string globalNamePrefix;             ///< project, `/`, configured path; empty for a temporary script
@@ -59,9 +59,9 @@ public:
   MapScriptManager& operator=(const MapScriptManager&) = delete;
 
   /// The living manager, or null.
-  static MapScriptManager* Get();
+  static MapScriptManager* get();
   /// A reload: destroys the living manager, if there is one, and makes a new one, which reads all files anew.
-  static MapScriptManager& Replace(bool writeDocumentation);
+  static MapScriptManager& replace(bool writeDocumentation);
 
   void LoadConfiguration(bool writeDocumentation);
   /// Starts the scripts of the main map. Called at GAME_STARTUP_FINISHED, and directly after a reload.
@@ -70,37 +70,37 @@ public:
   /// know.
   void StartTemporaryScript(const std::string& path);
   /// Stops the script instances with that path. The entry behind a removed one is skipped in this walk.
-  void StopScript(const std::string& path);
+  void stopScript(const std::string& path);
   /// Stops all scripts; temporary scripts are forgotten. The entry behind a forgotten one is skipped and goes on.
   void DoShutdown();
 
   std::pair<ScenarioHandler*, const ScenarioTrigger*> findTrigger(std::uint32_t hash) const override;
 
-  const std::vector<MapScriptEntry*>& GetScriptEntries() const { return mScriptEntries; }
-  const std::shared_ptr<GlobalStores>& GetGlobalStores() const { return mGlobalStores; }
+  const std::vector<MapScriptEntry*>& getScriptEntries() const { return mScriptEntries; }
+  const std::shared_ptr<GlobalStores>& getGlobalStores() const { return mGlobalStores; }
   const ProgramCache& programs() const { return *mPrograms; }
   /// Entities that may not be extinguished; emptied at each start.
-  std::vector<std::uint64_t>& GetBlockedEntityIds() { return mBlockedEntityIds; }
+  std::vector<std::uint64_t>& getBlockedEntityIds() { return mBlockedEntityIds; }
 
   /// More instances than this at a time, or more starts in a frame, are refused with an error: two scripts that start
   /// each other multiply without end.
   static constexpr std::size_t MAXIMUM_SCRIPTS = 2000;
 
 private:
-  void ReadMod(const em5::Mod& mod);
-  void ReadScripts(const em5::Mod& mod, const boost::property_tree::ptree& root);
-  bool ReadScript(const em5::Mod& mod, const boost::property_tree::ptree& root, MapScriptEntry& entry) const;
-  void ParseScripts();
-  void StartGameScript();
-  void StartScriptsOfMap(bool (*isStarted)(ScriptMode));
-  void StartScript(MapScriptEntry& entry);
+  void readMod(const em5::Mod& mod);
+  void readScripts(const em5::Mod& mod, const boost::property_tree::ptree& root);
+  bool readScript(const em5::Mod& mod, const boost::property_tree::ptree& root, MapScriptEntry& entry) const;
+  void parseScripts();
+  void startGameScript();
+  void startScriptsOfMap(bool (*isStarted)(ScriptMode));
+  void startScript(MapScriptEntry& entry);
   /// Takes the entry off the list; what it was running has been stopped. Tools are told what became of it, if anything.
-  void RemoveEntry(std::size_t index, const std::string& fate);
+  void removeEntry(std::size_t index, const std::string& fate);
   /// Stops and removes all entries.
-  void ForgetScripts();
-  bool MayStartAnother(const std::string& path);
-  void EditorJob(const qsf::JobArguments& arguments);
-  void OnGameStartupFinished();
+  void forgetScripts();
+  bool mayStartAnother(const std::string& path);
+  void editorJob(const qsf::JobArguments& arguments);
+  void onGameStartupFinished();
 
   std::shared_ptr<GlobalStores> mGlobalStores = std::make_shared<GlobalStores>();
   std::vector<MapScriptEntry*> mScriptEntries;

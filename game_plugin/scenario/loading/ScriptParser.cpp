@@ -42,20 +42,20 @@ public:
 
 private:
   void readLine(const Line& line) {
-    if (line.kind == LineKind::Empty || line.kind == LineKind::Comment) return;
+    if (line.kind == LineKind::EMPTY || line.kind == LineKind::COMMENT) return;
     mBuilder.setLine(line.number);
     switch (line.kind) {
-    case LineKind::Invalid:
+    case LineKind::INVALID:
       return drop(line, LOG_INFO, "Command is invalid: " + std::string(line.text));
-    case LineKind::NewTrigger:
+    case LineKind::NEW_TRIGGER:
       return beginTrigger(line);
-    case LineKind::Conditions:
+    case LineKind::CONDITIONS:
       return beginConditions(line);
-    case LineKind::If:
+    case LineKind::IF:
       return beginBlock();
-    case LineKind::Condition:
+    case LineKind::CONDITION:
       return readCondition(line);
-    case LineKind::Effect:
+    case LineKind::EFFECT:
       return readEffect(line);
     default:
       return; // the text's reader has drawn the consequences

@@ -40,7 +40,7 @@ struct ConditionEntry {
 };
 
 /// Effects that the effect loop runs itself.
-enum class EffectKind : unsigned char { Ordinary, Return, PrintTriggerInfo, UseConditionalBlock };
+enum class EffectKind : unsigned char { ORDINARY, RETURN, PRINT_TRIGGER_INFO, USE_CONDITIONAL_BLOCK };
 
 /// One effect of the catalogue, made by EFFECT.
 struct EffectEntry {
@@ -52,7 +52,7 @@ struct EffectEntry {
   /// Null for an entry that no executor knows, or that the effect loop runs itself.
   void (*run)(const DefaultEffect& record, ScenarioHandler& handler, std::uint32_t triggerHash);
   Oddities oddities;
-  EffectKind kind = EffectKind::Ordinary;
+  EffectKind kind = EffectKind::ORDINARY;
 };
 
 namespace detail {

@@ -30,12 +30,12 @@ std::string forName(std::string_view name) { return name.empty() ? "" : " for " 
 /// True if the parameter names a variable or list that the entry writes.
 bool writesName(ParameterRole role) {
   switch (role) {
-  case ParameterRole::VariableOut:
-  case ParameterRole::VariableInOut:
-  case ParameterRole::StringVariableOut:
-  case ParameterRole::StringVariableInOut:
-  case ParameterRole::ListOut:
-  case ParameterRole::ListInOut:
+  case ParameterRole::VARIABLE_OUT:
+  case ParameterRole::VARIABLE_IN_OUT:
+  case ParameterRole::STRING_VARIABLE_OUT:
+  case ParameterRole::STRING_VARIABLE_IN_OUT:
+  case ParameterRole::LIST_OUT:
+  case ParameterRole::LIST_IN_OUT:
     return true;
   default:
     return false;
@@ -84,36 +84,36 @@ T ParameterReader::convert(ParameterRole role, int index, T defaultValue, Text n
   mBuilder->log(LOG_INFO, std::string(token->text));
   mBuilder->log(LOG_INFO, "Cant cast your property: " + std::string(name) + ". Using " + toText(defaultValue) + ".");
   if (hints::isOn())
-    hints::tell(HintKind::Conversion, "\"" + std::string(token->text) + "\" is no " +
+    hints::tell(HintKind::CONVERSION, "\"" + std::string(token->text) + "\" is no " +
                                           (std::is_same_v<T, float> ? "number" : "whole number") + forName(name) +
                                           "; " + toText(defaultValue) + " is used");
   return defaultValue;
 }
 
 ParameterText ParameterReader::property(int i, int componentIndex, Text def, Text name, Text text) {
-  const ParameterText result = read(ParameterRole::Property, i, def, name, text);
+  const ParameterText result = read(ParameterRole::PROPERTY, i, def, name, text);
   if (mDocumentation) mDocumentation->back().componentIndex = componentIndex;
   return result;
 }
 
 ParameterText ParameterReader::comparison(int i, Text def, Text name, Text text) {
-  const ParameterText result = read(ParameterRole::Comparison, i, def, name, text);
+  const ParameterText result = read(ParameterRole::COMPARISON, i, def, name, text);
   if (mDocumentation) {
     mDocumentation->back().words.assign(COMPARISON_OPERATORS.begin(), COMPARISON_OPERATORS.end());
   } else if (hints::isOn() && std::ranges::find(COMPARISON_OPERATORS, Text(result)) == COMPARISON_OPERATORS.end()) {
-    hints::tell(HintKind::Operator, "\"" + std::string(result) + "\" is no operator and means <",
+    hints::tell(HintKind::OPERATOR, "\"" + std::string(result) + "\" is no operator and means <",
                 hints::nearest(result, COMPARISON_OPERATORS));
   }
   return result;
 }
 
 ParameterText ParameterReader::words(int i, Text def, Text name, Text text, WordList accepted) {
-  const ParameterText result = read(ParameterRole::Words, i, def, name, text);
+  const ParameterText result = read(ParameterRole::WORDS, i, def, name, text);
   if (mDocumentation) {
     mDocumentation->back().words.assign(accepted.begin(), accepted.end());
   } else if (hints::isOn() && result != def && !result.starts_with("svar(") &&
              std::ranges::find(accepted, Text(result)) == accepted.end()) {
-    hints::tell(HintKind::Word, "\"" + std::string(result) + "\" is no word that " + std::string(name) + " knows",
+    hints::tell(HintKind::WORD, "\"" + std::string(result) + "\" is no word that " + std::string(name) + " knows",
                 hints::nearest(result, accepted));
   }
   return result;
@@ -122,7 +122,7 @@ ParameterText ParameterReader::words(int i, Text def, Text name, Text text, Word
 bool ParameterReader::flag(int i, bool def, Text name, Text text) {
   if (mDocumentation) {
     mDocumentation->push_back(
-        {"bool", name, def ? "true" : "false", text, i, ParameterRole::Flag, 0, {"true", "false"}});
+        {"bool", name, def ? "true" : "false", text, i, ParameterRole::FLAG, 0, {"true", "false"}});
     return def;
   }
   const std::size_t position = static_cast<std::size_t>(i);
@@ -133,7 +133,7 @@ bool ParameterReader::flag(int i, bool def, Text name, Text text) {
   if (!name.empty())
     mBuilder->log(LOG_INFO, "Boolvalue: " + std::string(name) + " cant be read.|" + std::string(token) + "|");
   if (hints::isOn())
-    hints::tell(HintKind::Word, "\"" + std::string(token) + "\" is neither true nor false; " +
+    hints::tell(HintKind::WORD, "\"" + std::string(token) + "\" is neither true nor false; " +
                                     (def ? "true" : "false") + " is used" + forName(name));
   return def;
 }
@@ -143,11 +143,11 @@ int ParameterReader::integer(int i, int def, Text name, Text text, ParameterRole
 }
 
 float ParameterReader::decimal(int i, float def, Text name, Text text) {
-  return convert<float>(ParameterRole::Decimal, i, def, name, text);
+  return convert<float>(ParameterRole::DECIMAL, i, def, name, text);
 }
 
 std::uint64_t ParameterReader::id(int i, std::uint64_t def, Text name, Text text) {
-  return convert<std::uint64_t>(ParameterRole::Id, i, def, name, text);
+  return convert<std::uint64_t>(ParameterRole::ID, i, def, name, text);
 }
 
 std::uint32_t ParameterReader::reserveState() { return mBuilder ? mBuilder->reserveState() : 0; }

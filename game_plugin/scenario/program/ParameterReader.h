@@ -25,7 +25,7 @@ struct ParameterDocumentation {
   std::string defaultValue;
   std::string_view description;
   int index = 0; ///< position in the line, from 1
-  ParameterRole role = ParameterRole::Raw;
+  ParameterRole role = ParameterRole::RAW;
   int componentIndex = 0;              ///< of a property: the parameter that names its component
   std::vector<std::string_view> words; ///< accepted ones, if the role has some
 };
@@ -62,53 +62,53 @@ public:
   ProgramBuilder& builder() const { return *mBuilder; }
 
   ParameterText number(int i, Text def, Text name, Text text) {
-    return read(ParameterRole::Number, i, def, name, text);
+    return read(ParameterRole::NUMBER, i, def, name, text);
   }
   ParameterText variableIn(int i, Text def, Text name, Text text) {
-    return read(ParameterRole::VariableIn, i, def, name, text);
+    return read(ParameterRole::VARIABLE_IN, i, def, name, text);
   }
   ParameterText variableOut(int i, Text def, Text name, Text text) {
-    return read(ParameterRole::VariableOut, i, def, name, text);
+    return read(ParameterRole::VARIABLE_OUT, i, def, name, text);
   }
   ParameterText variableInOut(int i, Text def, Text name, Text text) {
-    return read(ParameterRole::VariableInOut, i, def, name, text);
+    return read(ParameterRole::VARIABLE_IN_OUT, i, def, name, text);
   }
-  ParameterText text(int i, Text def, Text name, Text text) { return read(ParameterRole::Text, i, def, name, text); }
+  ParameterText text(int i, Text def, Text name, Text text) { return read(ParameterRole::TEXT, i, def, name, text); }
   ParameterText stringVariableIn(int i, Text def, Text name, Text text) {
-    return read(ParameterRole::StringVariableIn, i, def, name, text);
+    return read(ParameterRole::STRING_VARIABLE_IN, i, def, name, text);
   }
   ParameterText stringVariableOut(int i, Text def, Text name, Text text) {
-    return read(ParameterRole::StringVariableOut, i, def, name, text);
+    return read(ParameterRole::STRING_VARIABLE_OUT, i, def, name, text);
   }
   ParameterText stringVariableInOut(int i, Text def, Text name, Text text) {
-    return read(ParameterRole::StringVariableInOut, i, def, name, text);
+    return read(ParameterRole::STRING_VARIABLE_IN_OUT, i, def, name, text);
   }
-  ParameterText list(int i, Text def, Text name, Text text) { return read(ParameterRole::List, i, def, name, text); }
+  ParameterText list(int i, Text def, Text name, Text text) { return read(ParameterRole::LIST, i, def, name, text); }
   ParameterText listOut(int i, Text def, Text name, Text text) {
-    return read(ParameterRole::ListOut, i, def, name, text);
+    return read(ParameterRole::LIST_OUT, i, def, name, text);
   }
   ParameterText listInOut(int i, Text def, Text name, Text text) {
-    return read(ParameterRole::ListInOut, i, def, name, text);
+    return read(ParameterRole::LIST_IN_OUT, i, def, name, text);
   }
   ParameterText trigger(int i, Text def, Text name, Text text) {
-    return read(ParameterRole::Trigger, i, def, name, text);
+    return read(ParameterRole::TRIGGER, i, def, name, text);
   }
   ParameterText component(int i, Text def, Text name, Text text) {
-    return read(ParameterRole::Component, i, def, name, text);
+    return read(ParameterRole::COMPONENT, i, def, name, text);
   }
   /// A property of the component that the parameter at `componentIndex` names.
   ParameterText property(int i, int componentIndex, Text def, Text name, Text text);
   ParameterText prefab(int i, Text def, Text name, Text text) {
-    return read(ParameterRole::Prefab, i, def, name, text);
+    return read(ParameterRole::PREFAB, i, def, name, text);
   }
   ParameterText vector(int i, Text def, Text name, Text text) {
-    return read(ParameterRole::Vector, i, def, name, text);
+    return read(ParameterRole::VECTOR, i, def, name, text);
   }
   /// A text that stands for itself.
-  ParameterText raw(int i, Text def, Text name, Text text) { return read(ParameterRole::Raw, i, def, name, text); }
+  ParameterText raw(int i, Text def, Text name, Text text) { return read(ParameterRole::RAW, i, def, name, text); }
   /// Read because scripts write it, without influence.
   ParameterText unused(int i, Text def, Text name, Text text) {
-    return read(ParameterRole::Unused, i, def, name, text);
+    return read(ParameterRole::UNUSED, i, def, name, text);
   }
   /// An operator of CompareValues.
   ParameterText comparison(int i, Text def, Text name, Text text);
@@ -118,7 +118,7 @@ public:
   ParameterText of(ParameterRole role, int i, Text def, Text name, Text text) { return read(role, i, def, name, text); }
 
   bool flag(int i, bool def, Text name, Text text);
-  int integer(int i, int def, Text name, Text text, ParameterRole role = ParameterRole::Integer);
+  int integer(int i, int def, Text name, Text text, ParameterRole role = ParameterRole::INTEGER);
   float decimal(int i, float def, Text name, Text text);
   std::uint64_t id(int i, std::uint64_t def, Text name, Text text);
 

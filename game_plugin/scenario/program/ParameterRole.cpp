@@ -7,7 +7,7 @@ namespace script {
 
 namespace {
 
-constexpr std::array<std::string_view, static_cast<std::size_t>(ParameterRole::Count_)> NAMES = {
+constexpr std::array<std::string_view, static_cast<std::size_t>(ParameterRole::COUNT)> NAMES = {
     "number",
     "variable in",
     "variable out",

@@ -15,7 +15,7 @@ std::uint32_t nextStoreEpoch();
 }
 
 /// The global mark `§` is one byte in a code page and two in UTF-8; scripts of both share the global stores.
-enum class StoreMarks : unsigned char { AsWritten, One };
+enum class StoreMarks : unsigned char { AS_WRITTEN, ONE };
 
 namespace detail {
 /// The name with its marks in UTF-8, written to `buffer` if that differs.
@@ -30,7 +30,7 @@ template <class T> class Store {
 public:
   static constexpr std::size_t NOT_FOUND = ~std::size_t{0};
 
-  explicit Store(StoreMarks marks = StoreMarks::AsWritten) : mMarks(marks) {}
+  explicit Store(StoreMarks marks = StoreMarks::AS_WRITTEN) : mMarks(marks) {}
 
   std::size_t size() const { return mNames.size(); }
   const std::string& name(std::size_t index) const { return mNames[index]; }
@@ -40,12 +40,12 @@ public:
   /// The name as this store spells it.
   std::string spell(std::string_view name) const {
     std::string buffer;
-    return std::string(mMarks == StoreMarks::One ? detail::withOneMark(name, buffer) : name);
+    return std::string(mMarks == StoreMarks::ONE ? detail::withOneMark(name, buffer) : name);
   }
 
   std::size_t find(std::string_view written) const {
     std::string buffer;
-    const std::string_view name = mMarks == StoreMarks::One ? detail::withOneMark(written, buffer) : written;
+    const std::string_view name = mMarks == StoreMarks::ONE ? detail::withOneMark(written, buffer) : written;
     if (size() <= LINEAR_LIMIT) {
       for (std::size_t i = 0; i < mNames.size(); ++i)
         if (mNames[i] == name) return i;
@@ -63,7 +63,7 @@ public:
   }
   std::size_t append(std::string_view written, T value) {
     std::string buffer;
-    mNames.emplace_back(mMarks == StoreMarks::One ? detail::withOneMark(written, buffer) : written);
+    mNames.emplace_back(mMarks == StoreMarks::ONE ? detail::withOneMark(written, buffer) : written);
     mValues.push_back(std::move(value));
     return mNames.size() - 1;
   }

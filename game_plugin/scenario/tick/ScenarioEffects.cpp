@@ -82,22 +82,22 @@ std::uint32_t ScenarioEffects::runList(const Effects& effects, std::uint32_t tri
     const EffectEntry& entry = *effect->entry;
     executionPoint.line = effect->line;
     switch (entry.kind) {
-    case EffectKind::Return:
+    case EffectKind::RETURN:
       return 1;
-    case EffectKind::PrintTriggerInfo:
+    case EffectKind::PRINT_TRIGGER_INFO:
       mHandler->PrintTriggerInfo(triggerHash);
       break;
-    case EffectKind::UseConditionalBlock:
+    case EffectKind::USE_CONDITIONAL_BLOCK:
       if (runBlock(*effect, nesting) == 1) return 1;
       break;
-    case EffectKind::Ordinary:
+    case EffectKind::ORDINARY:
       if (entry.run)
         entry.run(*effect, *mHandler, triggerHash);
       else
         logInfo("[MS] Error: Effect " + std::string(entry.name) + " was not found");
       break;
     }
-    if (mHandler->IsStopped()) return 1;
+    if (mHandler->isStopped()) return 1;
   }
   return 0;
 }
@@ -105,14 +105,14 @@ std::uint32_t ScenarioEffects::runList(const Effects& effects, std::uint32_t tri
 std::uint32_t ScenarioEffects::runBlock(const DefaultEffect& effect, Nesting& nesting) const {
   const auto& use = static_cast<const UseConditionalBlockEffect&>(effect);
   // Only a handwritten line can name indices that don't exist; the fault then ends the tick of this script.
-  const auto& triggers = mHandler->GetDocument()->program->triggers();
+  const auto& triggers = mHandler->getDocument()->program->triggers();
   const std::size_t index = static_cast<std::size_t>(use.triggerIndex);
   if (index >= triggers.size()) throw std::out_of_range("invalid vector<T> subscript");
   const TriggerProgram& trigger = *triggers[index];
   const ConditionalBlock& block = *trigger.conditionalBlocks.at(static_cast<std::size_t>(use.blockIndex));
   nesting.enter(block.conditions.size() + std::max(block.thenEffects.size(), block.elseEffects.size()));
   std::uint32_t fulfilled = 0;
-  const bool holds = mHandler->GetConditions().evaluate(
+  const bool holds = mHandler->getConditions().evaluate(
       qsf::Time::ZERO, block.conditions, static_cast<std::uint32_t>(block.conditions.size()), fulfilled, nullptr);
   const std::uint32_t result = runList(holds ? block.thenEffects : block.elseEffects, trigger.globalNameHash, nesting);
   nesting.leave();

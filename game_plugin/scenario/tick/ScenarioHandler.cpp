@@ -29,11 +29,11 @@ void freeRetiredHandlers() {
 
 qsf::StringHash jobManagerOf(StartKind kind) {
   switch (kind) {
-  case StartKind::Simulation:
+  case StartKind::SIMULATION:
     return em5::Jobs::SIMULATION_LOGIC;
-  case StartKind::Animation:
+  case StartKind::ANIMATION:
     return em5::Jobs::ANIMATION_VEHICLE;
-  case StartKind::Realtime:
+  case StartKind::REALTIME:
     break;
   }
   return em5::Jobs::REALTIME_GUI_DEBUG;
@@ -78,7 +78,7 @@ void ScenarioHandler::SetDocument(std::shared_ptr<ScriptDocument> document) {
   mPlaces.assign(mDocument ? mDocument->program->numberOfSlots() : 1, Place());
 }
 
-void ScenarioHandler::Retire(ScenarioHandler* handler) {
+void ScenarioHandler::retire(ScenarioHandler* handler) {
   if (!handler) return;
   handler->mStopped = true;
   handler->mUpdateJobProxy.unregister();
@@ -114,37 +114,37 @@ void ScenarioHandler::Update(const qsf::JobArguments& arguments) {
     ScenarioTrigger& trigger = mDocument->triggers[i];
     if (!trigger.active) continue;
     if (isClient && trigger.program->multiplayerMode != 2)
-      TickOnClient(trigger);
-    else if (Tick(trigger))
+      tickOnClient(trigger);
+    else if (tick(trigger))
       isClient = isLocalPlayerClient(); // effects may change whose machine this is
   }
 }
 
 /// Reads the trigger as it stands when its turn comes. Conditions can't change what is read here, so no copy is needed.
-bool ScenarioHandler::Holds(const ScenarioTrigger& trigger, std::uint32_t& fulfilled) const {
+bool ScenarioHandler::holds(const ScenarioTrigger& trigger, std::uint32_t& fulfilled) const {
   return mConditions.evaluate(mDocument->time - trigger.lastTimeActive, trigger.program->conditions,
                               static_cast<std::uint32_t>(trigger.program->requiredConditions), fulfilled, &trigger);
 }
 
-bool ScenarioHandler::Tick(ScenarioTrigger& trigger) {
+bool ScenarioHandler::tick(ScenarioTrigger& trigger) {
   std::uint32_t fulfilled = 0;
-  const bool fires = Holds(trigger, fulfilled);
-  if (fires) Fire(trigger);
+  const bool fires = holds(trigger, fulfilled);
+  if (fires) fire(trigger);
   trigger.fulfilledConditions = fulfilled;
   return fires;
 }
 
-void ScenarioHandler::TickOnClient(ScenarioTrigger& trigger) {
+void ScenarioHandler::tickOnClient(ScenarioTrigger& trigger) {
   if (trigger.program->multiplayerMode == 0) return; // the host runs it
   // What is sent along is what the trigger held when its turn came.
   const std::vector<std::uint64_t> callers = trigger.callers();
   const std::uint64_t target = trigger.target();
   std::uint32_t fulfilled = 0;
-  if (Holds(trigger, fulfilled)) FireOnClient(trigger, callers, target);
+  if (holds(trigger, fulfilled)) fireOnClient(trigger, callers, target);
   trigger.fulfilledConditions = fulfilled;
 }
 
-void ScenarioHandler::Fire(ScenarioTrigger& trigger) {
+void ScenarioHandler::fire(ScenarioTrigger& trigger) {
   if (trigger.call && trigger.program->multiplayerMode == 1 && hasLocalPlayer()) trigger.call->player = 0;
   trigger.lastTimeActive = mDocument->time;
   if (!trigger.looped) trigger.active = false; // before the effects, so that one of them can switch it on again
@@ -152,7 +152,7 @@ void ScenarioHandler::Fire(ScenarioTrigger& trigger) {
   mEffects.run(trigger.program->effects, trigger.globalNameHash());
 }
 
-void ScenarioHandler::FireOnClient(ScenarioTrigger& trigger, const std::vector<std::uint64_t>& callers,
+void ScenarioHandler::fireOnClient(ScenarioTrigger& trigger, const std::vector<std::uint64_t>& callers,
                                    std::uint64_t target) {
   trigger.lastTimeActive = mDocument->time;
   if (!trigger.looped) trigger.active = false;
@@ -222,6 +222,6 @@ void ScenarioHandler::PrintTriggerInfo(std::uint32_t hash) const {
             std::string(trigger->globalName()) + "\" Stringhash: \"" + std::to_string(hash) + "\"");
 }
 
-std::string ScenarioHandler::GlobalMark() const { return std::string(mDocument ? mDocument->globalMark() : "\xA7"); }
+std::string ScenarioHandler::globalMark() const { return std::string(mDocument ? mDocument->globalMark() : "\xA7"); }
 
 }

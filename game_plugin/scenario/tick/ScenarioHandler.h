@@ -23,9 +23,9 @@ namespace script {
 /// The stores that all scripts share. Owned by MapScriptManager; handlers hold on to them, so that a script which is
 /// being stopped with its manager can end its effect.
 struct GlobalStores {
-  Store<float> variables{StoreMarks::One};
-  Store<std::string> stringVariables{StoreMarks::One};
-  Store<EntityList> entityLists{StoreMarks::One};
+  Store<float> variables{StoreMarks::ONE};
+  Store<std::string> stringVariables{StoreMarks::ONE};
+  Store<EntityList> entityLists{StoreMarks::ONE};
 
   ~GlobalStores();
 };
@@ -34,7 +34,7 @@ class ScenarioHandler;
 struct JsonStore;
 
 /// Kinds of job that a handler can be started on.
-enum class StartKind : std::uint32_t { Realtime = 0, Simulation = 1, Animation = 2 };
+enum class StartKind : std::uint32_t { REALTIME = 0, SIMULATION = 1, ANIMATION = 2 };
 
 /// All scripts that there are, as handlers see them. MapScriptManager is the one that lives.
 class ScriptDirectory {
@@ -56,19 +56,19 @@ public:
   ScenarioHandler& operator=(const ScenarioHandler&) = delete;
 
   /// Stops the handler and frees it as soon as none of its effects is running. Null is allowed.
-  static void Retire(ScenarioHandler* handler);
+  static void retire(ScenarioHandler* handler);
 
   void SetDocument(std::shared_ptr<ScriptDocument> document);
-  ScriptDocument* GetDocument() const { return mDocument.get(); }
-  const ScenarioConditions& GetConditions() const { return mConditions; }
-  const ScenarioEffects& GetEffects() const { return mEffects; }
+  ScriptDocument* getDocument() const { return mDocument.get(); }
+  const ScenarioConditions& getConditions() const { return mConditions; }
+  const ScenarioEffects& getEffects() const { return mEffects; }
 
   /// Resets the running fields of the triggers and registers the job. The stores stay.
   void Start(StartKind kind);
   /// One tick.
   void Update(const qsf::JobArguments& arguments);
-  /// Stopped by Retire: no further effect runs.
-  bool IsStopped() const { return mStopped; }
+  /// Stopped by retire: no further effect runs.
+  bool isStopped() const { return mStopped; }
 
   /// Switches a trigger of this script. An empty name does nothing; a name that isn't found is logged. Switching on an
   /// inactive trigger restarts its timers.
@@ -97,7 +97,7 @@ public:
     const ArgumentText& text = argument.info();
     if (text.isNumber) return text.number;
     const Place& place = mPlaces[text.slot];
-    return place.epoch == variables.epoch() ? variables.value(place.index) : SearchFloat(text);
+    return place.epoch == variables.epoch() ? variables.value(place.index) : searchFloat(text);
   }
   float ResolveFloat(const std::string& text);
   /// The text itself, or the string variable of `svar(name`. The reference holds until that variable is erased or
@@ -116,7 +116,7 @@ public:
     if (place.epoch == variables.epoch())
       variables.value(place.index) = value;
     else
-      SearchAndSetFloat(name.info(), value);
+      searchAndSetFloat(name.info(), value);
   }
   void SetFloatVariable(const std::string& name, float value);
   void SetStringVariable(const std::string& name, const std::string& value);
@@ -124,9 +124,9 @@ public:
   void AddToEntityList(const Argument& name, std::uint64_t id);
   void AddToEntityList(const std::string& name, std::uint64_t id);
   /// Number of ids that ResolveEntityList gives, without the copy; creates a missing list as it does.
-  std::size_t GetEntityListSize(const Argument& argument);
+  std::size_t getEntityListSize(const Argument& argument);
   /// Whether ResolveEntityList gives that id, without the copy; creates a missing list as it does.
-  bool IsInEntityList(const Argument& argument, std::uint64_t id);
+  bool isInEntityList(const Argument& argument, std::uint64_t id);
   void RemoveFromEntityList(const std::string& name, std::uint64_t id);
   /// Removes many ids, in ascending order, at the cost of one walk.
   void RemoveFromEntityList(const std::string& name, std::span<const std::uint64_t> sortedIds);
@@ -151,12 +151,12 @@ public:
   Store<EntityList> entityLists;
   Store<bool> boolVariables;
   Store<std::vector<std::string>> stringLists;
-  JsonStore& GetJsonStore() const { return *mJsonVariables; }
-  GlobalStores& GetGlobalStores() const { return *mGlobal; }
+  JsonStore& getJsonStore() const { return *mJsonVariables; }
+  GlobalStores& getGlobalStores() const { return *mGlobal; }
   /// Removes every local entry of that name.
-  void RemoveLocalVariable(const std::string& name);
-  void RemoveLocalStringVariable(const std::string& name);
-  void RemoveLocalEntityList(const std::string& name);
+  void removeLocalVariable(const std::string& name);
+  void removeLocalStringVariable(const std::string& name);
+  void removeLocalEntityList(const std::string& name);
 
   /// What a record remembers in this run of its script.
   template <class T> T& stateOf(const RunState<T>& state) {
@@ -164,7 +164,7 @@ public:
   }
 
   /// The global mark `§` as this script's file writes it.
-  std::string GlobalMark() const;
+  std::string globalMark() const;
 
 private:
   class RunningScope;
@@ -174,22 +174,22 @@ private:
     std::uint32_t epoch = 0;
     std::uint32_t index = 0;
   };
-  enum class Access : unsigned char { Read, Write };
+  enum class Access : unsigned char { READ, WRITE };
 
-  bool Holds(const ScenarioTrigger& trigger, std::uint32_t& fulfilled) const;
+  bool holds(const ScenarioTrigger& trigger, std::uint32_t& fulfilled) const;
   /// Returns whether the trigger fired.
-  bool Tick(ScenarioTrigger& trigger);
-  void TickOnClient(ScenarioTrigger& trigger);
-  void Fire(ScenarioTrigger& trigger);
-  void FireOnClient(ScenarioTrigger& trigger, const std::vector<std::uint64_t>& callers, std::uint64_t target);
-  float SearchFloat(const ArgumentText& text);
-  void SearchAndSetFloat(const ArgumentText& name, float value);
+  bool tick(ScenarioTrigger& trigger);
+  void tickOnClient(ScenarioTrigger& trigger);
+  void fire(ScenarioTrigger& trigger);
+  void fireOnClient(ScenarioTrigger& trigger, const std::vector<std::uint64_t>& callers, std::uint64_t target);
+  float searchFloat(const ArgumentText& text);
+  void searchAndSetFloat(const ArgumentText& name, float value);
   template <class Value>
-  std::size_t Locate(const ArgumentText& text, std::string_view name, Store<Value>& store, Access access);
+  std::size_t locate(const ArgumentText& text, std::string_view name, Store<Value>& store, Access access);
 
-  Store<float>& VariablesOf(bool global) { return global ? mGlobal->variables : variables; }
-  Store<std::string>& StringVariablesOf(bool global) { return global ? mGlobal->stringVariables : stringVariables; }
-  Store<EntityList>& EntityListsOf(bool global) { return global ? mGlobal->entityLists : entityLists; }
+  Store<float>& variablesOf(bool global) { return global ? mGlobal->variables : variables; }
+  Store<std::string>& stringVariablesOf(bool global) { return global ? mGlobal->stringVariables : stringVariables; }
+  Store<EntityList>& entityListsOf(bool global) { return global ? mGlobal->entityLists : entityLists; }
 
   std::shared_ptr<GlobalStores> mGlobal;
   std::unique_ptr<JsonStore> mJsonVariables;

@@ -49,69 +49,69 @@ template <class Value> std::size_t readByName(Store<Value>& store, const std::st
 /// Index of the name's entry, appended if it is missing. Costs no search while the store has the epoch of the last use.
 /// With hints on, a name that nobody has written yet is searched each time, so that each read of it is told.
 template <class Value>
-std::size_t ScenarioHandler::Locate(const ArgumentText& text, std::string_view name, Store<Value>& store,
+std::size_t ScenarioHandler::locate(const ArgumentText& text, std::string_view name, Store<Value>& store,
                                     Access access) {
   Place& place = mPlaces[text.slot];
   if (place.epoch == store.epoch()) return place.index;
   const std::size_t found = store.findOrAppend(name);
-  if (hints::isOn() && access == Access::Read && hints::noteRead(&store, KIND<Value>, store.name(found))) return found;
-  if (hints::isOn() && access == Access::Write) hints::noteWritten(&store, store.name(found));
+  if (hints::isOn() && access == Access::READ && hints::noteRead(&store, KIND<Value>, store.name(found))) return found;
+  if (hints::isOn() && access == Access::WRITE) hints::noteWritten(&store, store.name(found));
   place = {store.epoch(), static_cast<std::uint32_t>(found)};
   return found;
 }
 
-float ScenarioHandler::SearchFloat(const ArgumentText& text) {
-  Store<float>& store = VariablesOf(text.isGlobal);
-  return store.value(Locate(text, text.text, store, Access::Read));
+float ScenarioHandler::searchFloat(const ArgumentText& text) {
+  Store<float>& store = variablesOf(text.isGlobal);
+  return store.value(locate(text, text.text, store, Access::READ));
 }
 
 float ScenarioHandler::ResolveFloat(const std::string& text) {
   float number = 0;
   if (textToFloat(text, number)) return number;
-  Store<float>& store = VariablesOf(isGlobalName(text));
+  Store<float>& store = variablesOf(isGlobalName(text));
   return store.value(readByName(store, text));
 }
 
 const std::string& ScenarioHandler::ResolveString(const Argument& argument) {
   const ArgumentText& info = argument.info();
   if (!info.isVariableReference) return info.text;
-  Store<std::string>& store = StringVariablesOf(info.isReferenceGlobal);
-  return store.value(Locate(info, info.referencedName(), store, Access::Read));
+  Store<std::string>& store = stringVariablesOf(info.isReferenceGlobal);
+  return store.value(locate(info, info.referencedName(), store, Access::READ));
 }
 
 std::string ScenarioHandler::ResolveString(const std::string& text) {
   if (text.find("svar(") == std::string::npos) return text;
   const std::string name = text.substr(5); // whatever stood before "svar("; other places give a senseless name
-  Store<std::string>& store = StringVariablesOf(isGlobalName(name));
+  Store<std::string>& store = stringVariablesOf(isGlobalName(name));
   return store.value(readByName(store, name));
 }
 
 EntityIds ScenarioHandler::ResolveEntityList(const Argument& argument) {
   const ArgumentText& info = argument.info();
   if (info.ids) return EntityIds(*info.ids);
-  Store<EntityList>& store = EntityListsOf(info.isGlobal);
-  return EntityIds(store.value(Locate(info, info.text, store, Access::Read)).ids());
+  Store<EntityList>& store = entityListsOf(info.isGlobal);
+  return EntityIds(store.value(locate(info, info.text, store, Access::READ)).ids());
 }
 
 EntityIds ScenarioHandler::ResolveEntityList(const std::string& text) {
   EntityIds ids;
   if (textToIds(text, ids.vector())) return ids;
-  Store<EntityList>& store = EntityListsOf(isGlobalName(text));
+  Store<EntityList>& store = entityListsOf(isGlobalName(text));
   return EntityIds(store.value(readByName(store, text)).ids());
 }
 
-std::size_t ScenarioHandler::GetEntityListSize(const Argument& argument) {
+std::size_t ScenarioHandler::getEntityListSize(const Argument& argument) {
   const ArgumentText& info = argument.info();
   if (info.ids) return info.ids->size();
-  Store<EntityList>& store = EntityListsOf(info.isGlobal);
-  return store.value(Locate(info, info.text, store, Access::Read)).size();
+  Store<EntityList>& store = entityListsOf(info.isGlobal);
+  return store.value(locate(info, info.text, store, Access::READ)).size();
 }
 
-bool ScenarioHandler::IsInEntityList(const Argument& argument, std::uint64_t id) {
+bool ScenarioHandler::isInEntityList(const Argument& argument, std::uint64_t id) {
   const ArgumentText& info = argument.info();
   if (info.ids) return std::find(info.ids->begin(), info.ids->end(), id) != info.ids->end();
-  Store<EntityList>& store = EntityListsOf(info.isGlobal);
-  return store.value(Locate(info, info.text, store, Access::Read)).contains(id);
+  Store<EntityList>& store = entityListsOf(info.isGlobal);
+  return store.value(locate(info, info.text, store, Access::READ)).contains(id);
 }
 
 bool ScenarioHandler::SplitVecInXYZ(const Argument& argument, float& x, float& y, float& z) {
@@ -132,46 +132,46 @@ bool ScenarioHandler::SplitVecInXYZ(const std::string& text, float& x, float& y,
   return true;
 }
 
-void ScenarioHandler::SearchAndSetFloat(const ArgumentText& name, float value) {
+void ScenarioHandler::searchAndSetFloat(const ArgumentText& name, float value) {
   // A name that reads as a number is stored all the same; no use of it will ever see the entry.
-  Store<float>& store = VariablesOf(name.isGlobal);
-  store.value(Locate(name, name.text, store, Access::Write)) = value;
+  Store<float>& store = variablesOf(name.isGlobal);
+  store.value(locate(name, name.text, store, Access::WRITE)) = value;
 }
 
 void ScenarioHandler::SetFloatVariable(const std::string& name, float value) {
-  Store<float>& store = VariablesOf(isGlobalName(name));
+  Store<float>& store = variablesOf(isGlobalName(name));
   store.value(writeByName(store, name)) = value;
 }
 
 void ScenarioHandler::SetStringVariable(const std::string& name, const std::string& value) {
-  Store<std::string>& store = StringVariablesOf(isGlobalName(name));
+  Store<std::string>& store = stringVariablesOf(isGlobalName(name));
   store.value(writeByName(store, name)) = value;
 }
 
 void ScenarioHandler::AddToEntityList(const Argument& name, std::uint64_t id) {
-  Store<EntityList>& store = EntityListsOf(name.info().isGlobal);
-  store.value(Locate(name.info(), name.text(), store, Access::Write)).add(id);
+  Store<EntityList>& store = entityListsOf(name.info().isGlobal);
+  store.value(locate(name.info(), name.text(), store, Access::WRITE)).add(id);
 }
 
 void ScenarioHandler::AddToEntityList(const std::string& name, std::uint64_t id) {
-  Store<EntityList>& store = EntityListsOf(isGlobalName(name));
+  Store<EntityList>& store = entityListsOf(isGlobalName(name));
   store.value(writeByName(store, name)).add(id);
 }
 
 void ScenarioHandler::RemoveFromEntityList(const std::string& name, std::uint64_t id) {
-  Store<EntityList>& store = EntityListsOf(isGlobalName(name));
+  Store<EntityList>& store = entityListsOf(isGlobalName(name));
   const std::size_t index = store.find(name);
   if (index != store.NOT_FOUND) store.value(index).remove(id);
 }
 
 void ScenarioHandler::RemoveFromEntityList(const std::string& name, std::span<const std::uint64_t> sortedIds) {
-  Store<EntityList>& store = EntityListsOf(isGlobalName(name));
+  Store<EntityList>& store = entityListsOf(isGlobalName(name));
   const std::size_t index = store.find(name);
   if (index != store.NOT_FOUND) store.value(index).removeAll(sortedIds);
 }
 
 void ScenarioHandler::ClearEntityList(const Argument& name, bool removeList) {
-  Store<EntityList>& store = EntityListsOf(name.info().isGlobal);
+  Store<EntityList>& store = entityListsOf(name.info().isGlobal);
   const Place& place = mPlaces[name.info().slot];
   if (!removeList && place.epoch == store.epoch())
     store.value(place.index).clear();
@@ -180,7 +180,7 @@ void ScenarioHandler::ClearEntityList(const Argument& name, bool removeList) {
 }
 
 void ScenarioHandler::ClearEntityList(const std::string& name, bool removeList) {
-  Store<EntityList>& store = EntityListsOf(isGlobalName(name));
+  Store<EntityList>& store = entityListsOf(isGlobalName(name));
   const std::size_t index = store.find(name);
   if (!removeList) {
     if (index != store.NOT_FOUND) store.value(index).clear();
@@ -232,8 +232,8 @@ std::vector<std::string> ScenarioHandler::GetStringList(const std::string& name)
   return stringLists.value(stringLists.findOrAppend(name));
 }
 
-void ScenarioHandler::RemoveLocalVariable(const std::string& name) { eraseAllNamed(variables, name); }
-void ScenarioHandler::RemoveLocalStringVariable(const std::string& name) { eraseAllNamed(stringVariables, name); }
-void ScenarioHandler::RemoveLocalEntityList(const std::string& name) { eraseAllNamed(entityLists, name); }
+void ScenarioHandler::removeLocalVariable(const std::string& name) { eraseAllNamed(variables, name); }
+void ScenarioHandler::removeLocalStringVariable(const std::string& name) { eraseAllNamed(stringVariables, name); }
+void ScenarioHandler::removeLocalEntityList(const std::string& name) { eraseAllNamed(entityLists, name); }
 
 }

@@ -36,7 +36,7 @@ bool passes(UnitTest test, qsf::Entity* entity, const std::string& unitType) {
   if (test) return entity && test(*entity);
   logInfo("CheckUnitType: Unittype \"" + unitType + "\" is not defined");
   if (hints::isOn())
-    hints::tell(HintKind::Word, "\"" + unitType + "\" is no unit type", hints::nearest(unitType, unitTypeWords()));
+    hints::tell(HintKind::WORD, "\"" + unitType + "\" is no unit type", hints::nearest(unitType, unitTypeWords()));
   return false;
 }
 

@@ -33,13 +33,13 @@ bool isClass(const std::string& name) {
 
 void hintUnknownComponent(const std::string& className) {
   if (!isClass(className))
-    hints::tell(HintKind::Component, "there is no component \"" + className + "\"",
+    hints::tell(HintKind::COMPONENT, "there is no component \"" + className + "\"",
                 hints::nearest(className, componentClasses()));
 }
 
 void hintMissingComponent(const std::string& className) {
   if (isClass(className))
-    hints::tell(HintKind::Component, "no entity of the list has the component \"" + className + "\"");
+    hints::tell(HintKind::COMPONENT, "no entity of the list has the component \"" + className + "\"");
   else
     hintUnknownComponent(className);
 }
@@ -48,26 +48,26 @@ void hintFailedAccess(qsf::Component& component, const std::string& property, co
   const camp::UserObject object(component);
   const camp::Class& type = object.getClass();
   if (type.hasProperty(property))
-    return hints::tell(HintKind::Property, "the property \"" + property + "\" of " + type.name() +
+    return hints::tell(HintKind::PROPERTY, "the property \"" + property + "\" of " + type.name() +
                                                " is not what it is used as: " + fault.what());
   std::vector<std::string> names;
   for (std::size_t i = 0; i < type.propertyCount(); ++i)
     names.push_back(type.property(i).name());
-  hints::tell(HintKind::Property, "the component " + type.name() + " has no property \"" + property + "\"",
+  hints::tell(HintKind::PROPERTY, "the component " + type.name() + " has no property \"" + property + "\"",
               hints::nearest(property, names));
 }
 
 void hintLiteralIds(const Argument& list) {
   if (!list.info().ids) return;
   for (const std::uint64_t id : *list.info().ids)
-    if (!findEntity(id)) hints::tell(HintKind::Entity, "there is no entity " + std::to_string(id));
+    if (!findEntity(id)) hints::tell(HintKind::ENTITY, "there is no entity " + std::to_string(id));
 }
 
 void hintMissingAsset(const std::string& localAssetName) {
   const std::size_t typeBegin = localAssetName.find('/') + 1;
   const std::string type = localAssetName.substr(typeBegin, localAssetName.find('/', typeBegin) - typeBegin);
   const qsf::Qsf* host = qsf::Qsf::instance();
-  hints::tell(HintKind::Asset, "no project has the asset \"" + localAssetName + "\"",
+  hints::tell(HintKind::ASSET, "no project has the asset \"" + localAssetName + "\"",
               host ? hints::nearest(localAssetName, host->getProjectManager().getAssetNamesByType(type)) : "");
 }
 

@@ -88,7 +88,7 @@ protected:
         conditions.emplace_back(entry->name);
     for (const EffectGroup* group : ScenarioEffects::groups())
       for (const EffectEntry* entry : group->chain)
-        if (entry->kind == EffectKind::Ordinary || entry->kind == EffectKind::PrintTriggerInfo)
+        if (entry->kind == EffectKind::ORDINARY || entry->kind == EffectKind::PRINT_TRIGGER_INFO)
           effects.emplace_back(entry->name);
     std::string text;
     for (int trigger = 0; trigger < 40; ++trigger) {

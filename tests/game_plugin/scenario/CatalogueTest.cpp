@@ -100,7 +100,7 @@ TEST(Catalogue, EveryEntryCanBeTestedOrRun) {
       EXPECT_NE(entry->test, nullptr) << entry->name;
   for (const EffectGroup* group : ScenarioEffects::groups())
     for (const EffectEntry* entry : group->chain)
-      EXPECT_EQ(entry->run != nullptr, entry->kind == EffectKind::Ordinary) << entry->name;
+      EXPECT_EQ(entry->run != nullptr, entry->kind == EffectKind::ORDINARY) << entry->name;
 }
 
 struct Parameters {
@@ -150,13 +150,13 @@ TEST(Catalogue, ParametersStandSideBySideFromTheFirstPlaceOn) {
 TEST(Catalogue, TheRoleOfAParameterIsOneOfItsType) {
   const auto typeOf = [](ParameterRole role) -> std::string_view {
     switch (role) {
-    case ParameterRole::Flag:
+    case ParameterRole::FLAG:
       return "bool";
-    case ParameterRole::Integer:
+    case ParameterRole::INTEGER:
       return "int";
-    case ParameterRole::Decimal:
+    case ParameterRole::DECIMAL:
       return "float";
-    case ParameterRole::Id:
+    case ParameterRole::ID:
       return "uint64";
     default:
       return "string";
@@ -164,7 +164,7 @@ TEST(Catalogue, TheRoleOfAParameterIsOneOfItsType) {
   };
   for (const Parameters& parameters : describeAll())
     for (const ParameterDocumentation& parameter : parameters.all) {
-      ASSERT_LT(parameter.role, ParameterRole::Count_) << parameters.entry;
+      ASSERT_LT(parameter.role, ParameterRole::COUNT) << parameters.entry;
       EXPECT_EQ(parameter.type, typeOf(parameter.role)) << parameters.entry << " " << parameter.index;
     }
 }
@@ -172,21 +172,21 @@ TEST(Catalogue, TheRoleOfAParameterIsOneOfItsType) {
 TEST(Catalogue, APropertyIsOneOfAComponentThatTheLineNames) {
   for (const Parameters& parameters : describeAll())
     for (const ParameterDocumentation& parameter : parameters.all) {
-      if (parameter.role != ParameterRole::Property) {
+      if (parameter.role != ParameterRole::PROPERTY) {
         EXPECT_EQ(parameter.componentIndex, 0) << parameters.entry << " " << parameter.index;
         continue;
       }
       const ParameterDocumentation* component = parameters.at(parameter.componentIndex);
       ASSERT_NE(component, nullptr) << parameters.entry;
-      EXPECT_EQ(component->role, ParameterRole::Component) << parameters.entry << " " << parameter.index;
+      EXPECT_EQ(component->role, ParameterRole::COMPONENT) << parameters.entry << " " << parameter.index;
     }
 }
 
 TEST(Catalogue, WhereOneOfSomeWordsIsExpectedTheWordsAreTold) {
   for (const Parameters& parameters : describeAll())
     for (const ParameterDocumentation& parameter : parameters.all) {
-      const bool hasWords = parameter.role == ParameterRole::Words || parameter.role == ParameterRole::Comparison ||
-                            parameter.role == ParameterRole::Flag;
+      const bool hasWords = parameter.role == ParameterRole::WORDS || parameter.role == ParameterRole::COMPARISON ||
+                            parameter.role == ParameterRole::FLAG;
       EXPECT_EQ(!parameter.words.empty(), hasWords) << parameters.entry << " " << parameter.index;
       const std::set<std::string_view> words(parameter.words.begin(), parameter.words.end());
       EXPECT_EQ(words.size(), parameter.words.size()) << parameters.entry << " tells a word twice";
@@ -195,9 +195,9 @@ TEST(Catalogue, WhereOneOfSomeWordsIsExpectedTheWordsAreTold) {
 
 TEST(Catalogue, RolesHaveNamesThatTellThemApart) {
   std::set<std::string_view> names;
-  for (std::size_t role = 0; role < static_cast<std::size_t>(ParameterRole::Count_); ++role)
+  for (std::size_t role = 0; role < static_cast<std::size_t>(ParameterRole::COUNT); ++role)
     names.insert(nameOf(static_cast<ParameterRole>(role)));
-  EXPECT_EQ(names.size(), static_cast<std::size_t>(ParameterRole::Count_));
+  EXPECT_EQ(names.size(), static_cast<std::size_t>(ParameterRole::COUNT));
   EXPECT_FALSE(names.contains(""));
 }
 

@@ -40,9 +40,9 @@ public:
   explicit Script(std::shared_ptr<script::ScriptDocument> runs)
       : handler(new script::ScenarioHandler(std::make_shared<script::GlobalStores>())), document(std::move(runs)) {
     handler->SetDocument(document);
-    handler->Start(script::StartKind::Realtime);
+    handler->Start(script::StartKind::REALTIME);
   }
-  ~Script() { script::ScenarioHandler::Retire(handler); }
+  ~Script() { script::ScenarioHandler::retire(handler); }
   Script(const Script&) = delete;
   Script& operator=(const Script&) = delete;
 
@@ -82,7 +82,7 @@ class EntryRunner {
   }
 
 public:
-  ~EntryRunner() { script::ScenarioHandler::Retire(handler); }
+  ~EntryRunner() { script::ScenarioHandler::retire(handler); }
   EntryRunner() = default;
   EntryRunner(const EntryRunner&) = delete;
   EntryRunner& operator=(const EntryRunner&) = delete;
@@ -97,7 +97,7 @@ public:
   /// Tests a record of makeCondition.
   bool test(const script::DefaultCondition& record) {
     const auto& document = mDocuments.at(&record);
-    if (handler->GetDocument() != document.get()) handler->SetDocument(document);
+    if (handler->getDocument() != document.get()) handler->SetDocument(document);
     return record.entry->test(record, *handler, script::Evaluation{qsf::Time::ZERO, nullptr});
   }
   bool test(const Words& words) {

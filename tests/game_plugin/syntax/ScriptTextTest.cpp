@@ -50,22 +50,22 @@ using enum LineKind;
 TEST(ScriptText, TellsTheKindsOfLines) {
   EXPECT_EQ(
       kindsOf("InitNewTrigger();\nInitConditions();\nFoo();\nInitEffects();\nFoo();\nInitNegativEffects();\nFoo();"),
-      (std::vector{NewTrigger, Conditions, Condition, Effects, Effect, Effects, Effect}));
-  EXPECT_EQ(kindsOf("\n  \n\t{}\nfoo\n$ foo\nFoo(); $"), (std::vector{Empty, Empty, Empty, Invalid, Comment, Comment}));
+      (std::vector{NEW_TRIGGER, CONDITIONS, CONDITION, EFFECTS, EFFECT, EFFECTS, EFFECT}));
+  EXPECT_EQ(kindsOf("\n  \n\t{}\nfoo\n$ foo\nFoo(); $"), (std::vector{EMPTY, EMPTY, EMPTY, INVALID, COMMENT, COMMENT}));
   EXPECT_TRUE(kindsOf("").empty());
   EXPECT_EQ(kindsOf("Foo();\n").size(), 1u) << "the last line's end begins no line";
 }
 
 TEST(ScriptText, OnlyTheFirstTriggerOfAFileBeginsInItsConditions) {
   EXPECT_EQ(kindsOf("InitNewTrigger();\nFoo();\nInitEffects();\nInitNewTrigger();\nFoo();"),
-            (std::vector{NewTrigger, Condition, Effects, NewTrigger, Effect}));
+            (std::vector{NEW_TRIGGER, CONDITION, EFFECTS, NEW_TRIGGER, EFFECT}));
 }
 
 TEST(ScriptText, ABlockGoesFromItsIfToItsThenEnd) {
   const std::vector<Read> lines =
       readAll("InitEffects();\nFoo();\nIf();\nFoo();\nThen();\nFoo();\nElse();\nFoo();\nThenEnd();\nFoo();\nThen();");
-  const std::vector<LineKind> kinds{Effects, Effect, If,      Condition, Then,  Effect,
-                                    Else,    Effect, ThenEnd, Effect,    Effect};
+  const std::vector<LineKind> kinds{EFFECTS, EFFECT, IF,       CONDITION, THEN,  EFFECT,
+                                    ELSE,    EFFECT, THEN_END, EFFECT,    EFFECT};
   for (std::size_t i = 0; i < lines.size(); ++i) {
     EXPECT_EQ(lines[i].kind, kinds[i]) << lines[i].number;
     EXPECT_EQ(lines[i].inBlock, i >= 2 && i < 8) << lines[i].number;
@@ -79,7 +79,7 @@ TEST(ScriptText, ANewTriggerEndsABlockAndASecondIfItsElse) {
   EXPECT_TRUE(lines[3].inBlock);
   EXPECT_FALSE(lines[3].inElse);
   EXPECT_FALSE(lines[5].inBlock);
-  EXPECT_EQ(lines[5].kind, Condition) << "no keyword outside of a block";
+  EXPECT_EQ(lines[5].kind, CONDITION) << "no keyword outside of a block";
 }
 
 TEST(ScriptText, AnExclamationMarkNegatesAndIsNoPartOfTheName) {
@@ -90,7 +90,7 @@ TEST(ScriptText, AnExclamationMarkNegatesAndIsNoPartOfTheName) {
   EXPECT_EQ(line.columnOfToken(1), 8u);
   EXPECT_FALSE(FirstLine("Foo(\"!x\");")->negated);
   EXPECT_EQ(readAll("!!Foo();")[0].name, "!Foo");
-  EXPECT_EQ(readAll("!If();\nThen();")[1].kind, Then) << "keywords mind no mark";
+  EXPECT_EQ(readAll("!If();\nThen();")[1].kind, THEN) << "keywords mind no mark";
 }
 
 TEST(ScriptText, ColumnsCountTabsAndBracesThatTheTextHasLost) {
@@ -118,7 +118,7 @@ TEST(ScriptText, LinesAreCountedWhateverTheirEnds) {
                                           "A();\r\n\r\nB();\n\rC();");
   ASSERT_EQ(lines.size(), 4u);
   EXPECT_EQ(lines[0].name, "A");
-  EXPECT_EQ(lines[1].kind, Empty);
+  EXPECT_EQ(lines[1].kind, EMPTY);
   EXPECT_EQ(lines[2].name, "B");
   EXPECT_EQ(lines[2].number, 3u);
   EXPECT_EQ(lines[3].name, "C");

@@ -4,7 +4,7 @@
 
 #include "game_plugin/scenario/stores/JsonStore.h"
 
-extern "C" script::tooling::Tooling* GetTidemarkTooling();
+extern "C" script::tooling::Tooling* getTidemarkTooling();
 
 using namespace script;
 using namespace script::tooling;
@@ -13,7 +13,7 @@ namespace {
 
 class ToolingTest : public ModuleTest {
 protected:
-  Tooling& tooling = *GetTidemarkTooling();
+  Tooling& tooling = *getTidemarkTooling();
   const std::string text =
       "InitNewTrigger(\"first\",true,true);\nInitConditions(1);\n!CompareValues(\"v\",\"==\",\"1\");\n"
       "InitEffects();\nVariableModify(\"n\",\"+\",\"1\",\"n\");\nIf();\nThen();\nThenEnd();\n"
@@ -23,7 +23,7 @@ protected:
 TEST_F(ToolingTest, ShowsNothingWithoutAManager) {
   EXPECT_TRUE(tooling.getScripts().empty());
   EXPECT_TRUE(tooling.getTriggers(0).empty());
-  EXPECT_TRUE(tooling.getNames(std::nullopt, StoreKind::Variables).empty());
+  EXPECT_TRUE(tooling.getNames(std::nullopt, StoreKind::VARIABLES).empty());
   EXPECT_EQ(tooling.getVariable(0, "a"), std::nullopt);
   EXPECT_FALSE(tooling.setVariable(0, "a", 1));
   EXPECT_TRUE(tooling.getDroppedLines().empty());
@@ -66,8 +66,8 @@ TEST_F(ToolingTest, ReadingMakesNoEntry) {
   EXPECT_EQ(tooling.getBool(0, "a"), std::nullopt);
   EXPECT_EQ(tooling.getStringList(0, "a"), std::nullopt);
   EXPECT_EQ(tooling.getJson(0, "a", "b"), std::nullopt);
-  for (const StoreKind kind : {StoreKind::Variables, StoreKind::Strings, StoreKind::Lists, StoreKind::Bools,
-                               StoreKind::Jsons, StoreKind::StringLists})
+  for (const StoreKind kind : {StoreKind::VARIABLES, StoreKind::STRINGS, StoreKind::LISTS, StoreKind::BOOLS,
+                               StoreKind::JSONS, StoreKind::STRING_LISTS})
     EXPECT_TRUE(tooling.getNames(0, kind).empty());
 }
 
@@ -100,7 +100,7 @@ TEST_F(ToolingTest, JsonValuesAreFoundByPath) {
   entry(0).handler->SetJsonVariable("j", tree);
   EXPECT_EQ(tooling.getJson(0, "j", "a.b"), "c");
   EXPECT_EQ(tooling.getJson(0, "j", "a.x"), std::nullopt);
-  EXPECT_EQ(tooling.getNames(0, StoreKind::Jsons), std::vector<std::string>{"j"});
+  EXPECT_EQ(tooling.getNames(0, StoreKind::JSONS), std::vector<std::string>{"j"});
 }
 
 TEST_F(ToolingTest, AReloadInAGameStartsTheMapAndKeepsTheCounts) {
@@ -182,7 +182,7 @@ TEST_F(ToolingTest, GlobalNamesAreSetAndReadInEitherEncoding) {
   EXPECT_TRUE(tooling.setVariable(std::nullopt, "\xA7g", 1));
   EXPECT_TRUE(tooling.setVariable(0, "\xC2\xA7g", 2));
   EXPECT_EQ(tooling.getVariable(std::nullopt, "\xA7g"), 2);
-  EXPECT_EQ(tooling.getNames(std::nullopt, StoreKind::Variables), std::vector<std::string>{"\xC2\xA7g"});
+  EXPECT_EQ(tooling.getNames(std::nullopt, StoreKind::VARIABLES), std::vector<std::string>{"\xC2\xA7g"});
 }
 
 TEST_F(ToolingTest, AReloadInTheEditorGoesByItsMessage) {

@@ -20,7 +20,7 @@ ScriptScope takeScope(WordCursor& words) {
 }
 
 StoreAddress locate(const TestSession& session, const ScriptScope& scope, StoreKind kind, const std::string& name) {
-  const bool hasGlobalForm = kind == StoreKind::Variables || kind == StoreKind::Strings || kind == StoreKind::Lists;
+  const bool hasGlobalForm = kind == StoreKind::VARIABLES || kind == StoreKind::STRINGS || kind == StoreKind::LISTS;
   const bool global = hasGlobalForm && holdsGlobalMark(name);
   StoreAddress address{0, std::nullopt, kind};
   // A global entry can be read while no script of the test runs.
@@ -38,7 +38,7 @@ std::optional<std::string> findName(const TestSession& session, const StoreAddre
 }
 
 std::optional<std::vector<std::uint64_t>> findList(const TestSession& session, const std::string& name) {
-  const StoreAddress store = locate(session, {}, StoreKind::Lists, name);
+  const StoreAddress store = locate(session, {}, StoreKind::LISTS, name);
   const auto entry = findName(session, store, name);
   return entry ? session.tooling().getList(store.holder, *entry) : std::nullopt;
 }

@@ -34,7 +34,7 @@ template <class Set> Action setEntry(const ScriptScope& scope, StoreKind kind, c
 
 Action setVariable(WordCursor& words, const ScriptScope& scope, const std::string& name) {
   const auto value = static_cast<float>(words.takeNumber("the variable's value"));
-  return setEntry(scope, StoreKind::Variables, name,
+  return setEntry(scope, StoreKind::VARIABLES, name,
                   [value](TestSession& session, Holder holder, const std::string& entry) {
                     return session.tooling().setVariable(holder, entry, value);
                   });
@@ -42,7 +42,7 @@ Action setVariable(WordCursor& words, const ScriptScope& scope, const std::strin
 
 Action setString(WordCursor& words, const ScriptScope& scope, const std::string& name) {
   const std::string value = words.take("the text");
-  return setEntry(scope, StoreKind::Strings, name,
+  return setEntry(scope, StoreKind::STRINGS, name,
                   [value](TestSession& session, Holder holder, const std::string& entry) {
                     return session.tooling().setString(holder, entry, value);
                   });
@@ -51,7 +51,7 @@ Action setString(WordCursor& words, const ScriptScope& scope, const std::string&
 Action setBool(WordCursor& words, const ScriptScope& scope, const std::string& name) {
   const std::string value = words.take("true or false");
   if (value != "true" && value != "false") throw DirectiveError(fmt::format("'{}' is neither true nor false", value));
-  return setEntry(scope, StoreKind::Bools, name,
+  return setEntry(scope, StoreKind::BOOLS, name,
                   [value](TestSession& session, Holder holder, const std::string& entry) {
                     return session.tooling().setBool(*holder, entry, value == "true");
                   });
@@ -59,7 +59,7 @@ Action setBool(WordCursor& words, const ScriptScope& scope, const std::string& n
 
 Action setList(WordCursor& words, const ScriptScope& scope, const std::string& name) {
   const std::vector<EntityReference> references = takeEntityReferences(words);
-  return setEntry(scope, StoreKind::Lists, name,
+  return setEntry(scope, StoreKind::LISTS, name,
                   [references](TestSession& session, Holder holder, const std::string& entry) {
                     std::vector<std::uint64_t> ids;
                     for (const EntityReference& reference : references)

@@ -61,7 +61,7 @@ Expectation expectVariable(WordCursor& words, const ScriptScope& scope) {
   if (within && operation != "==" && operation != "!=") throw DirectiveError("'within' goes with == and !=");
   Expectation expectation;
   expectation.check = [=](TestSession& session) {
-    const Entry entry = findEntry(session, scope, StoreKind::Variables, name);
+    const Entry entry = findEntry(session, scope, StoreKind::VARIABLES, name);
     const float found = require(session.tooling().getVariable(entry.store.holder, entry.name));
     return Verdict{compare(operation, found, expected, within), fmt::format("{}", found), {}};
   };
@@ -74,7 +74,7 @@ Expectation expectString(WordCursor& words, const ScriptScope& scope) {
   const std::string expected = words.take("the expected text");
   Expectation expectation;
   expectation.check = [=](TestSession& session) {
-    const Entry entry = findEntry(session, scope, StoreKind::Strings, name);
+    const Entry entry = findEntry(session, scope, StoreKind::STRINGS, name);
     const std::string found = require(session.tooling().getString(entry.store.holder, entry.name));
     return Verdict{textMatches(expected, found), fmt::format("\"{}\"", found), {}};
   };
@@ -89,7 +89,7 @@ Expectation expectBool(WordCursor& words, const ScriptScope& scope) {
     throw DirectiveError(fmt::format("'{}' is neither true nor false", expected));
   Expectation expectation;
   expectation.check = [=](TestSession& session) {
-    const Entry entry = findEntry(session, scope, StoreKind::Bools, name);
+    const Entry entry = findEntry(session, scope, StoreKind::BOOLS, name);
     const bool found = require(session.tooling().getBool(entry.store.script, entry.name));
     return Verdict{found == (expected == "true"), found ? "true" : "false", {}};
   };
@@ -128,7 +128,7 @@ Expectation expectList(WordCursor& words, const ScriptScope& scope) {
       takesIds ? takeEntityReferences(words) : std::vector<EntityReference>();
   Expectation expectation;
   expectation.check = [=](TestSession& session) {
-    const Entry entry = findEntry(session, scope, StoreKind::Lists, name);
+    const Entry entry = findEntry(session, scope, StoreKind::LISTS, name);
     const Ids found = require(session.tooling().getList(entry.store.holder, entry.name));
     Ids wanted;
     for (const EntityReference& reference : references)
@@ -144,7 +144,7 @@ Expectation expectStringList(WordCursor& words, const ScriptScope& scope) {
   const std::vector<std::string> expected = words.takeRest();
   Expectation expectation;
   expectation.check = [=](TestSession& session) {
-    const Entry entry = findEntry(session, scope, StoreKind::StringLists, name);
+    const Entry entry = findEntry(session, scope, StoreKind::STRING_LISTS, name);
     const auto found = require(session.tooling().getStringList(entry.store.script, entry.name));
     return Verdict{
         std::equal(expected.begin(), expected.end(), found.begin(), found.end(), textMatches), quoted(found), {}};
@@ -159,7 +159,7 @@ Expectation expectJson(WordCursor& words, const ScriptScope& scope) {
   const std::string expected = words.take("the expected text");
   Expectation expectation;
   expectation.check = [=](TestSession& session) {
-    const Entry entry = findEntry(session, scope, StoreKind::Jsons, name);
+    const Entry entry = findEntry(session, scope, StoreKind::JSONS, name);
     const auto found = session.tooling().getJson(entry.store.script, entry.name, path);
     if (!found) throw NotThere(fmt::format("nothing at '{}'", path));
     return Verdict{textMatches(expected, *found), fmt::format("\"{}\"", *found), {}};
@@ -169,10 +169,10 @@ Expectation expectJson(WordCursor& words, const ScriptScope& scope) {
 
 StoreKind takeKind(WordCursor& words) {
   const std::string word = words.take("variable, string, bool or list");
-  if (word == "variable") return StoreKind::Variables;
-  if (word == "string") return StoreKind::Strings;
-  if (word == "bool") return StoreKind::Bools;
-  if (word == "list") return StoreKind::Lists;
+  if (word == "variable") return StoreKind::VARIABLES;
+  if (word == "string") return StoreKind::STRINGS;
+  if (word == "bool") return StoreKind::BOOLS;
+  if (word == "list") return StoreKind::LISTS;
   throw DirectiveError(fmt::format("'{}' behind 'no' is none of variable, string, bool, list", word));
 }
 
@@ -190,10 +190,10 @@ Expectation expectNoEntry(WordCursor& words, const ScriptScope& scope) {
 Expectation expectStore(WordCursor& words, const ScriptScope& scope) {
   const std::string word = words.take("a store's name");
   const StoreKind kind =
-      word == "variables" ? StoreKind::Variables
-      : word == "strings" ? StoreKind::Strings
-      : word == "bools"   ? StoreKind::Bools
-      : word == "lists"   ? StoreKind::Lists
+      word == "variables" ? StoreKind::VARIABLES
+      : word == "strings" ? StoreKind::STRINGS
+      : word == "bools"   ? StoreKind::BOOLS
+      : word == "lists"   ? StoreKind::LISTS
                           : throw DirectiveError(fmt::format("'{}' is none of variables, strings, bools, lists", word));
   words.require("==");
   const std::vector<std::string> expected = words.takeRest();

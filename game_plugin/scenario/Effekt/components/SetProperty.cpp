@@ -44,7 +44,7 @@ template <class Value> static std::optional<std::string> findIn(const Store<Valu
 
 /// The value of the first store entry of that name; without one, the name itself.
 static std::string findValue(const ScenarioHandler& handler, const std::string& name) {
-  const GlobalStores& global = handler.GetGlobalStores();
+  const GlobalStores& global = handler.getGlobalStores();
   if (auto text = findIn(handler.variables, name)) return *text;
   if (auto text = findIn(handler.stringVariables, name)) return *text;
   if (auto text = findIn(handler.boolVariables, name)) return *text;

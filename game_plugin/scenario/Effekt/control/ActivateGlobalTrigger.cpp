@@ -13,7 +13,7 @@ struct ActivateGlobalTriggerEffect : DefaultEffect {
 };
 
 static void read(ActivateGlobalTriggerEffect& effect, ParameterReader& in) {
-  effect.triggerName = in.of(ParameterRole::GlobalTrigger, 1, "Trigger_1", "Trigger Name",
+  effect.triggerName = in.of(ParameterRole::GLOBAL_TRIGGER, 1, "Trigger_1", "Trigger Name",
                              "Mod name/path of the script file/name of the trigger");
   effect.enable = in.flag(2, false, "Enable", "Has no meaning: the trigger is always switched on");
 }

@@ -17,14 +17,14 @@ struct StartScenarioEffect : DefaultEffect {
 };
 
 static void read(StartScenarioEffect& effect, ParameterReader& in) {
-  effect.scenarioFile = in.of(ParameterRole::Script, 1, "no_file", "ScenarioFile", "Path of the script file");
+  effect.scenarioFile = in.of(ParameterRole::SCRIPT, 1, "no_file", "ScenarioFile", "Path of the script file");
 }
 
 static void run(const StartScenarioEffect& effect, ScenarioHandler& handler) {
   const std::string path = handler.ResolveString(effect.scenarioFile);
   if (path == "no_file" || !canOpenFile(path))
     logError("StartScenarioEffect::ScenarioFile was not found");
-  else if (MapScriptManager* manager = MapScriptManager::Get())
+  else if (MapScriptManager* manager = MapScriptManager::get())
     manager->StartTemporaryScript(path);
 }
 

@@ -16,15 +16,15 @@ struct StopScenarioEffect : DefaultEffect {
 };
 
 static void read(StopScenarioEffect& effect, ParameterReader& in) {
-  effect.scenarioFile = in.of(ParameterRole::Script, 1, "no_file", "ScenrarioFile", "Path of the script file");
+  effect.scenarioFile = in.of(ParameterRole::SCRIPT, 1, "no_file", "ScenrarioFile", "Path of the script file");
 }
 
 static void run(const StopScenarioEffect& effect, ScenarioHandler& handler) {
   const std::string path = handler.ResolveString(effect.scenarioFile); // a copy: the script may stop itself
   if (path == "no_file" || !canOpenFile(path))
     logError("StopScenarioEffect::ScenarioFile was not found");
-  else if (MapScriptManager* manager = MapScriptManager::Get())
-    manager->StopScript(path);
+  else if (MapScriptManager* manager = MapScriptManager::get())
+    manager->stopScript(path);
 }
 
 EFFECT(StopScenario, "TidemarkScripts", "Stops the scripts of that file")

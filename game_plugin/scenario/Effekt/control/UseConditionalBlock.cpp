@@ -8,6 +8,6 @@ static void read(UseConditionalBlockEffect& effect, ParameterReader& in) {
   effect.blockIndex = in.integer(2, 0, "", "");
 }
 
-EFFECT_OF_KIND(UseConditionalBlock, "", "", UseConditionalBlock)
+EFFECT_OF_KIND(UseConditionalBlock, "", "", USE_CONDITIONAL_BLOCK)
 
 }

@@ -21,7 +21,7 @@ struct StartEventEffect : DefaultEffect {
 
 static void read(StartEventEffect& effect, ParameterReader& in) {
   effect.definition =
-      in.of(ParameterRole::Event, 1, "EventDefinition", "Event Definition", "Path of the event's definition");
+      in.of(ParameterRole::EVENT, 1, "EventDefinition", "Event Definition", "Path of the event's definition");
   effect.unlockEnd = in.flag(2, false, "Unlock Win and Loose - Ability", "true lets the event be won and lost");
 }
 

@@ -14,7 +14,7 @@ static void read(GetSizeOfEntityListEffect& effect, ParameterReader& in) {
 }
 
 static void run(const GetSizeOfEntityListEffect& effect, ScenarioHandler& handler) {
-  handler.SetFloatVariable(effect.countVariable, static_cast<float>(handler.GetEntityListSize(effect.entityList)));
+  handler.SetFloatVariable(effect.countVariable, static_cast<float>(handler.getEntityListSize(effect.entityList)));
 }
 
 EFFECT(GetSizeOfEntityList, "EntityLists", "Sets a variable to the number of entities of a list")

@@ -18,7 +18,7 @@ static void read(RemoveAllEntitiesWithComponentEffect& effect, ParameterReader& 
 }
 
 static void run(const RemoveAllEntitiesWithComponentEffect& effect, ScenarioHandler& handler) {
-  filterByComponent(handler, effect.entityList, effect.component, KeepEntities::Without,
+  filterByComponent(handler, effect.entityList, effect.component, KeepEntities::WITHOUT,
                     "RemoveAllEntitiesWithComponentEffect::EntityList not found",
                     "RemoveAllEntitiesWithComponentEffect::ComponentName not found");
 }

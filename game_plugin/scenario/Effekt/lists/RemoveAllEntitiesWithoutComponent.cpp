@@ -18,7 +18,7 @@ static void read(RemoveAllEntitiesWithoutComponentEffect& effect, ParameterReade
 }
 
 static void run(const RemoveAllEntitiesWithoutComponentEffect& effect, ScenarioHandler& handler) {
-  filterByComponent(handler, effect.entityList, effect.component, KeepEntities::With,
+  filterByComponent(handler, effect.entityList, effect.component, KeepEntities::WITH,
                     "RemoveAllEntitiesWithoutComponentEffect::EntityList was not found",
                     "RemoveAllEntitiesWithoutComponentEffect::ComponentName was not found");
 }

@@ -20,9 +20,9 @@ static void read(SetLocalEntityListGlobalEffect& effect, ParameterReader& in) {
 }
 
 static std::string targetName(const SetLocalEntityListGlobalEffect& effect, const ScenarioHandler& handler) {
-  if (effect.globalList == "no_listG") return handler.GlobalMark() + effect.localList.text();
+  if (effect.globalList == "no_listG") return handler.globalMark() + effect.localList.text();
   if (!effect.globalList.info().isGlobal) return effect.globalList.text();
-  return handler.GlobalMark() + effect.globalList.text();
+  return handler.globalMark() + effect.globalList.text();
 }
 
 static void run(const SetLocalEntityListGlobalEffect& effect, ScenarioHandler& handler) {
@@ -33,7 +33,7 @@ static void run(const SetLocalEntityListGlobalEffect& effect, ScenarioHandler& h
   const std::string target = targetName(effect, handler);
   for (const std::uint64_t id : handler.ResolveEntityList(effect.localList))
     handler.AddToEntityList(target, id);
-  handler.RemoveLocalEntityList(effect.localList.text());
+  handler.removeLocalEntityList(effect.localList.text());
 }
 
 EFFECT(SetLocalEntityListGlobal, "EntityLists", "Copies a local list to a global one and deletes the local list")

@@ -21,7 +21,7 @@ static void link(qsf::Entity& child, std::uint64_t parentId) {
   auto* link = child.getOrCreateComponent<qsf::LinkComponent>();
   link->setParentId(parentId);
   if (link->getParentId() != parentId && hints::isOn())
-    hints::tell(HintKind::Link, "entity " + std::to_string(child.getId()) + " can't be linked below " +
+    hints::tell(HintKind::LINK, "entity " + std::to_string(child.getId()) + " can't be linked below " +
                                     std::to_string(parentId) + ", which is below it");
   link->setParentLinkType(0);
   // A bone link looks for its parent when it starts.

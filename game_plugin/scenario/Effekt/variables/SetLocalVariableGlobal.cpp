@@ -22,9 +22,9 @@ static void read(SetLocalVariableGlobalEffect& effect, ParameterReader& in) {
 }
 
 static std::string targetName(const SetLocalVariableGlobalEffect& effect, const ScenarioHandler& handler) {
-  if (effect.globalVariable == "no_varG") return handler.GlobalMark() + effect.localVariable.text();
+  if (effect.globalVariable == "no_varG") return handler.globalMark() + effect.localVariable.text();
   if (effect.globalVariable.info().isGlobal) return effect.globalVariable.text();
-  return handler.GlobalMark() + effect.globalVariable.text();
+  return handler.globalMark() + effect.globalVariable.text();
 }
 
 static void run(const SetLocalVariableGlobalEffect& effect, ScenarioHandler& handler) {
@@ -37,10 +37,10 @@ static void run(const SetLocalVariableGlobalEffect& effect, ScenarioHandler& han
   if (effect.localVariable.info().isVariableReference) {
     handler.SetStringVariable(target, handler.ResolveString(effect.localVariable));
     // Finds none: the text still has its "svar(".
-    handler.RemoveLocalStringVariable(local);
+    handler.removeLocalStringVariable(local);
   } else {
     handler.SetFloatVariable(target, handler.ResolveFloat(effect.localVariable));
-    handler.RemoveLocalVariable(local);
+    handler.removeLocalVariable(local);
   }
 }
 

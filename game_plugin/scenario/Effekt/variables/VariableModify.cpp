@@ -12,7 +12,7 @@ struct VariableModifyEffect : DefaultEffect {
   };
 
   // First, where the base leaves bytes free: there are thousands of these records.
-  ArithmeticOperator operation = ArithmeticOperator::Add;
+  ArithmeticOperator operation = ArithmeticOperator::ADD;
   bool round = true;
   Argument value1;
   Argument value2;
@@ -29,13 +29,13 @@ static void read(VariableModifyEffect& effect, ParameterReader& in) {
 
 static float calculate(ArithmeticOperator operation, float value1, float value2) {
   switch (operation) {
-  case ArithmeticOperator::Subtract:
+  case ArithmeticOperator::SUBTRACT:
     return value1 - value2;
-  case ArithmeticOperator::Multiply:
+  case ArithmeticOperator::MULTIPLY:
     return value1 * value2;
-  case ArithmeticOperator::Divide:
+  case ArithmeticOperator::DIVIDE:
     return value1 / value2; // by zero as floats do it: infinite, or not a number
-  case ArithmeticOperator::Add:
+  case ArithmeticOperator::ADD:
     break;
   }
   return value1 + value2;

@@ -21,7 +21,7 @@ struct IsActionInPlanCondition : DefaultCondition {
 
 static void read(IsActionInPlanCondition& condition, ParameterReader& in) {
   condition.entityList = in.list(1, "no_list", "EntityList", "");
-  condition.actionName = in.of(ParameterRole::Action, 2, "no_action", "ActionName", "");
+  condition.actionName = in.of(ParameterRole::ACTION, 2, "no_action", "ActionName", "");
 }
 
 static std::size_t countActions(ScenarioHandler& handler, const Argument& list, qsf::StringHash typeId) {
@@ -37,7 +37,7 @@ static std::size_t countActions(ScenarioHandler& handler, const Argument& list, 
 static bool test(const IsActionInPlanCondition& condition, ScenarioHandler& handler) {
   if (isLeftAt(condition.entityList.text(), "no_list", "IsActionInPlanCondition::EntityList was not found"))
     return false;
-  const std::size_t size = handler.GetEntityListSize(condition.entityList);
+  const std::size_t size = handler.getEntityListSize(condition.entityList);
   const std::string& actionName = handler.ResolveString(condition.actionName);
   std::size_t count = 0;
   if (!isLeftAt(actionName, "no_action", "IsActionInPlanCondition::Action was not found"))

@@ -18,13 +18,13 @@ struct IsCurrentActionCondition : DefaultCondition {
 
 static void read(IsCurrentActionCondition& condition, ParameterReader& in) {
   condition.entityList = in.list(1, "no_list", "EntityList", "The name of the EntityList, which should be used");
-  condition.actionName = in.of(ParameterRole::Action, 2, "no_action", "ActionName", "The action you want to check");
+  condition.actionName = in.of(ParameterRole::ACTION, 2, "no_action", "ActionName", "The action you want to check");
 }
 
 static bool test(const IsCurrentActionCondition& condition, ScenarioHandler& handler) {
   if (isLeftAt(condition.entityList.text(), "no_list", "IsCurrentActionCondition::EntityList was not found"))
     return false;
-  const std::size_t size = handler.GetEntityListSize(condition.entityList);
+  const std::size_t size = handler.getEntityListSize(condition.entityList);
   const std::string& actionName = handler.ResolveString(condition.actionName);
   std::size_t count = 0;
   if (!isLeftAt(actionName, "no_action", "IsCurrentActionCondition::Action was not found")) {

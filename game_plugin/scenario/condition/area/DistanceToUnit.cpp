@@ -42,7 +42,7 @@ static bool test(const DistanceToUnitCondition& condition, ScenarioHandler& hand
       if (condition.operatorText(distance, handler.ResolveFloat(condition.distance)))
         handler.AddToEntityList(condition.targetUnitOut, id);
     }
-  return handler.GetEntityListSize(condition.targetUnitOut) != 0;
+  return handler.getEntityListSize(condition.targetUnitOut) != 0;
 }
 
 CONDITION(DistanceToUnit, "General",

@@ -35,7 +35,7 @@ static bool test(const IsAnyEntityInSensorAreaCondition& condition, ScenarioHand
   for (const qsf::Entity* entity : findEntitiesInAreas(areas))
     if (entity->getComponentById(condition.filterComponentId))
       handler.AddToEntityList(condition.targetListOut, entity->getId());
-  return handler.GetEntityListSize(condition.targetListOut) != 0;
+  return handler.getEntityListSize(condition.targetListOut) != 0;
 }
 
 CONDITION(IsAnyEntityInSensorArea, "Units",

@@ -29,9 +29,9 @@ static bool test(const IsUnitInSensorAreaCondition& condition, ScenarioHandler& 
   const EntityIds areas = handler.ResolveEntityList(condition.areaEntities);
   handler.ClearEntityList(condition.targetListOut);
   for (const qsf::Entity* entity : findEntitiesInAreas(areas))
-    if (handler.IsInEntityList(condition.targetListIn, entity->getId()))
+    if (handler.isInEntityList(condition.targetListIn, entity->getId()))
       handler.AddToEntityList(condition.targetListOut, entity->getId());
-  return handler.GetEntityListSize(condition.targetListOut) != 0;
+  return handler.getEntityListSize(condition.targetListOut) != 0;
 }
 
 CONDITION(IsUnitInSensorArea, "Units", "Returns true if at least one entity from the targetlist is inside the area")

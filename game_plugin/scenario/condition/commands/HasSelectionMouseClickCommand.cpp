@@ -23,7 +23,7 @@ struct HasSelectionMouseClickCommandCondition : DefaultCondition {
 
 static void read(HasSelectionMouseClickCommandCondition& condition, ParameterReader& in) {
   condition.command =
-      in.of(ParameterRole::Command, 1, "no_command", "Command",
+      in.of(ParameterRole::COMMAND, 1, "no_command", "Command",
             "CommandName, which has to be defined in ScenarioComponent for an entity in NonGuiCommandArray");
   condition.entityList =
       in.listOut(2, "no_list", "EntityList", "Write all selected entities with the Command in this entityList");

@@ -9,7 +9,7 @@ struct IsCommandButtonClickedCondition : DefaultCondition {
 
 static void read(IsCommandButtonClickedCondition& condition, ParameterReader& in) {
   condition.cmdButtonId =
-      in.of(ParameterRole::Command, 1, "noId", "CmdButtonId",
+      in.of(ParameterRole::COMMAND, 1, "noId", "CmdButtonId",
             "CommandName, which has to be defined in ScenarioComponent for an entity in GuiCommandArray");
 }
 

@@ -11,7 +11,7 @@ struct CompareComponentPropertyToFloatVariableCondition : ComponentPropertyCondi
 static void read(CompareComponentPropertyToFloatVariableCondition& condition, ParameterReader& in) {
   readPropertyAddress(condition, in);
   condition.operatorText = in.comparison(4, "==", "Operator", "String that we hope to find inside the Property-Value");
-  readComparandAndListOut(condition, in, 5, ParameterRole::Number);
+  readComparandAndListOut(condition, in, 5, ParameterRole::NUMBER);
 }
 
 static bool test(const CompareComponentPropertyToFloatVariableCondition& condition, ScenarioHandler& handler) {

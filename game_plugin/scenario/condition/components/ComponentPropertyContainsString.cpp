@@ -7,7 +7,7 @@ struct ComponentPropertyContainsStringCondition : ComponentPropertyCondition {};
 
 static void read(ComponentPropertyContainsStringCondition& condition, ParameterReader& in) {
   readPropertyAddress(condition, in);
-  readComparandAndListOut(condition, in, 4, ParameterRole::Text);
+  readComparandAndListOut(condition, in, 4, ParameterRole::TEXT);
 }
 
 static bool test(const ComponentPropertyContainsStringCondition& condition, ScenarioHandler& handler) {

@@ -7,7 +7,7 @@ struct ComponentPropertyMatchsStringCondition : ComponentPropertyCondition {};
 
 static void read(ComponentPropertyMatchsStringCondition& condition, ParameterReader& in) {
   readPropertyAddress(condition, in);
-  readComparandAndListOut(condition, in, 4, ParameterRole::Text);
+  readComparandAndListOut(condition, in, 4, ParameterRole::TEXT);
 }
 
 static bool test(const ComponentPropertyMatchsStringCondition& condition, ScenarioHandler& handler) {

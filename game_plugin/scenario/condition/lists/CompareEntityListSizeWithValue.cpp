@@ -17,7 +17,7 @@ static void read(CompareEntityListSizeWithValueCondition& condition, ParameterRe
 }
 
 static bool test(const CompareEntityListSizeWithValueCondition& condition, ScenarioHandler& handler) {
-  const float size = static_cast<float>(handler.GetEntityListSize(condition.entityList));
+  const float size = static_cast<float>(handler.getEntityListSize(condition.entityList));
   return condition.operatorText(size, handler.ResolveFloat(condition.value));
 }
 

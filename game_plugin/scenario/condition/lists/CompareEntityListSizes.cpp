@@ -17,8 +17,8 @@ static void read(CompareEntityListSizesCondition& condition, ParameterReader& in
 }
 
 static bool test(const CompareEntityListSizesCondition& condition, ScenarioHandler& handler) {
-  const float size = static_cast<float>(handler.GetEntityListSize(condition.entityList));
-  const float size2 = static_cast<float>(handler.GetEntityListSize(condition.entityList2));
+  const float size = static_cast<float>(handler.getEntityListSize(condition.entityList));
+  const float size2 = static_cast<float>(handler.getEntityListSize(condition.entityList2));
   return condition.operatorText(size, size2);
 }
 

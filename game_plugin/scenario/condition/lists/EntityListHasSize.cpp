@@ -17,7 +17,7 @@ static void read(EntityListHasSizeCondition& condition, ParameterReader& in) {
 }
 
 static bool test(const EntityListHasSizeCondition& condition, ScenarioHandler& handler) {
-  const float size = static_cast<float>(handler.GetEntityListSize(condition.entityList));
+  const float size = static_cast<float>(handler.getEntityListSize(condition.entityList));
   return condition.operatorText(size, handler.ResolveFloat(condition.compareValue));
 }
 

@@ -32,7 +32,7 @@ static bool test(const IsAnyEntitySelectedCondition& condition, ScenarioHandler&
     for (const std::uint64_t id : selection->getSelectedIdSet())
       if (findEntity(id)) handler.AddToEntityList(condition.entityList, id);
   }
-  return handler.GetEntityListSize(condition.entityList) != 0;
+  return handler.getEntityListSize(condition.entityList) != 0;
 }
 
 CONDITION(IsAnyEntitySelected, "Units",

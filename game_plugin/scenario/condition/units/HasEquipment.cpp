@@ -44,7 +44,7 @@ static bool test(const HasEquipmentCondition& condition, ScenarioHandler& handle
       handler.AddToEntityList(holds(*entity, condition.equipment.text()) ? condition.entityListOutWithEquipment
                                                                          : condition.entityListOutWithoutEquipment,
                               id);
-  return handler.GetEntityListSize(condition.entityListOutWithEquipment) != 0;
+  return handler.getEntityListSize(condition.entityListOutWithEquipment) != 0;
 }
 
 CONDITION(HasEquipment, "Units",

@@ -23,12 +23,12 @@ static void read(HasParentCondition& condition, ParameterReader& in) {
 }
 
 static bool test(const HasParentCondition& condition, ScenarioHandler& handler) {
-  handler.GetEntityListSize(condition.entitiesToCheck); // the first read, by which a missing list comes to life
+  handler.getEntityListSize(condition.entitiesToCheck); // the first read, by which a missing list comes to life
   handler.ClearEntityList(condition.checkedEntities);
   forEachEntity(handler, condition.entitiesToCheck, [&](qsf::Entity& entity) {
     if (em5::EntityHelper(entity).getParentEntity()) handler.AddToEntityList(condition.checkedEntities, entity.getId());
   });
-  return handler.GetEntityListSize(condition.checkedEntities) != 0;
+  return handler.getEntityListSize(condition.checkedEntities) != 0;
 }
 
 CONDITION(HasParent, "Units", "True if at least one entity has a parent entity")

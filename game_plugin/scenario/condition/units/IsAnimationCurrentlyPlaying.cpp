@@ -18,7 +18,7 @@ static void read(IsAnimationCurrentlyPlayingCondition& condition, ParameterReade
   condition.checkedEntities =
       in.listOut(2, "EntityListOut", "CheckedEntities[out]", "All entities which are playing the animation");
   condition.animationName =
-      in.of(ParameterRole::Animation, 3, "Animationname", "Animationname (local asset name)", "Animation to look for");
+      in.of(ParameterRole::ANIMATION, 3, "Animationname", "Animationname (local asset name)", "Animation to look for");
 }
 
 static bool test(const IsAnimationCurrentlyPlayingCondition& condition, ScenarioHandler& handler) {

@@ -31,7 +31,7 @@ static bool test(const IsOpenHouseCondition& condition, ScenarioHandler& handler
     for (const qsf::Component* house : houses)
       if (static_cast<const OpenHouseComponent*>(house)->holdsEntity(id))
         handler.AddToEntityList(condition.entityListOut, house->getEntityId());
-  return handler.GetEntityListSize(condition.entityListOut) != 0;
+  return handler.getEntityListSize(condition.entityListOut) != 0;
 }
 
 CONDITION(IsOpenHouse, "General", "Checks if the entity is linked to the openhouse or is the openhouse itself")

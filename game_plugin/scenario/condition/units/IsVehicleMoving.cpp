@@ -26,7 +26,7 @@ static bool test(const IsVehicleMovingCondition& condition, ScenarioHandler& han
       const auto* movable = entity.getComponent<qsf::MovableComponent>();
       if (movable && movable->isMoving()) ++moving;
     });
-  return moving == handler.GetEntityListSize(condition.entityList);
+  return moving == handler.getEntityListSize(condition.entityList);
 }
 
 CONDITION(IsVehicleMoving, "Units", "Returns true if all entities are moving")

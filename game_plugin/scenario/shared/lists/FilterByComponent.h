@@ -7,7 +7,7 @@
 
 namespace script {
 
-enum class KeepEntities { With, Without };
+enum class KeepEntities { WITH, WITHOUT };
 
 /// Keeps the entities of a list that have a component, or those that have it not. Ids without an entity are lost. The
 /// messages are those of a list and of a component name that were left at their placeholders.
@@ -19,7 +19,7 @@ inline void filterByComponent(ScenarioHandler& handler, const Argument& list, co
   if (hints::isOn()) hintUnknownComponent(className);
   const qsf::StringHash componentId(className);
   filterIntoList(handler, list, list, [&](const qsf::Entity& entity) {
-    return (entity.getComponentById(componentId) != nullptr) == (keep == KeepEntities::With);
+    return (entity.getComponentById(componentId) != nullptr) == (keep == KeepEntities::WITH);
   });
 }
 

@@ -21,7 +21,7 @@ void writePassingToList(ScenarioHandler& handler, const Argument& in, const Argu
 template <class Test>
 bool filterIntoList(ScenarioHandler& handler, const Argument& in, const Argument& out, Test&& passes) {
   writePassingToList(handler, in, out, std::forward<Test>(passes));
-  return handler.GetEntityListSize(out) != 0;
+  return handler.getEntityListSize(out) != 0;
 }
 
 /// Calls `act(entity)` for each id of the list argument that has an entity, walking a private copy.

@@ -3,7 +3,7 @@
 #include "game_plugin/ModuleFixture.h"
 #include "game_plugin/tooling/Tooling.h"
 
-extern "C" script::tooling::Tooling* GetTidemarkTooling();
+extern "C" script::tooling::Tooling* getTidemarkTooling();
 
 using namespace script;
 
@@ -38,7 +38,7 @@ class OriginTest : public ModuleTest {
 protected:
   void listen() {
     session->getQsf().getLogSystem().addListener([this](const qsf::LogSystem::Record& record) {
-      const auto origin = GetTidemarkTooling()->getOrigin();
+      const auto origin = getTidemarkTooling()->getOrigin();
       mOrigins.emplace_back(record.message, origin ? origin->path.substr(origin->path.rfind('/') + 1) + ":" +
                                                          std::to_string(origin->line) + " " + origin->trigger
                                                    : "nowhere");
@@ -91,7 +91,7 @@ TEST_F(OriginTest, MessagesOfALoadAreOfTheirLines) {
   addScript("fault", "MAP_STARTUP", "\nCompareValues();");
   start();
   listen();
-  GetTidemarkTooling()->reload();
+  getTidemarkTooling()->reload();
   EXPECT_EQ(originsOf("Command is invalid: no command"), Origins{"main.script:1 "});
   EXPECT_EQ(originsOf("Boolvalue: Active cant be read.|maybe|"), Origins{"main.script:2 t"});
   EXPECT_EQ(originsOf("[MS] Error: Condition NoSuch was not found"), Origins{"main.script:3 t"});

@@ -43,21 +43,21 @@ TEST_F(HintsTest, AWordThatAnEntryDoesNotKnowIsToldWithTheNearestOne) {
       "DoorHasState(\"l\",\"out\",\"DOOR_OPEN\");\nDoorHasState(\"l\",\"out\",svar(state));\nDoorHasState();");
   EXPECT_EQ(told(), (Words{"1 t: \"MP_GUI_Sinc\" is no word that MultiplayerMode knows (MP_GUI_Sync) 1",
                            "2 t: \"DOOR_OPNE\" is no word that Door_State knows (DOOR_OPEN) 1"}));
-  EXPECT_EQ(kinds(), (std::vector{HintKind::Word, HintKind::Word}));
+  EXPECT_EQ(kinds(), (std::vector{HintKind::WORD, HintKind::WORD}));
   EXPECT_EQ(hints::all()[0].path, "file.script");
 }
 
 TEST_F(HintsTest, AFlagThatIsNeitherTrueNorFalseIsTold) {
   parseDocument("InitNewTrigger(\"t\",TRUE);");
   EXPECT_EQ(told(), Words{"1 t: \"TRUE\" is neither true nor false; true is used for Active () 1"});
-  EXPECT_EQ(kinds(), std::vector{HintKind::Word});
+  EXPECT_EQ(kinds(), std::vector{HintKind::WORD});
 }
 
 TEST_F(HintsTest, AnOperatorThatMeansLessThanIsTold) {
   parseDocument(
       "InitNewTrigger(\"t\");\nCompareValues(\"1\",\"=\",\"2\");\nCompareValues(\"1\",\"<\",\"2\");\nCompareValues();");
   ASSERT_EQ(hints::all().size(), 1u);
-  EXPECT_EQ(kinds(), std::vector{HintKind::Operator});
+  EXPECT_EQ(kinds(), std::vector{HintKind::OPERATOR});
   EXPECT_EQ(hints::all()[0].text, "\"=\" is no operator and means <");
   EXPECT_EQ(hints::all()[0].line, 2u);
 }
@@ -67,14 +67,14 @@ TEST_F(HintsTest, ATextThatDoesNotConvertIsTold) {
   EXPECT_EQ(told(), (Words{"2 t: \"ssome\" is no whole number; -1 is used () 1",
                            "3 t: \"two\" is no whole number for Number; 1 is used () 1",
                            "3 t: \"far\" is no number for Range; 200 is used () 1"}));
-  EXPECT_EQ(kinds(), (std::vector{HintKind::Conversion, HintKind::Conversion, HintKind::Conversion}));
+  EXPECT_EQ(kinds(), (std::vector{HintKind::CONVERSION, HintKind::CONVERSION, HintKind::CONVERSION}));
 }
 
 TEST_F(HintsTest, APlaceIsToldOnceAndCounted) {
   Script script("InitNewTrigger(\"t\",true,true);\nCompareValues(\"unseen\",\"==\",\"1\");");
   script.tick(5);
   EXPECT_EQ(told(), Words{"2 t: the variable \"unseen\" is read, but nobody has written it () 5"});
-  EXPECT_EQ(kinds(), std::vector{HintKind::Name});
+  EXPECT_EQ(kinds(), std::vector{HintKind::NAME});
 }
 
 TEST_F(HintsTest, EachKindOfStoreIsCalledByItsName) {
@@ -135,7 +135,7 @@ TEST_F(HintsTest, AGlobalNameThatAnotherScriptWritesIsNoHint) {
   Script reader("InitNewTrigger(\"t\",true,true);\nCompareValues(\"\xC2\xA7g\",\"==\",\"1\");");
   reader.tick();
   EXPECT_EQ(hints::all().size(), 1u);
-  ScenarioHandler writer(std::shared_ptr<GlobalStores>(&reader.handler->GetGlobalStores(), [](GlobalStores*) {}));
+  ScenarioHandler writer(std::shared_ptr<GlobalStores>(&reader.handler->getGlobalStores(), [](GlobalStores*) {}));
   writer.SetFloatVariable(std::string("\xC2\xA7g"), 1);
   EXPECT_EQ(told(), Words());
 }
@@ -176,7 +176,7 @@ TEST_F(HintsTest, ANameThatWasReadInVainStaysAHintWhenItsScriptEnds) {
 TEST_F(HintsTest, NothingIsToldOutsideOfScripts) {
   ScenarioHandler handler(std::make_shared<GlobalStores>());
   handler.ResolveFloat(std::string("v"));
-  hints::tell(HintKind::Asset, "text");
+  hints::tell(HintKind::ASSET, "text");
   EXPECT_EQ(told(), Words());
 }
 
@@ -205,7 +205,7 @@ TEST(Hints, AreOffAtFirstAndNothingIsCollectedThen) {
   Script script("InitNewTrigger(\"t\",TRUE,true,\"MP\");\nCompareValues(\"v\",\"=\",\"1\");\nUnitsInArea(\"x\");");
   script.tick(3);
   const ExecutionScope scope(script.document->program.get(), 1);
-  hints::tell(HintKind::Asset, "text");
+  hints::tell(HintKind::ASSET, "text");
   EXPECT_TRUE(hints::all().empty());
   hints::switchTo(true);
   EXPECT_TRUE(hints::all().empty());

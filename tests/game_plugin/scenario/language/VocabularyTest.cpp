@@ -100,11 +100,11 @@ TEST(Vocabulary, OnlyKnownGangsterLogicsPass) {
 }
 
 TEST(Vocabulary, DivisionIsAColonAndASlashAdds) {
-  EXPECT_EQ(ToArithmeticOperator("-"), ArithmeticOperator::Subtract);
-  EXPECT_EQ(ToArithmeticOperator("*"), ArithmeticOperator::Multiply);
-  EXPECT_EQ(ToArithmeticOperator(":"), ArithmeticOperator::Divide);
+  EXPECT_EQ(ToArithmeticOperator("-"), ArithmeticOperator::SUBTRACT);
+  EXPECT_EQ(ToArithmeticOperator("*"), ArithmeticOperator::MULTIPLY);
+  EXPECT_EQ(ToArithmeticOperator(":"), ArithmeticOperator::DIVIDE);
   for (const char* text : {"+", "/", "", "- "})
-    EXPECT_EQ(ToArithmeticOperator(text), ArithmeticOperator::Add) << text;
+    EXPECT_EQ(ToArithmeticOperator(text), ArithmeticOperator::ADD) << text;
 }
 
 TEST(Vocabulary, TheWordsOfATableAreThoseThatItConverts) {

@@ -21,13 +21,13 @@ std::string effectOnce(const std::string& effect) {
 }
 
 TEST_F(MapScriptManagerTest, ModesAreTheirExactTexts) {
-  EXPECT_EQ(toScriptMode("GAME_STARTUP"), ScriptMode::GameStartup);
-  EXPECT_EQ(toScriptMode("MAP_STARTUP"), ScriptMode::MapStartup);
-  EXPECT_EQ(toScriptMode("TEMPORARY"), ScriptMode::Temporary);
-  EXPECT_EQ(toScriptMode("EDITOR_STARTUP"), ScriptMode::EditorStartup);
-  EXPECT_EQ(toScriptMode("MAP_STARTUP_SIMULATION"), ScriptMode::MapStartupSimulation);
-  EXPECT_EQ(toScriptMode("map_startup"), ScriptMode::Unknown);
-  EXPECT_EQ(toText(ScriptMode::MapStartupSimulation), "MAP_STARTUP_SIMULATION");
+  EXPECT_EQ(toScriptMode("GAME_STARTUP"), ScriptMode::GAME_STARTUP);
+  EXPECT_EQ(toScriptMode("MAP_STARTUP"), ScriptMode::MAP_STARTUP);
+  EXPECT_EQ(toScriptMode("TEMPORARY"), ScriptMode::TEMPORARY);
+  EXPECT_EQ(toScriptMode("EDITOR_STARTUP"), ScriptMode::EDITOR_STARTUP);
+  EXPECT_EQ(toScriptMode("MAP_STARTUP_SIMULATION"), ScriptMode::MAP_STARTUP_SIMULATION);
+  EXPECT_EQ(toScriptMode("map_startup"), ScriptMode::UNKNOWN);
+  EXPECT_EQ(toText(ScriptMode::MAP_STARTUP_SIMULATION), "MAP_STARTUP_SIMULATION");
 }
 
 TEST_F(MapScriptManagerTest, AMapScriptRunsWithItsGame) {
@@ -47,7 +47,7 @@ TEST_F(MapScriptManagerTest, AMapScriptRunsWithItsGame) {
 TEST_F(MapScriptManagerTest, BracketsWithoutEndCostTheModOnly) {
   addScript("a", "MAP_STARTUP", COUNTING);
   loadList("{\"MapScripts\": " + std::string(500'000, '['));
-  EXPECT_TRUE(manager().GetScriptEntries().empty());
+  EXPECT_TRUE(manager().getScriptEntries().empty());
   EXPECT_TRUE(logged(4, "MapScript.json"));
 }
 
@@ -64,19 +64,19 @@ TEST_F(MapScriptManagerTest, ATemporaryScriptStartsOncePerScriptOfAnotherPath) {
   addScript("b", "MAP_STARTUP", COUNTING);
   start();
   manager().StartTemporaryScript(scriptPath("b"));
-  ASSERT_EQ(manager().GetScriptEntries().size(), 3u);
+  ASSERT_EQ(manager().getScriptEntries().size(), 3u);
   EXPECT_EQ(entry(2).globalNamePrefix, "");
   EXPECT_EQ(entry(2).document->triggers[0].globalName(), "/t");
   EXPECT_EQ(count(2, "\tMapscriptManager: succesfully initialize new temproray Scenario " + scriptPath("b")), 1);
   manager().StartTemporaryScript("elsewhere");
-  EXPECT_EQ(manager().GetScriptEntries().size(), 6u);
+  EXPECT_EQ(manager().getScriptEntries().size(), 6u);
 }
 
 TEST_F(MapScriptManagerTest, ATemporaryScriptNeedsAnEntryOfAnotherPath) {
   addScript("only", "MAP_STARTUP", "InitNewTrigger(\"t\");");
   start();
   manager().StartTemporaryScript(scriptPath("only"));
-  EXPECT_EQ(manager().GetScriptEntries().size(), 1u) << "the one entry has that very path";
+  EXPECT_EQ(manager().getScriptEntries().size(), 1u) << "the one entry has that very path";
   EXPECT_FALSE(logged(2, "succesfully initialize new temproray Scenario"));
 }
 
@@ -85,7 +85,7 @@ TEST_F(MapScriptManagerTest, WithoutAnyEntryNothingStarts) {
   session->startGame(EMPTY_MAP);
   write("mod", "x64/tidemark/temporary.script", "InitNewTrigger(\"t\");");
   manager().StartTemporaryScript(scriptPath("temporary"));
-  EXPECT_TRUE(manager().GetScriptEntries().empty());
+  EXPECT_TRUE(manager().getScriptEntries().empty());
 }
 
 TEST_F(MapScriptManagerTest, MultiplicationEndsAtABound) {
@@ -94,7 +94,7 @@ TEST_F(MapScriptManagerTest, MultiplicationEndsAtABound) {
   start();
   for (int i = 0; i < 40; ++i)
     manager().StartTemporaryScript(scriptPath(i % 2 ? "a" : "b"));
-  EXPECT_EQ(manager().GetScriptEntries().size(), MapScriptManager::MAXIMUM_SCRIPTS);
+  EXPECT_EQ(manager().getScriptEntries().size(), MapScriptManager::MAXIMUM_SCRIPTS);
   EXPECT_TRUE(logged(4, "no further instance of"));
 }
 
@@ -104,16 +104,16 @@ TEST_F(MapScriptManagerTest, ScriptsThatStopAndStartEachOtherAreBoundedInEachFra
   start();
   for (int i = 0; i < 40; ++i)
     manager().StartTemporaryScript(scriptPath(i % 2 ? "a" : "b"));
-  while (manager().GetScriptEntries().size() > 1)
-    manager().StopScript(manager().GetScriptEntries().back()->path);
-  const std::string other = manager().GetScriptEntries().front()->path == scriptPath("a") ? "b" : "a";
+  while (manager().getScriptEntries().size() > 1)
+    manager().stopScript(manager().getScriptEntries().back()->path);
+  const std::string other = manager().getScriptEntries().front()->path == scriptPath("a") ? "b" : "a";
   for (int i = 0; i < 5; ++i)
     manager().StartTemporaryScript(scriptPath(other));
-  EXPECT_EQ(manager().GetScriptEntries().size(), 3u) << "the frame had two starts left";
+  EXPECT_EQ(manager().getScriptEntries().size(), 3u) << "the frame had two starts left";
   EXPECT_EQ(std::count_if(log.begin(), log.end(), [](const auto& line) { return line.first == 4; }), 1);
   run(0.05);
   manager().StartTemporaryScript(scriptPath(other));
-  EXPECT_EQ(manager().GetScriptEntries().size(), 4u);
+  EXPECT_EQ(manager().getScriptEntries().size(), 4u);
 }
 
 TEST_F(MapScriptManagerTest, StoppingSkipsTheNeighbour) {
@@ -121,9 +121,9 @@ TEST_F(MapScriptManagerTest, StoppingSkipsTheNeighbour) {
   start();
   manager().StartTemporaryScript("x");
   manager().StartTemporaryScript("y"); // two of them: next to each other
-  ASSERT_EQ(manager().GetScriptEntries().size(), 4u);
-  manager().StopScript("y");
-  ASSERT_EQ(manager().GetScriptEntries().size(), 3u);
+  ASSERT_EQ(manager().getScriptEntries().size(), 4u);
+  manager().stopScript("y");
+  ASSERT_EQ(manager().getScriptEntries().size(), 3u);
   EXPECT_EQ(entry(2).path, "y");
   EXPECT_NE(entry(2).handler, nullptr);
 }
@@ -135,7 +135,7 @@ TEST_F(MapScriptManagerTest, AScriptMayStopItself) {
                        "DoLogEntry(\"INFO\",\"behind\");\n"));
   start();
   run(0.1);
-  EXPECT_TRUE(manager().GetScriptEntries().empty());
+  EXPECT_TRUE(manager().getScriptEntries().empty());
   EXPECT_EQ(count(2, "behind"), 0);
   EXPECT_EQ(session->getQsf().getFaultCounter().getCount(), 0u);
 }
@@ -145,7 +145,7 @@ TEST_F(MapScriptManagerTest, TheEntryBehindATemporaryOneIsSkippedAtShutdownAndGo
   addScript("b", "MAP_STARTUP", COUNTING);
   start();
   session->endGame();
-  ASSERT_EQ(manager().GetScriptEntries().size(), 1u);
+  ASSERT_EQ(manager().getScriptEntries().size(), 1u);
   EXPECT_EQ(entry(0).key, "b");
   ScenarioHandler* skipped = entry(0).handler;
   ASSERT_NE(skipped, nullptr);
@@ -164,7 +164,7 @@ TEST_F(MapScriptManagerTest, MayBeReplacedWhileOneOfItsScriptsTicks) {
   public:
     explicit ReloadAtLog(qsf::LogSystem& log) {
       log.addListener([](const qsf::LogSystem::Record& record) {
-        if (record.message == "reload now") MapScriptManager::Replace(false);
+        if (record.message == "reload now") MapScriptManager::replace(false);
       });
     }
   };
@@ -183,9 +183,9 @@ TEST_F(MapScriptManagerTest, GlobalVariablesEndWithTheManager) {
   start();
   run(0.1);
   session->startGame(EMPTY_MAP);
-  EXPECT_EQ(manager().GetGlobalStores()->variables.size(), 1u);
-  MapScriptManager::Replace(false);
-  EXPECT_EQ(manager().GetGlobalStores()->variables.size(), 0u);
+  EXPECT_EQ(manager().getGlobalStores()->variables.size(), 1u);
+  MapScriptManager::replace(false);
+  EXPECT_EQ(manager().getGlobalStores()->variables.size(), 0u);
 }
 
 TEST_F(MapScriptManagerTest, InstancesOfAScriptShareItsProgram) {
@@ -194,15 +194,15 @@ TEST_F(MapScriptManagerTest, InstancesOfAScriptShareItsProgram) {
   start();
   manager().StartTemporaryScript(scriptPath("b"));
   manager().StartTemporaryScript(scriptPath("b"));
-  ASSERT_EQ(manager().GetScriptEntries().size(), 4u);
+  ASSERT_EQ(manager().getScriptEntries().size(), 4u);
   EXPECT_NE(entry(2).document, entry(3).document);
   EXPECT_EQ(entry(2).document->program, entry(3).document->program);
   EXPECT_NE(entry(2).document->program, entry(1).document->program) << "the names of its triggers are others";
   run(0.1);
   EXPECT_EQ(entry(2).handler->ResolveFloat(std::string("n")), 2);
   const std::weak_ptr<const Program> program = entry(2).document->program;
-  while (manager().GetScriptEntries().size() > 1)
-    manager().StopScript(scriptPath("b"));
+  while (manager().getScriptEntries().size() > 1)
+    manager().stopScript(scriptPath("b"));
   EXPECT_TRUE(program.expired());
 }
 
@@ -232,10 +232,10 @@ TEST_F(MapScriptManagerTest, AHundredThousandStartsAndStopsLeaveNothingBehind) {
   const auto startAndStop = [&] {
     for (std::size_t i = 0; i < MapScriptManager::MAXIMUM_SCRIPTS; ++i) {
       manager().StartTemporaryScript(path);
-      if (i + 1 < MapScriptManager::MAXIMUM_SCRIPTS) manager().StopScript(path);
+      if (i + 1 < MapScriptManager::MAXIMUM_SCRIPTS) manager().stopScript(path);
     }
     run(0.05);
-    manager().StopScript(path);
+    manager().stopScript(path);
     log.clear();
   };
   for (int i = 0; i < 2; ++i)
@@ -244,7 +244,7 @@ TEST_F(MapScriptManagerTest, AHundredThousandStartsAndStopsLeaveNothingBehind) {
   for (int i = 0; i < 50; ++i)
     startAndStop();
   EXPECT_LT(getLiveBytes(), before + 50'000) << "less than a byte a start";
-  EXPECT_EQ(manager().GetScriptEntries().size(), 1u);
+  EXPECT_EQ(manager().getScriptEntries().size(), 1u);
 }
 
 class PreCommandCheckTest : public ModuleTest {
@@ -254,7 +254,7 @@ protected:
     write("mod", "order_info/fire/plain.json", R"({"name": "Plain"})");
     write("mod", "order_info/fire/masked.json", R"({"name": "Masked", "tags": ["IgnoreSmoke"]})");
     start();
-    manager().GetBlockedEntityIds() = {77};
+    manager().getBlockedEntityIds() = {77};
   }
   static std::uint64_t placeUnit(const std::string& orderInfo) {
     qsf::Entity* unit = qsf::getMainMap().createEntity();

@@ -3,7 +3,7 @@
 #include "game_plugin/ModuleFixture.h"
 #include "game_plugin/tooling/Tooling.h"
 
-extern "C" script::tooling::Tooling* GetTidemarkTooling();
+extern "C" script::tooling::Tooling* getTidemarkTooling();
 
 using namespace script;
 using tooling::FateView;
@@ -13,7 +13,7 @@ namespace {
 /// Seen as tools see them.
 class ScriptFatesTest : public ModuleTest {
 protected:
-  static std::vector<FateView> fates() { return GetTidemarkTooling()->getFates(); }
+  static std::vector<FateView> fates() { return getTidemarkTooling()->getFates(); }
   std::string temporary(const std::string& text) {
     return write("mod", "x64/tidemark/temporary.script", text) + "/x64/tidemark/temporary.script";
   }
@@ -24,7 +24,7 @@ TEST_F(ScriptFatesTest, AScriptThatRunsHasNone) {
   start();
   run(0.1);
   EXPECT_TRUE(fates().empty());
-  EXPECT_TRUE(GetTidemarkTooling()->getUnreadableConfigurations().empty());
+  EXPECT_TRUE(getTidemarkTooling()->getUnreadableConfigurations().empty());
 }
 
 TEST_F(ScriptFatesTest, ARefusedScriptIsNamedWithItsReason) {
@@ -77,7 +77,7 @@ TEST_F(ScriptFatesTest, InstancesThatEndAlikeAreCounted) {
   start();
   for (int i = 0; i < 3; ++i) {
     manager().StartTemporaryScript("x");
-    manager().StopScript("x");
+    manager().stopScript("x");
   }
   ASSERT_EQ(fates().size(), 1u);
   EXPECT_EQ(fates()[0].what, "stopped by StopScenario");
@@ -108,8 +108,8 @@ TEST_F(ScriptFatesTest, ATemporaryScriptEndsWithItsMap) {
 TEST_F(ScriptFatesTest, AConfigurationThatCantBeReadIsNamed) {
   addScript("main", "MAP_STARTUP", "");
   loadList("{\"MapScripts\": {");
-  ASSERT_EQ(GetTidemarkTooling()->getUnreadableConfigurations().size(), 1u);
-  const std::string message = GetTidemarkTooling()->getUnreadableConfigurations()[0];
+  ASSERT_EQ(getTidemarkTooling()->getUnreadableConfigurations().size(), 1u);
+  const std::string message = getTidemarkTooling()->getUnreadableConfigurations()[0];
   EXPECT_NE(message.find("/mod/x64/tidemark/MapScript.json"), std::string::npos) << message;
   EXPECT_EQ(count(4, message), 1);
   EXPECT_TRUE(fates().empty());
@@ -119,14 +119,14 @@ TEST_F(ScriptFatesTest, AReloadForgetsThem) {
   addScript("main", "MAP_STARTUP", "");
   start();
   manager().StartTemporaryScript("x");
-  manager().StopScript("x");
+  manager().stopScript("x");
   write("mod", "x64/tidemark/MapScript.json", "{\"MapScripts\": {");
-  GetTidemarkTooling()->reload();
+  getTidemarkTooling()->reload();
   EXPECT_TRUE(fates().empty());
-  EXPECT_EQ(GetTidemarkTooling()->getUnreadableConfigurations().size(), 1u);
+  EXPECT_EQ(getTidemarkTooling()->getUnreadableConfigurations().size(), 1u);
   write("mod", "x64/tidemark/MapScript.json", "{\"MapScripts\": {}}");
-  GetTidemarkTooling()->reload();
-  EXPECT_TRUE(GetTidemarkTooling()->getUnreadableConfigurations().empty());
+  getTidemarkTooling()->reload();
+  EXPECT_TRUE(getTidemarkTooling()->getUnreadableConfigurations().empty());
 }
 
 TEST_F(ScriptFatesTest, TheyAreBoundedHoweverManyScriptsEnd) {
@@ -135,10 +135,10 @@ TEST_F(ScriptFatesTest, TheyAreBoundedHoweverManyScriptsEnd) {
   for (int i = 0; i < 1200; ++i) {
     const std::string path = "script " + std::to_string(i);
     manager().StartTemporaryScript(path);
-    manager().StopScript(path);
+    manager().stopScript(path);
   }
   EXPECT_EQ(fates().size(), 1000u);
-  EXPECT_EQ(manager().GetScriptEntries().size(), 1u);
+  EXPECT_EQ(manager().getScriptEntries().size(), 1u);
 }
 
 }

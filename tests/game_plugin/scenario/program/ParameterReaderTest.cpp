@@ -105,11 +105,11 @@ TEST(ParameterReader, DescribesInsteadOfReading) {
   EXPECT_FALSE(in.flag(2, false, "Flag", "a flag"));
   EXPECT_EQ(in.id(9, 5, "", ""), 5u);
   EXPECT_EQ(in.decimal(4, 0.5f, "Decimal", ""), 0.5f);
-  EXPECT_EQ(in.integer(5, 3, "Key", "", ParameterRole::Key), 3);
+  EXPECT_EQ(in.integer(5, 3, "Key", "", ParameterRole::KEY), 3);
   in.words(6, "c", "Words", "", ACCEPTED);
   in.comparison(7, "==", "Operator", "");
   in.property(8, 6, "", "Property", "");
-  in.of(ParameterRole::Sound, 10, "", "Sound", "");
+  in.of(ParameterRole::SOUND, 10, "", "Sound", "");
   EXPECT_EQ(in.state<int>().cell(), 0u);
   const Words expected{"1|string|Text|d|a text|list in and out",
                        "2|bool|Flag|false|a flag|flag|true|false",

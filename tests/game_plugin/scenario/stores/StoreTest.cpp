@@ -43,7 +43,7 @@ TEST(StoreTest, AnEraseMovesTheEntriesBehindAndChangesTheEpoch) {
 TEST(StoreTest, NoTwoStoresShareAnEpoch) { EXPECT_NE(Store<float>().epoch(), Store<std::string>().epoch()); }
 
 TEST(StoreTest, WithOneMarkTheEncodingOfANameIsNoMatter) {
-  Store<float> store(StoreMarks::One);
+  Store<float> store(StoreMarks::ONE);
   const std::size_t written = store.append("\xA7"
                                            "a\xA7\xA7",
                                            1);
@@ -62,7 +62,7 @@ TEST(StoreTest, WithOneMarkTheEncodingOfANameIsNoMatter) {
 }
 
 TEST(StoreTest, WithOneMarkOtherCharactersThatEndWithItsByteStay) {
-  Store<float> store(StoreMarks::One);
+  Store<float> store(StoreMarks::ONE);
   for (const char* name : {"\xC3\xA7", "x\xC3\xA7y", "\xE2\x82\xA7", "\xF0\x9F\x9A\xA7"}) {
     store.append(name, 0);
     EXPECT_EQ(store.name(store.size() - 1), name);

@@ -23,7 +23,7 @@ TEST_F(ScenarioHandlerStores, ReadingAMissingNameMakesAnEmptyEntry) {
   EXPECT_TRUE(handler.GetStringList("e").empty());
   EXPECT_TRUE(handler.GetJsonVariable("f").empty());
   EXPECT_EQ(handler.variables.size() + handler.stringVariables.size() + handler.entityLists.size() +
-                handler.boolVariables.size() + handler.stringLists.size() + handler.GetJsonStore().entries.size(),
+                handler.boolVariables.size() + handler.stringLists.size() + handler.getJsonStore().entries.size(),
             6u);
 }
 
@@ -70,8 +70,8 @@ TEST_F(ScenarioHandlerStores, StringListsHoldNoTextTwice) {
 TEST_F(ScenarioHandlerStores, LocalRemovalLeavesTheGlobalStoreAlone) {
   handler.SetFloatVariable(MARK + "a", 1);
   handler.SetFloatVariable(std::string("b"), 2);
-  handler.RemoveLocalVariable(MARK + "a");
-  handler.RemoveLocalVariable("b");
+  handler.removeLocalVariable(MARK + "a");
+  handler.removeLocalVariable("b");
   EXPECT_EQ(global->variables.size(), 1u);
   EXPECT_EQ(handler.variables.size(), 0u);
 }

@@ -18,7 +18,7 @@ namespace {
 TEST(ScenarioHandler, WithoutADocumentItTellsSoAndLeavesItsJob) {
   const LogCapture log;
   ScenarioHandler handler(std::make_shared<GlobalStores>());
-  handler.Start(StartKind::Realtime);
+  handler.Start(StartKind::REALTIME);
   EXPECT_EQ(log.count(2, "ScenarioHandler: Scriptpointer is not valid"), 1);
   handler.Update(qsf::JobArguments(qsf::Time::ZERO));
   EXPECT_EQ(log.count(2, "There is no loaded script"), 1);
@@ -109,8 +109,8 @@ TEST(ScenarioHandler, RetiringInsideATickEndsItAtOnce) {
   const LogCapture log;
   auto* handler = new ScenarioHandler(std::make_shared<GlobalStores>());
   handler->SetDocument(parseDocument("InitNewTrigger(\"t\");"));
-  handler->Start(StartKind::Realtime);
-  ScenarioHandler::Retire(handler); // outside of a tick it is gone at once, with its job
+  handler->Start(StartKind::REALTIME);
+  ScenarioHandler::retire(handler); // outside of a tick it is gone at once, with its job
   EXPECT_EQ(qsf::Qsf::instance()->getJobManagers().getNumberOfJobs("em5::Jobs::REALTIME_GUI_DEBUG"), 0u);
 }
 
@@ -123,7 +123,7 @@ TEST(ScenarioHandler, ResolvesNumbersNamesAndTheGlobalMark) {
   EXPECT_EQ(handler.ResolveFloat(std::string("3.5 ")), 0);
   EXPECT_EQ(handler.variables.name(0), "3.5 ");
   handler.SetFloatVariable(std::string("\xC2\xA7x"), 4);
-  EXPECT_EQ(handler.GetGlobalStores().variables.size(), 1u);
+  EXPECT_EQ(handler.getGlobalStores().variables.size(), 1u);
   EntryRunner runner;
   runner.handler->SetFloatVariable(runner.argument("\xC2\xA7x"), 5);
   EXPECT_EQ(runner.handler->variables.size(), 0u);
@@ -139,7 +139,7 @@ TEST(ScenarioHandler, AnArgumentFollowsItsEntryThroughErasures) {
   handler.SetFloatVariable(a, 1);
   handler.SetFloatVariable(b, 2);
   EXPECT_EQ(handler.ResolveFloat(b), 2);
-  handler.RemoveLocalVariable("a");
+  handler.removeLocalVariable("a");
   EXPECT_EQ(handler.ResolveFloat(b), 2);
   EXPECT_EQ(handler.ResolveFloat(a), 0) << "a read brings it to life again, empty";
   EXPECT_EQ(handler.variables.name(1), "a");
@@ -167,7 +167,7 @@ TEST(ScenarioHandler, RemovingAGlobalListErasesTheLocalListAtItsPlace) {
   handler.ClearEntityList(std::string("\xA7g"), true);
   EXPECT_EQ(handler.entityLists.size(), 1u);
   EXPECT_EQ(handler.entityLists.name(0), "second");
-  EXPECT_EQ(handler.GetGlobalStores().entityLists.value(0).size(), 1u);
+  EXPECT_EQ(handler.getGlobalStores().entityLists.value(0).size(), 1u);
 }
 
 TEST(ScenarioHandler, VectorsNeedThreeParts) {

@@ -46,7 +46,7 @@ TEST_F(WorldHintsTest, AComponentThatDoesNotExistIsToldWithTheNearestOne) {
   runEffects("SetComponentProperty(\"100\",\"qsf::MetadtaComponent\",\"Name\",\"x\");\n"
              "SetComponentProperty(\"100 101\",\"qsf::LinkComponent\",\"Active\",\"1\");\n"
              "SetComponentProperty(\"100\",\"qsf::MetadataComponent\",\"Name\",\"x\");\n");
-  EXPECT_EQ(told(HintKind::Component),
+  EXPECT_EQ(told(HintKind::COMPONENT),
             (Lines{"3: there is no component \"qsf::MetadtaComponent\" (qsf::MetadataComponent) 1",
                    "4: no entity of the list has the component \"qsf::LinkComponent\" () 1"}));
   EXPECT_EQ(hints::all().size(), 2u);
@@ -55,36 +55,36 @@ TEST_F(WorldHintsTest, AComponentThatDoesNotExistIsToldWithTheNearestOne) {
 TEST_F(WorldHintsTest, APropertyThatDoesNotExistIsToldWithTheNearestOne) {
   runEffects("SetComponentProperty(\"100\",\"qsf::TransformComponent\",\"Positon\",\"1 2 3\");\n"
              "SetComponentProperty(\"100\",\"qsf::TransformComponent\",\"Position\",\"1 2 3\");\n");
-  EXPECT_EQ(told(HintKind::Property),
+  EXPECT_EQ(told(HintKind::PROPERTY),
             Lines{"3: the component qsf::TransformComponent has no property \"Positon\" (Position) 1"});
 }
 
 TEST_F(WorldHintsTest, APropertyThatDoesNotTakeTheValueIsTold) {
   runEffects("SetComponentProperty(\"100\",\"qsf::TransformComponent\",\"Active\",\"perhaps\");\n");
-  ASSERT_EQ(told(HintKind::Property).size(), 1u);
-  EXPECT_EQ(told(HintKind::Property)[0].find(
+  ASSERT_EQ(told(HintKind::PROPERTY).size(), 1u);
+  EXPECT_EQ(told(HintKind::PROPERTY)[0].find(
                 "3: the property \"Active\" of qsf::TransformComponent is not what it is used as: "),
             0u)
-      << told(HintKind::Property)[0];
+      << told(HintKind::PROPERTY)[0];
 }
 
 TEST_F(WorldHintsTest, AnIdWithoutAnEntityIsTold) {
   runEffects(
       "SetComponentProperty(\"100 998 999\",\"qsf::MetadataComponent\",\"Name\",\"x\");\nDestroyObject(\"101\");\n"
       "AddEntityToEntityList(\"100\",\"l\");\nDestroyObject(\"l\");\n");
-  EXPECT_EQ(told(HintKind::Entity), (Lines{"3: there is no entity 998 () 1", "3: there is no entity 999 () 1"}));
+  EXPECT_EQ(told(HintKind::ENTITY), (Lines{"3: there is no entity 998 () 1", "3: there is no entity 999 () 1"}));
 }
 
 TEST_F(WorldHintsTest, AnAssetThatNobodyHasIsToldWithTheNearestOne) {
   runEffects(
       "SpawnObject(\"em5/prefab/test/fire_engin\",\"l\");\nSpawnObject(\"em5/prefab/test/fire_engine\",\"l\");\n");
-  EXPECT_EQ(told(HintKind::Asset),
+  EXPECT_EQ(told(HintKind::ASSET),
             Lines{"3: no project has the asset \"em5/prefab/test/fire_engin\" (em5/prefab/test/fire_engine) 1"});
 }
 
 TEST_F(WorldHintsTest, ALinkThatIsRefusedIsTold) {
   runEffects("LinkEntityToParent(\"100\",\"101\");\nLinkEntityToParent(\"101\",\"100\");\n");
-  EXPECT_EQ(told(HintKind::Link), Lines{"4: entity 101 can't be linked below 100, which is below it () 1"});
+  EXPECT_EQ(told(HintKind::LINK), Lines{"4: entity 101 can't be linked below 100, which is below it () 1"});
 }
 
 TEST_F(WorldHintsTest, NothingIsToldWhileHintsAreOff) {
@@ -98,8 +98,8 @@ TEST_F(WorldHintsTest, NothingIsToldWhileHintsAreOff) {
 
 TEST_F(WorldHintsTest, AUnitTypeThatDoesNotExistIsToldWithTheNearestOne) {
   runEffects("AddUnitsFromTypeToEntityList(\"l\",\"Gangsters\",\"true\",\"1\");\n");
-  ASSERT_EQ(told(HintKind::Word).size(), 2u) << "when it is read and when it is looked for";
-  EXPECT_EQ(told(HintKind::Word)[0].find("3: \"Gangsters\" is no word that UnitType knows (Gangster) "), 0u);
+  ASSERT_EQ(told(HintKind::WORD).size(), 2u) << "when it is read and when it is looked for";
+  EXPECT_EQ(told(HintKind::WORD)[0].find("3: \"Gangsters\" is no word that UnitType knows (Gangster) "), 0u);
 }
 
 }

@@ -126,21 +126,21 @@ TEST_F(PluginSystemTest, WhatCannotBeLoadedSaysWhy) {
   const std::string noFactory = loadFailing(paths::testPlugin(), "CreateSomethingElse");
   EXPECT_NE(noFactory.find("CreateSomethingElse"), std::string::npos);
   EXPECT_NE(noFactory.find("exports no such function"), std::string::npos);
-  EXPECT_NE(loadFailing(paths::testPlugin(), "CreateNothing").find("made no plug-in"), std::string::npos);
-  EXPECT_NE(loadFailing(paths::testPlugin(), "CreateWithFault").find("made no plug-in"), std::string::npos);
+  EXPECT_NE(loadFailing(paths::testPlugin(), "createNothing").find("made no plug-in"), std::string::npos);
+  EXPECT_NE(loadFailing(paths::testPlugin(), "createWithFault").find("made no plug-in"), std::string::npos);
   EXPECT_EQ(host.getFaultCounter().getCount(), 1u);
   EXPECT_TRUE(host.getPluginSystem().getPlugins().empty());
 }
 
 TEST_F(PluginSystemTest, APluginThatRefusesItsInstallationIsNotStarted) {
-  EXPECT_EQ(host.getPluginSystem().loadPlugin(paths::testPlugin(), "CreateRefusingInstall"), nullptr);
+  EXPECT_EQ(host.getPluginSystem().loadPlugin(paths::testPlugin(), "createRefusingInstall"), nullptr);
   EXPECT_EQ(getCalls(), "onInstall destroyed ");
   ASSERT_EQ(lines.size(), 1u);
   EXPECT_EQ(lines[0], "4 The plug-in 'test plug-in' could not be installed");
 }
 
 TEST_F(PluginSystemTest, AnExceptionInTheInstallationIsARefusal) {
-  EXPECT_EQ(host.getPluginSystem().loadPlugin(paths::testPlugin(), "CreateThrowingInstall"), nullptr);
+  EXPECT_EQ(host.getPluginSystem().loadPlugin(paths::testPlugin(), "createThrowingInstall"), nullptr);
   EXPECT_EQ(getCalls(), "onInstall destroyed ");
   ASSERT_EQ(lines.size(), 2u);
   EXPECT_EQ(lines[0], "4 Fault in the installation of plug-in 'test plug-in': refused");
@@ -148,7 +148,7 @@ TEST_F(PluginSystemTest, AnExceptionInTheInstallationIsARefusal) {
 }
 
 TEST_F(PluginSystemTest, APluginThatRefusesToStartIsUninstalled) {
-  EXPECT_EQ(host.getPluginSystem().loadPlugin(paths::testPlugin(), "CreateRefusingStartup"), nullptr);
+  EXPECT_EQ(host.getPluginSystem().loadPlugin(paths::testPlugin(), "createRefusingStartup"), nullptr);
   EXPECT_EQ(getCalls(), "onInstall onStartup onUninstall destroyed ");
   ASSERT_EQ(lines.size(), 1u);
   EXPECT_EQ(lines[0], "4 The plug-in 'test plug-in' could not be started");
