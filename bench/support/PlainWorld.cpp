@@ -116,11 +116,11 @@ void PlainWorld::findKnown(const Ids& list) {
     if (find(id)) out.push_back(id);
 }
 
-void PlainWorld::pickClosest(const Ids& list, std::size_t number) {
+void PlainWorld::pickClosestTo(const glm::vec3& center, const Ids& list, std::size_t number) {
   std::vector<std::pair<float, std::uint64_t>> places;
   places.reserve(list.size());
   for (const std::uint64_t id : list)
-    if (const Unit* unit = find(id)) places.emplace_back(distance(*unit), id);
+    if (const Unit* unit = find(id)) places.emplace_back(glm::length(unit->position - center), id);
   number = std::min(number, places.size());
   const auto end = places.begin() + static_cast<std::ptrdiff_t>(number);
   std::partial_sort(places.begin(), end, places.end());
@@ -166,6 +166,10 @@ void PlainWorld::pickCluster(const Ids& list, std::size_t number, float range) {
           for (const std::size_t i : found->second)
             if (glm::dot(places[i] - seed, places[i] - seed) < range * range) out.push_back(list[i]);
     if (out.size() >= number) break;
+  }
+  if (out.size() < number) {
+    pickClosestTo(places[draw() % places.size()], list, number);
+    return;
   }
   // Which of a cluster's units are taken follows the list's order.
   std::sort(out.begin(), out.end());

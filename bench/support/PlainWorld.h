@@ -36,9 +36,10 @@ public:
   void findFarther(const Ids& list, float distance);
   void findPersons(const Ids& list);
   void findKnown(const Ids& list);
-  void pickClosest(const Ids& list, std::size_t number);
+  void pickClosest(const Ids& list, std::size_t number) { pickClosestTo(mCenter.position, list, number); }
   void drawPersons(std::size_t number, float radius);
-  /// The first cluster of so many within the range of one of them; draws its seeds without repeating one.
+  /// The first cluster of so many within the range of one of them, whose seeds are drawn without repeating one; if
+  /// there is none, one of them and those closest to it.
   void pickCluster(const Ids& list, std::size_t number, float range);
   void addAll(const Ids& list);
   void listAll();
@@ -66,6 +67,7 @@ private:
   };
 
   const Unit* find(std::uint64_t id) const;
+  void pickClosestTo(const glm::vec3& center, const Ids& list, std::size_t number);
   float distance(const Unit& unit) const { return glm::length(unit.position - mCenter.position); }
   bool isInArea(const Unit& unit) const;
   std::uint64_t draw() { return (mRandom = mRandom * 6364136223846793005u + 1442695040888963407u) >> 33; }

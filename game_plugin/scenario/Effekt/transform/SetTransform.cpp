@@ -43,14 +43,14 @@ static bool wouldCopyFromMissingUnit(const SetTransformEffect& effect, ScenarioH
 
 static void setPosition(const SetTransformEffect& effect, ScenarioHandler& handler,
                         qsf::TransformComponent* transform) {
-  if (!splitVector(handler, effect.position)) logInfo("ExecuteCommandEffect: cant read your Position argument.");
-  const std::vector<std::string> parts = splitParts(handler, effect.position);
-  if (parts.size() != 3)
-    logInfo("SetTransformEffect: cant read your Position argument. Expected 3 parameters (like \"100.5 0 70\")  and "
-            "got " +
-            std::to_string(parts.size()) + " parameters");
-  else if (transform)
-    transform->setPosition(resolveParts(handler, parts));
+  if (const std::optional<glm::vec3> position = splitVector(handler, effect.position)) {
+    if (transform) transform->setPosition(*position);
+    return;
+  }
+  logInfo("ExecuteCommandEffect: cant read your Position argument.");
+  logInfo("SetTransformEffect: cant read your Position argument. Expected 3 parameters (like \"100.5 0 70\")  and "
+          "got " +
+          std::to_string(splitParts(handler, effect.position).size()) + " parameters");
 }
 
 /// Unlike the position, the rotation is only split here, so that a bad one has this one line.

@@ -46,18 +46,21 @@ static const qsf::TransformComponent* findSpawnPoint(const SpawnObjectEffect& ef
 
 static void placeByParameters(const SpawnObjectEffect& effect, ScenarioHandler& handler,
                               qsf::TransformComponent& transform) {
+  glm::vec3 position = transform.getPosition();
+  glm::quat rotation = transform.getRotation();
   if (effect.setPosition) {
-    if (const std::optional<glm::vec3> position = splitVector(handler, effect.position))
-      transform.setPosition(*position);
+    if (const std::optional<glm::vec3> given = splitVector(handler, effect.position))
+      position = *given;
     else
       logInfo("SetTransformEffect: cant read your Position argument.");
   }
   if (effect.setRotation) {
     if (const std::optional<glm::vec3> degrees = splitVector(handler, effect.rotation))
-      transform.setRotation(rotationFromDegrees(*degrees));
+      rotation = rotationFromDegrees(*degrees);
     else
       logInfo("SetTransformEffect: cant read your Rotation argument.");
   }
+  transform.setPositionAndRotation(position, rotation);
 }
 
 static void run(const SpawnObjectEffect& effect, ScenarioHandler& handler) {

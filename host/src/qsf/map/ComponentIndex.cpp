@@ -1,5 +1,7 @@
 #include "qsf/map/ComponentIndex.h"
 
+#include <iterator>
+
 namespace qsf {
 
 void ComponentIndex::add(Component& component) {
@@ -18,7 +20,9 @@ bool ComponentIndex::remove(const Component& component) {
   const auto found = mClasses.find(component.getId());
   if (found == mClasses.end()) return false;
   Class& held = found->second;
-  const auto place = held.byEntity.find(component.getEntityId());
+  // What a script makes it soon destroys, so the last one is looked at first.
+  const bool isLast = !held.byEntity.empty() && held.byEntity.rbegin()->second == &component;
+  const auto place = isLast ? std::prev(held.byEntity.end()) : held.byEntity.find(component.getEntityId());
   if (place == held.byEntity.end() || place->second != &component) return false;
   held.byEntity.erase(place);
   if (held.isUpToDate && held.list.back() == &component)

@@ -16,13 +16,14 @@ Component* constructByCamp(const camp::Class& metaclass, Prototype& prototype) {
 
 /// Null if there is no such class, if it has no constructor for a prototype or is no component.
 std::unique_ptr<Component> makeComponent(StringHash componentId, Prototype& prototype) {
-  const camp::Class* metaclass = findComponentClass(componentId);
-  if (!metaclass) return nullptr;
+  const ClassRegistry::ComponentMaker maker = ClassRegistry::findComponentMaker(componentId);
+  const camp::Class* metaclass = maker ? nullptr : findComponentClass(componentId);
+  if (!maker && !metaclass) return nullptr;
   try {
-    const ClassRegistry::ComponentMaker maker = ClassRegistry::findComponentMaker(componentId);
     return std::unique_ptr<Component>(maker ? maker(&prototype) : constructByCamp(*metaclass, prototype));
   } catch (const std::exception& fault) {
-    logMessage(LogSystem::ERROR, "A component " + metaclass->name() + " could not be made: " + fault.what());
+    logMessage(LogSystem::ERROR,
+               "A component " + findComponentClass(componentId)->name() + " could not be made: " + fault.what());
     return nullptr;
   }
 }
