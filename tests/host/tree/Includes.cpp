@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <regex>
+#include <string_view>
 
 namespace fs = std::filesystem;
 
@@ -13,6 +13,19 @@ namespace {
 
 /// Where our targets look for headers, in their order.
 constexpr const char* HEADER_ROOTS[] = {"", "host/include/", "host/src/"};
+
+/// What a line includes, as it is written; empty if it includes nothing.
+std::string includedBy(std::string_view line) {
+  for (const std::string_view word : {"#", "include"}) {
+    line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
+    if (!line.starts_with(word)) return {};
+    line.remove_prefix(word.size());
+  }
+  line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
+  if (!line.starts_with('"') && !line.starts_with('<')) return {};
+  line.remove_prefix(1);
+  return std::string(line.substr(0, line.find_first_of("\">")));
+}
 
 std::string resolve(const std::string& root, const std::string& written) {
   for (const char* headers : HEADER_ROOTS)
@@ -44,19 +57,18 @@ std::set<std::string> reachable(const Graph& graph, const std::string& from) {
 }
 
 std::vector<Include> readIncludes(const std::string& root, const std::vector<std::string>& folders) {
-  static const std::regex pattern(R"re(^\s*#\s*include\s*["<]([^">]+)[">])re");
   std::vector<Include> includes;
   for (const std::string& folder : folders) {
     if (!fs::exists(fs::path(root) / folder)) continue;
     for (const auto& entry : fs::recursive_directory_iterator(fs::path(root) / folder)) {
       if (entry.path().extension() != ".h" && entry.path().extension() != ".cpp") continue;
       std::ifstream stream(entry.path());
-      std::smatch match;
       int number = 0;
       for (std::string line; std::getline(stream, line);) {
         ++number;
-        if (line.find("#") == std::string::npos || !std::regex_search(line, match, pattern)) continue;
-        includes.push_back({fs::relative(entry.path(), root).generic_string(), number, resolve(root, match[1].str())});
+        const std::string written = includedBy(line);
+        if (written.empty()) continue;
+        includes.push_back({fs::relative(entry.path(), root).generic_string(), number, resolve(root, written)});
       }
     }
   }
