@@ -44,12 +44,12 @@ namespace {
 constexpr const EffectEntry* OWN_ENTRIES[] = {&SendHintEffectEntry, &ShowDebuggingGuiEffectEntry,
                                               &UseConditionalBlockEffectEntry};
 /// The entries that are asked before all groups; they are no group's.
-constexpr EffectGroup OwnEffects{"", OWN_ENTRIES};
+constexpr EffectGroup OWN_EFFECTS{"", OWN_ENTRIES};
 
 }
 
 std::span<const EffectGroup* const> ScenarioEffects::groups() {
-  static constexpr const EffectGroup* GROUPS[] = {&OwnEffects,
+  static constexpr const EffectGroup* GROUPS[] = {&OWN_EFFECTS,
                                                   &ScenarioEffects_Brill,
                                                   &ScenarioEffects_Tarn,
                                                   &ScenarioEffects_Event,
