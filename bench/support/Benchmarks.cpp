@@ -53,10 +53,7 @@ void Results::ReportRuns(const std::vector<Run>& runs) {
 double Results::nanoseconds(const std::string& name) const {
   const auto found = mTimes.find(name);
   if (found == mTimes.end()) return MISSING;
-  std::vector<double> times = found->second;
-  const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
-  std::nth_element(times.begin(), middle, times.end());
-  return *middle;
+  return *std::min_element(found->second.begin(), found->second.end());
 }
 
 double Results::counter(const std::string& name, const std::string& counterName) const {
@@ -102,9 +99,9 @@ int runAndPrint(int argc, char** argv, Table (*makeTable)(const Results& results
     arguments.erase(found);
   }
   // Repetitions of all benchmarks are mixed, so that a slow spell of the machine hits both sides of a ratio.
-  char repetitions[] = "--benchmark_repetitions=5";
+  char repetitions[] = "--benchmark_repetitions=11";
   char mixed[] = "--benchmark_enable_random_interleaving=true";
-  char shortTime[] = "--benchmark_min_time=0.1";
+  char shortTime[] = "--benchmark_min_time=0.05";
   arguments.insert(arguments.begin() + 1, {repetitions, mixed, shortTime});
 
   int count = static_cast<int>(arguments.size());

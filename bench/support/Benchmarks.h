@@ -7,7 +7,8 @@
 
 namespace tidemark::bench {
 
-/// The results of a run by the benchmark's name: the median of its repetitions, so that a busy machine disturbs little.
+/// The results of a run by the benchmark's name: the fastest of its repetitions, since whatever disturbs one
+/// (another program, a neighbour of a virtual machine) only ever adds to it.
 class Results : public benchmark::ConsoleReporter {
 public:
   Results();

@@ -101,6 +101,20 @@ void ScenarioHandler::Start(StartKind kind) {
                              qsf::jobs::JobConfiguration(2));
 }
 
+/// Asks the processor for what the next triggers need, step by step, since one leads to the other: a large script
+/// doesn't fit into the near caches, and a tick is mostly waiting for memory.
+[[gnu::always_inline]] static inline void fetchAhead(const ScriptDocument& document, std::size_t index) {
+  constexpr std::size_t PROGRAM = 12;
+  constexpr std::size_t LIST = 8;
+  constexpr std::size_t RECORD = 4;
+  const std::vector<ScenarioTrigger>& triggers = document.triggers;
+  if (index + PROGRAM >= triggers.size()) return;
+  __builtin_prefetch(triggers[index + PROGRAM].program);
+  __builtin_prefetch(triggers[index + LIST].program->conditions.begin());
+  if (const Conditions& conditions = triggers[index + RECORD].program->conditions; !conditions.empty())
+    __builtin_prefetch(conditions[0]);
+}
+
 void ScenarioHandler::Update(const qsf::JobArguments& arguments) {
   if (!mDocument) {
     mUpdateJobProxy.unregister();
@@ -112,6 +126,7 @@ void ScenarioHandler::Update(const qsf::JobArguments& arguments) {
   bool isClient = isLocalPlayerClient();
   for (std::size_t i = 0; i < mDocument->triggers.size() && !mStopped; ++i) {
     ScenarioTrigger& trigger = mDocument->triggers[i];
+    fetchAhead(*mDocument, i);
     if (!trigger.active) continue;
     if (isClient && trigger.program->multiplayerMode != 2)
       tickOnClient(trigger);
