@@ -7,9 +7,11 @@ endif()
 # text doesn't depend on the folder that it is built in, so ccache can share objects between folders.
 function(tidemark_precompile target)
   target_precompile_headers(${target} PRIVATE ${ARGN})
-  # What ccache reads instead of the 200 megabytes that g++ makes of it.
+  # What ccache reads instead of the 200 megabytes that g++ makes of it, and of clang's, which names its folder.
   string(SHA256 sum "${ARGN} ${CMAKE_CXX_COMPILER_VERSION}")
-  file(CONFIGURE OUTPUT CMakeFiles/${target}.dir/cmake_pch.hxx.gch.sum CONTENT "${sum}\n")
+  foreach(kind IN ITEMS gch pch)
+    file(CONFIGURE OUTPUT CMakeFiles/${target}.dir/cmake_pch.hxx.${kind}.sum CONTENT "${sum}\n")
+  endforeach()
 endfunction()
 
 separate_arguments(DRIVER_FLAGS UNIX_COMMAND "${TIDEMARK_DRIVER_FLAGS}")
