@@ -44,6 +44,16 @@ bool textContained(std::string_view directive, std::string_view actual) {
   return false;
 }
 
+std::uint64_t countOccurrences(std::string_view directive, std::string_view actual) {
+  std::uint64_t count = 0;
+  for (std::size_t start = 0; start < actual.size();) {
+    const std::size_t length = matchAt(directive, actual.substr(start)).value_or(0);
+    if (length > 0) ++count;
+    start += std::max<std::size_t>(length, 1);
+  }
+  return count;
+}
+
 bool holdsGlobalMark(std::string_view name) { return name.find('\xA7') != std::string_view::npos; }
 
 }

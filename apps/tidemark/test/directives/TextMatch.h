@@ -1,4 +1,5 @@
 #pragma once
+#include <cstdint>
 #include <string_view>
 
 namespace tidemark::test {
@@ -8,6 +9,8 @@ namespace tidemark::test {
 bool textMatches(std::string_view directive, std::string_view actual);
 /// The same for a text inside another.
 bool textContained(std::string_view directive, std::string_view actual);
+/// How often it stands there, without overlaps. An empty text stands nowhere.
+std::uint64_t countOccurrences(std::string_view directive, std::string_view actual);
 /// True if the name holds the mark of global store entries, in either encoding.
 bool holdsGlobalMark(std::string_view name);
 

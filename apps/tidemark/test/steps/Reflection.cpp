@@ -6,6 +6,7 @@
 #include "qsf/map/Entity.h"
 #include "qsf/reflection/ClassRegistry.h"
 
+#include <camp/arrayproperty.hpp>
 #include <fmt/format.h>
 
 namespace tidemark::test {
@@ -72,6 +73,15 @@ std::string readProperty(const qsf::Entity& entity, const PropertyName& name) {
   const qsf::Component& component = requireComponent(entity, name.component);
   requireProperty(component, name);
   return component.getPropertyAsString(name.property);
+}
+
+std::size_t countElements(const qsf::Entity& entity, const PropertyName& name) {
+  const qsf::Component& component = requireComponent(entity, name.component);
+  requireProperty(component, name);
+  const camp::Property& property = component.getCampClass().property(name.property);
+  if (property.type() != camp::arrayType)
+    throw DirectiveError(fmt::format("{}.{} is no array", name.component, name.property));
+  return static_cast<const camp::ArrayProperty&>(property).size(camp::UserObject(component));
 }
 
 void writeProperty(qsf::Entity& entity, const PropertyName& name, const std::string& value) {

@@ -35,7 +35,9 @@ void requireComponentClass(const std::string& component);
 qsf::Component* findComponent(const qsf::Entity& entity, const std::string& component);
 /// Throws DirectiveError for an unknown class or property, NotThere if the entity lacks the component.
 std::string readProperty(const qsf::Entity& entity, const PropertyName& name);
-/// The same; a value that doesn't convert is a DirectiveError.
+/// Number of elements of an array; a property that is none is a DirectiveError.
+std::size_t countElements(const qsf::Entity& entity, const PropertyName& name);
+/// A value that doesn't convert is a DirectiveError.
 void writeProperty(qsf::Entity& entity, const PropertyName& name, const std::string& value);
 /// Adds the component if the entity lacks it.
 void addComponent(qsf::Entity& entity, const std::string& component);

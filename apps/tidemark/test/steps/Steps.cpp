@@ -4,14 +4,28 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace tidemark::test {
 
 // The themes of actions and of expectations, in the order in which they are asked. Each has a source of its own,
 // <Theme>Actions.cpp or <Theme>Expectations.cpp, whose reader returns nothing if the next word isn't its own.
-#define ACTION_THEMES(THEME) THEME(Store) THEME(World) THEME(Device) THEME(Lifecycle)
-#define EXPECTATION_THEMES(THEME) THEME(Log) THEME(Hint) THEME(Store) THEME(Trigger) THEME(World)
+#define ACTION_THEMES(THEME)                                                                                           \
+  THEME(Store)                                                                                                         \
+  THEME(World)                                                                                                         \
+  THEME(Device)                                                                                                        \
+  THEME(Lifecycle)
+#define EXPECTATION_THEMES(THEME)                                                                                      \
+  THEME(Log)                                                                                                           \
+  THEME(Hint)                                                                                                          \
+  THEME(Store)                                                                                                         \
+  THEME(Trigger)                                                                                                       \
+  THEME(World)                                                                                                         \
+  THEME(Call)                                                                                                          \
+  THEME(Plan)                                                                                                          \
+  THEME(Overlay)                                                                                                       \
+  THEME(Property) // the last: it takes whatever else stands behind an entity
 
 #define DECLARE_ACTIONS(NAME) std::optional<Action> read##NAME##Action(WordCursor& words);
 ACTION_THEMES(DECLARE_ACTIONS)
@@ -101,6 +115,30 @@ std::vector<EntityReference> takeEntityReferences(WordCursor& words) {
   while (!words.atEnd())
     references.push_back(takeEntityReference(words));
   return references;
+}
+
+bool peekEntityForm(const WordCursor& words, std::initializer_list<std::string_view> keywords) {
+  return words.peek() && parseEntityReference(words.peek()->text) &&
+         std::ranges::any_of(keywords, [&](std::string_view keyword) { return words.peekKeyword(keyword, 1); });
+}
+
+bool Comparison::holds(double found) const {
+  const auto a = static_cast<float>(found), b = static_cast<float>(expected);
+  if (operation == "==" || operation == "!=") return numbersMatch(expected, found, within) == (operation == "==");
+  return operation == "<" ? a < b : operation == "<=" ? a <= b : operation == ">" ? a > b : a >= b;
+}
+
+Comparison takeComparison(WordCursor& words) {
+  static const std::vector<std::string> OPERATORS = {"==", "!=", "<", "<=", ">", ">="};
+  Comparison comparison;
+  comparison.operation = words.take("an operator");
+  if (std::ranges::find(OPERATORS, comparison.operation) == OPERATORS.end())
+    throw DirectiveError(fmt::format("'{}' is no operator; there are == != < <= > >=", comparison.operation));
+  comparison.expected = words.takeNumber("the expected number");
+  comparison.within = takeWithin(words);
+  if (comparison.within && comparison.operation != "==" && comparison.operation != "!=")
+    throw DirectiveError("'within' goes with == and !=");
+  return comparison;
 }
 
 bool numbersMatch(double expected, double found, std::optional<double> within) {

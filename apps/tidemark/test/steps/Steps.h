@@ -2,6 +2,7 @@
 #include "apps/tidemark/test/TestPlan.h"
 #include "apps/tidemark/test/directives/Words.h"
 
+#include <initializer_list>
 #include <string_view>
 
 namespace tidemark::test {
@@ -37,6 +38,19 @@ struct EntityReference {
 std::optional<EntityReference> parseEntityReference(std::string_view text);
 EntityReference takeEntityReference(WordCursor& words);
 std::vector<EntityReference> takeEntityReferences(WordCursor& words);
+/// True if an entity stands next and one of the keywords behind it.
+bool peekEntityForm(const WordCursor& words, std::initializer_list<std::string_view> keywords);
+
+/// `OP NUMBER [within EPS]`, OP being one of == != < <= > >=, the distance going with the first two.
+struct Comparison {
+  std::string operation;
+  double expected = 0;
+  std::optional<double> within;
+  /// Compares as numbersMatch does.
+  bool holds(double found) const;
+};
+/// Throws DirectiveError for another operator.
+Comparison takeComparison(WordCursor& words);
 
 /// Equal, or no further apart than `within`; not-a-number equals itself. Compares as the 32-bit floats that scripts
 /// count with.

@@ -44,26 +44,14 @@ template <class T> T require(std::optional<T> value) {
   return std::move(*value);
 }
 
-bool compare(const std::string& operation, double found, double expected, std::optional<double> within) {
-  const auto a = static_cast<float>(found), b = static_cast<float>(expected);
-  if (operation == "==" || operation == "!=") return numbersMatch(expected, found, within) == (operation == "==");
-  return operation == "<" ? a < b : operation == "<=" ? a <= b : operation == ">" ? a > b : a >= b;
-}
-
 Expectation expectVariable(WordCursor& words, const ScriptScope& scope) {
   const std::string name = words.take("the variable's name");
-  const std::string operation = words.take("an operator");
-  static const std::vector<std::string> OPERATORS = {"==", "!=", "<", "<=", ">", ">="};
-  if (std::find(OPERATORS.begin(), OPERATORS.end(), operation) == OPERATORS.end())
-    throw DirectiveError(fmt::format("'{}' is no operator; there are == != < <= > >=", operation));
-  const double expected = words.takeNumber("the expected number");
-  const std::optional<double> within = takeWithin(words);
-  if (within && operation != "==" && operation != "!=") throw DirectiveError("'within' goes with == and !=");
+  const Comparison comparison = takeComparison(words);
   Expectation expectation;
   expectation.check = [=](TestSession& session) {
     const Entry entry = findEntry(session, scope, StoreKind::VARIABLES, name);
     const float found = require(session.tooling().getVariable(entry.store.holder, entry.name));
-    return Verdict{compare(operation, found, expected, within), fmt::format("{}", found), {}};
+    return Verdict{comparison.holds(found), fmt::format("{}", found), {}};
   };
   return expectation;
 }

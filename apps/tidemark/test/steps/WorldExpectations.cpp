@@ -1,17 +1,18 @@
-// Expectations on entities, the selection, messages and recorded calls.
+// Expectations on entities, the selection, messages and assets.
 #include "apps/tidemark/test/TestSession.h"
-#include "apps/tidemark/test/directives/TextMatch.h"
+#include "apps/tidemark/test/steps/KnownNames.h"
 #include "apps/tidemark/test/steps/Reflection.h"
 #include "apps/tidemark/test/steps/Selection.h"
 #include "apps/tidemark/test/steps/Steps.h"
 
 #include "em5/game/HostSession.h"
 #include "qsf/Qsf.h"
-#include "qsf/base/CallRecorder.h"
+#include "qsf/asset/Project.h"
 #include "qsf/base/Ids.h"
 #include "qsf/base/NearNames.h"
-#include "qsf/base/RecordedOperation.h"
+#include "qsf/component/MeshAnimationComponent.h"
 #include "qsf/map/Map.h"
+#include "qsf/math/Heading.h"
 #include "qsf/message/MessageSystem.h"
 #include "qsf/reflection/PropertyText.h"
 
@@ -19,52 +20,25 @@
 #include <fmt/ranges.h>
 
 #include <algorithm>
+#include <cmath>
 #include <set>
-#include <sstream>
 
 namespace tidemark::test {
 
 namespace {
 
 constexpr double DEFAULT_DISTANCE = 0.01;
-
-// True if a script of the test holds the name: scripts send messages of their own.
-bool isWrittenInScripts(const TestPlan& plan, const std::string& name) {
-  const auto holds = [&](const ScriptSection& script) {
-    std::istringstream lines(script.text);
-    for (std::string line; std::getline(lines, line);)
-      if (line.find('$') == std::string::npos && line.find(name) != std::string::npos) return true;
-    return false;
-  };
-  return std::ranges::any_of(plan.projects,
-                             [&](const ProjectPlan& project) { return std::ranges::any_of(project.scripts, holds); });
-}
-
-bool isEmittedByTest(const TestPlan& plan, const std::string& name) {
-  return std::ranges::any_of(plan.steps, [&](const Step& step) {
-    const std::vector<Word> words = splitWords(step.text);
-    return words.size() > 1 && words[0].text == "emit" && words[1].text == name;
-  });
-}
+constexpr double DEFAULT_ANGLE = 1;
 
 // A message that nobody could send is a slip of the keyboard, and `never` would hide it.
 void requireMessage(const TestSession& session, const std::string& name) {
   const qsf::MessageSystem& messages = session.host().getQsf().getMessageSystem();
   const std::set<std::string>& known = messages.getMessageNames();
   if (known.contains(name) || messages.getEmittedCount(qsf::StringHash(name)) > 0 ||
-      isEmittedByTest(session.plan(), name) || isWrittenInScripts(session.plan(), name))
+      isWordOfActions(session.plan(), "emit", 1, name) || isWrittenInScripts(session.plan(), name))
     return;
   throw DirectiveError(fmt::format("nobody knows a message '{}'{}", name,
                                    qsf::nearNamesHint(name, std::vector<std::string>(known.begin(), known.end()))));
-}
-
-void requireOperation(const std::string& operation) {
-  if (qsf::RecordedOperation::find(operation)) return;
-  std::vector<std::string> known;
-  for (const qsf::RecordedOperation* recorded : qsf::RecordedOperation::getAll())
-    known.emplace_back(recorded->getName());
-  throw DirectiveError(
-      fmt::format("calls of '{}' are not recorded{}", operation, qsf::nearNamesHint(operation, known)));
 }
 
 Expectation expectMessage(WordCursor& words) {
@@ -75,44 +49,6 @@ Expectation expectMessage(WordCursor& words) {
     requireMessage(session, name);
     const std::uint64_t count = session.host().getQsf().getMessageSystem().getEmittedCount(qsf::StringHash(name));
     return Verdict{times.holds(count), fmt::format("emitted {} times", count), {}};
-  };
-  return expectation;
-}
-
-// The recorded arguments begin with the expected ones.
-bool argumentsMatch(const std::vector<std::string>& expected, const std::vector<std::string>& found) {
-  return expected.size() <= found.size() &&
-         std::equal(expected.begin(), expected.end(), found.begin(), [](const auto& wanted, const auto& argument) {
-           return valueMatches(wanted, argument, std::nullopt);
-         });
-}
-
-Verdict checkCalls(const TestSession& session, const std::string& operation, const std::vector<std::string>& arguments,
-                   Times times) {
-  std::uint64_t count = 0;
-  std::string seen;
-  for (const qsf::CallRecorder::Call& call : session.host().getQsf().getCallRecorder().getCalls()) {
-    if (call.operation != operation) continue;
-    count += argumentsMatch(arguments, call.arguments);
-    if (seen.size() < 400) seen += fmt::format("; ({})", fmt::join(call.arguments, ", "));
-  }
-  return {times.holds(count),
-          fmt::format("{} such calls; its calls are{}", count, seen.empty() ? " none" : seen.substr(1)),
-          {}};
-}
-
-Expectation expectCall(WordCursor& words) {
-  const std::string operation = words.take("the operation's name");
-  std::vector<std::string> arguments;
-  if (words.takeIf("with"))
-    while (!words.atEnd() && !(words.peekKeyword("never") && words.remaining() == 1) &&
-           !(words.peekKeyword("times", 1) && words.remaining() == 2))
-      arguments.push_back(words.take("an argument"));
-  const Times times = takeTimes(words);
-  Expectation expectation;
-  expectation.check = [=](TestSession& session) {
-    requireOperation(operation);
-    return checkCalls(session, operation, arguments, times);
   };
   return expectation;
 }
@@ -165,18 +101,20 @@ Expectation expectElement(WordCursor& words) {
   throw DirectiveError("expectations on elements of documents are not available yet");
 }
 
+glm::vec3 positionOf(const qsf::Entity& entity) {
+  return qsf::vectorFromText(readProperty(entity, {"qsf::TransformComponent", "Position"}));
+}
+
 Expectation expectPosition(WordCursor& words, const EntityReference& reference) {
   const double x = words.takeNumber("the x value"), y = words.takeNumber("the y value"),
                z = words.takeNumber("the z value");
   const double within = takeWithin(words).value_or(DEFAULT_DISTANCE);
   Expectation expectation;
   expectation.check = [=](TestSession& session) {
-    const std::string found =
-        readProperty(session.findEntity(session.resolve(reference)), {"qsf::TransformComponent", "Position"});
-    const glm::vec3 position = qsf::vectorFromText(found);
+    const glm::vec3 position = positionOf(session.findEntity(session.resolve(reference)));
     const bool holds = numbersMatch(x, position.x, within) && numbersMatch(y, position.y, within) &&
                        numbersMatch(z, position.z, within);
-    return Verdict{holds, fmt::format("at {}", found), {}};
+    return Verdict{holds, fmt::format("at {}", qsf::toText(position)), {}};
   };
   return expectation;
 }
@@ -208,15 +146,63 @@ Expectation expectComponent(WordCursor& words, const EntityReference& reference,
   return expectation;
 }
 
-Expectation expectProperty(WordCursor& words, const EntityReference& reference) {
-  const PropertyName name = parsePropertyName(words.take("COMPONENT.PROPERTY"));
+// Seen from above, by the negative z axis.
+Expectation expectFacing(WordCursor& words, const EntityReference& reference) {
+  const EntityReference other = takeEntityReference(words);
+  const double within = takeWithin(words).value_or(DEFAULT_ANGLE);
+  Expectation expectation;
+  expectation.check = [=](TestSession& session) {
+    const qsf::Entity& entity = session.findEntity(session.resolve(reference));
+    const glm::vec3 position = positionOf(entity), target = positionOf(session.findEntity(session.resolve(other)));
+    if (position.x == target.x && position.z == target.z)
+      return Verdict{false, "there is no direction: the other is straight above or below", {}};
+    const glm::quat rotation = qsf::quaternionFromText(readProperty(entity, {"qsf::TransformComponent", "Rotation"}));
+    const double angle = std::abs(glm::degrees(qsf::getAngleToFace(position, rotation, target)));
+    return Verdict{angle <= within, fmt::format("{:.3f} degrees away from it", angle), {}};
+  };
+  return expectation;
+}
+
+// An animation that nobody has can't be on its way.
+void requireAnimation(const TestSession& session, const std::string& animation) {
+  const qsf::ProjectManager& projects = session.host().getQsf().getProjectManager();
+  if (!projects.getAssetById(qsf::StringHash(animation)))
+    throw DirectiveError(fmt::format("there is no animation '{}'{}", animation,
+                                     qsf::nearNamesHint(animation, projects.getAssetNamesByType("animation"))));
+}
+
+Expectation expectOffset(WordCursor& words, const EntityReference& reference) {
+  const std::string animation = words.take("the animation's name");
   words.require("==");
-  const PropertyValue expected = takePropertyValue(words, "the expected value");
+  const double expected = words.takeNumber("the offset");
   const std::optional<double> within = takeWithin(words);
   Expectation expectation;
   expectation.check = [=](TestSession& session) {
-    const std::string found = readProperty(session.findEntity(session.resolve(reference)), name);
-    return Verdict{valueMatches(resolveValue(session, expected), found, within), fmt::format("\"{}\"", found), {}};
+    requireAnimation(session, animation);
+    const qsf::Entity& entity = session.findEntity(session.resolve(reference));
+    const auto* component = entity.getComponent<qsf::MeshAnimationComponent>();
+    const auto channel = component ? component->getChannel() : nullptr;
+    if (!channel) return Verdict{false, "no animation plays", {}};
+    const std::string playing = channel->getAnimation().getLocalAssetName();
+    if (playing != animation) return Verdict{false, fmt::format("\"{}\" plays", playing), {}};
+    const float offset = channel->getOffset();
+    return Verdict{numbersMatch(expected, offset, within), fmt::format("{}", offset), {}};
+  };
+  return expectation;
+}
+
+Expectation expectAsset(WordCursor& words) {
+  const std::string name = words.take("the asset's name");
+  if (std::ranges::count(name, '/') < 3)
+    throw DirectiveError(fmt::format("'{}' is no PROJECT/TYPE/CATEGORY/NAME", name));
+  const std::string state = words.take("mounted or missing");
+  if (state != "mounted" && state != "missing")
+    throw DirectiveError(fmt::format("'{}' is neither mounted nor missing", state));
+  Expectation expectation;
+  expectation.check = [=](TestSession& session) {
+    const qsf::BaseAsset* asset = session.host().getQsf().getProjectManager().getAssetById(qsf::StringHash(name));
+    return Verdict{
+        (asset != nullptr) == (state == "mounted"), asset ? asset->getFile() : "no mounted project has it", {}};
   };
   return expectation;
 }
@@ -227,19 +213,21 @@ Expectation readEntityExpectation(WordCursor& words) {
   if (words.takeIf("parent")) return expectParent(words, reference);
   if (words.takeIf("has")) return expectComponent(words, reference, true);
   if (words.takeIf("lacks")) return expectComponent(words, reference, false);
-  return expectProperty(words, reference);
+  if (words.takeIf("faces")) return expectFacing(words, reference);
+  words.require("offset");
+  return expectOffset(words, reference);
 }
 
 }
 
 std::optional<Expectation> readWorldExpectation(WordCursor& words) {
   if (words.takeIf("message")) return expectMessage(words);
-  if (words.takeIf("call")) return expectCall(words);
   if (words.takeIf("entity")) return expectEntity(words);
   if (words.takeIf("entities")) return expectNumberOfEntities(words);
   if (words.takeIf("selection")) return expectSelection(words);
   if (words.takeIf("element")) return expectElement(words);
-  if (words.peek() && parseEntityReference(words.peek()->text)) return readEntityExpectation(words);
+  if (words.takeIf("asset")) return expectAsset(words);
+  if (peekEntityForm(words, {"at", "parent", "has", "lacks", "faces", "offset"})) return readEntityExpectation(words);
   return std::nullopt;
 }
 

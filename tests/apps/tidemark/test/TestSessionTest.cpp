@@ -1,33 +1,11 @@
 #include "apps/tidemark/test/TestSession.h"
 
-#include "apps/tidemark/platform/Platform.h"
-#include "apps/tidemark/test/project/ProjectWriter.h"
-
+#include "apps/tidemark/test/RunTest.h"
 #include "em5/game/HostSession.h"
-
-#include <gtest/gtest.h>
-
-#include <filesystem>
 
 namespace tidemark::test {
 
 namespace {
-
-namespace fs = std::filesystem;
-
-// Runs a test in this process, with a look at the session when its host has started.
-std::vector<Failure> runWith(const std::string& text, const Action& look) {
-  PlanResult result = readPlan("some.script", text);
-  EXPECT_TRUE(result.faults.empty());
-  Step step;
-  step.action = look;
-  result.plan.steps.push_back(std::move(step));
-  const std::string folder = platform::makeTemporaryDirectory();
-  writeProjects(result.plan, folder);
-  std::vector<Failure> failures = TestSession(result.plan, folder).run().failures;
-  fs::remove_all(folder);
-  return failures;
-}
 
 TEST(TestSession, SettingsReachTheHost) {
   bool looked = false;

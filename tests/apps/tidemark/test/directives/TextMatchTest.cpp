@@ -33,6 +33,14 @@ TEST(TextMatch, FindsAPart) {
   EXPECT_FALSE(textContained("bc", "ab c"));
 }
 
+TEST(TextMatch, CountsPartsThatDoNotOverlap) {
+  EXPECT_EQ(countOccurrences("aa", "aaaaa"), 2u);
+  EXPECT_EQ(countOccurrences("a", "banana"), 3u);
+  EXPECT_EQ(countOccurrences("§", "\xA7x\xC2\xA7"), 2u);
+  EXPECT_EQ(countOccurrences("b", "a"), 0u);
+  EXPECT_EQ(countOccurrences("", "a"), 0u);
+}
+
 TEST(TextMatch, TheMarkIsAByte) {
   EXPECT_TRUE(holdsGlobalMark("x§"));
   EXPECT_TRUE(holdsGlobalMark("\xA7"));
