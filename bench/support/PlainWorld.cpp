@@ -12,6 +12,48 @@
 
 namespace tidemark::bench {
 
+namespace {
+
+/// How many places lie in squares, by a table of sums: never fewer than lie in the circle inside.
+class PlaceCounts {
+public:
+  PlaceCounts(const std::vector<glm::vec3>& places, float range) : mWidth(range / CELLS_OF_RANGE) {
+    glm::vec2 first(INFINITY), last(-INFINITY);
+    for (const glm::vec3& place : places) {
+      first = glm::min(first, {place.x, place.z});
+      last = glm::max(last, {place.x, place.z});
+    }
+    mFirst = first;
+    mSize = places.empty() ? glm::ivec2(1) : cellOf({last.x, 0, last.y}) + 1;
+    mSums.assign(static_cast<std::size_t>(mSize.x + 1) * static_cast<std::size_t>(mSize.y + 1), 0);
+    for (const glm::vec3& place : places)
+      ++sum(cellOf(place) + 1);
+    for (int z = 1; z <= mSize.y; ++z)
+      for (int x = 1; x <= mSize.x; ++x)
+        sum({x, z}) += sum({x - 1, z}) + sum({x, z - 1}) - sum({x - 1, z - 1});
+  }
+  std::size_t countAround(const glm::vec3& place) {
+    const glm::ivec2 cell = cellOf(place);
+    const glm::ivec2 from = glm::max(cell - CELLS_OF_RANGE, 0), to = glm::min(cell + CELLS_OF_RANGE + 1, mSize);
+    return sum(to) - sum({from.x, to.y}) - sum({to.x, from.y}) + sum(from);
+  }
+
+private:
+  static constexpr int CELLS_OF_RANGE = 8;
+  glm::ivec2 cellOf(const glm::vec3& place) const { return (glm::vec2(place.x, place.z) - mFirst) / mWidth; }
+  std::uint32_t& sum(const glm::ivec2& cell) {
+    return mSums[static_cast<std::size_t>(cell.y) * static_cast<std::size_t>(mSize.x + 1) +
+                 static_cast<std::size_t>(cell.x)];
+  }
+
+  float mWidth;
+  glm::vec2 mFirst{0};
+  glm::ivec2 mSize{1};
+  std::vector<std::uint32_t> mSums; ///< of all cells that lie before, in both directions
+};
+
+}
+
 PlainWorld::PlainWorld(const qsf::Map& map, std::uint64_t center, std::uint64_t area, Ids near, Ids all)
     : mNear(std::move(near)), mAll(std::move(all)) {
   for (const qsf::Entity* entity : map.getEntities()) {
@@ -144,36 +186,23 @@ void PlainWorld::drawPersons(std::size_t number, float radius) {
 
 void PlainWorld::pickCluster(const Ids& list, std::size_t number, float range) {
   std::vector<glm::vec3> places;
-  std::unordered_map<std::uint64_t, std::vector<std::size_t>> cells; // as wide as the range
-  const auto cell = [range](const glm::vec3& place, int dx, int dz) {
-    const auto x = static_cast<std::int32_t>(std::floor(place.x / range)) + dx;
-    const auto z = static_cast<std::int32_t>(std::floor(place.z / range)) + dz;
-    return static_cast<std::uint64_t>(x) << 32 | static_cast<std::uint32_t>(z);
-  };
-  for (const std::uint64_t id : list) {
+  places.reserve(list.size());
+  for (const std::uint64_t id : list)
     places.push_back(find(id)->position);
-    cells[cell(places.back(), 0, 0)].push_back(places.size() - 1);
-  }
+  PlaceCounts counts(places, range);
   std::vector<std::size_t> seeds(list.size());
   std::iota(seeds.begin(), seeds.end(), std::size_t{0});
   for (; !seeds.empty(); seeds.pop_back()) {
     std::swap(seeds[draw() % seeds.size()], seeds.back());
-    const glm::vec3& seed = places[seeds.back()];
-    out.clear();
-    for (int dx = -1; dx <= 1; ++dx)
-      for (int dz = -1; dz <= 1; ++dz)
-        if (const auto found = cells.find(cell(seed, dx, dz)); found != cells.end())
-          for (const std::size_t i : found->second)
-            if (glm::dot(places[i] - seed, places[i] - seed) < range * range) out.push_back(list[i]);
-    if (out.size() >= number) break;
+    const std::size_t seed = seeds.back();
+    if (counts.countAround(places[seed]) < number) continue; // hardly any is looked at more closely
+    out.assign(1, list[seed]);
+    for (std::size_t i = 0; i < list.size() && out.size() < number; ++i)
+      if (i != seed && glm::dot(places[i] - places[seed], places[i] - places[seed]) < range * range)
+        out.push_back(list[i]);
+    if (out.size() == number) return;
   }
-  if (out.size() < number) {
-    pickClosestTo(places[draw() % places.size()], list, number);
-    return;
-  }
-  // Which of a cluster's units are taken follows the list's order.
-  std::sort(out.begin(), out.end());
-  if (out.size() > number) out.resize(number);
+  pickClosestTo(places[draw() % places.size()], list, number);
 }
 
 void PlainWorld::addAll(const Ids& list) {
