@@ -185,6 +185,49 @@ TEST_F(ActionComponentTest, AppendingDoesNotInterrupt) {
   EXPECT_EQ(1, *probe.starts);
 }
 
+TEST_F(ActionComponentTest, InsertedAtTheFrontAnActionOfTheSamePriorityDoesNotInterrupt) {
+  const ProbeAction& probe = pushProbe(100);
+  push("A", 300);
+  runSeconds(0.1);
+  push("B", 100, action::INSERT_AT_FRONT);
+  runSeconds(0.1);
+  EXPECT_EQ("PBA", plan());
+  EXPECT_EQ(0, *probe.stops);
+}
+
+TEST_F(ActionComponentTest, AnInterruptedActionCountsAsNotBegun) {
+  pushProbe(100);
+  runSeconds(0.1);
+  push("A", 50, action::INSERT_BEFORE_CURRENT);
+  push("B", 50, action::INSERT_AT_FRONT);
+  EXPECT_EQ("ABP", plan());
+}
+
+TEST_F(ActionComponentTest, ClearingTakesOffEverythingWhateverItsPriority) {
+  const std::shared_ptr<int> stops = pushProbe(1000).stops;
+  push("A", 200);
+  push("B", 1);
+  runSeconds(0.1);
+  actions.clearPlan();
+  EXPECT_TRUE(actions.getPlan().isEmpty());
+  EXPECT_EQ(0u, actions.getCurrentPriority());
+  EXPECT_EQ(1, *stops);
+  const qsf::Action& next = push("C", 1);
+  EXPECT_EQ(&next, actions.getCurrentAction());
+}
+
+TEST_F(ActionComponentTest, WhatDoesNotStartIsNotShutDownAndTheNextOneFollows) {
+  ProbeAction& probe = pushProbe();
+  probe.starting = false;
+  const std::shared_ptr<int> stops = probe.stops;
+  const ProbeAction& next = pushProbe();
+  runSeconds(0.05);
+  EXPECT_EQ(&next, actions.getCurrentAction());
+  runSeconds(0.05);
+  EXPECT_EQ(1, *next.starts);
+  EXPECT_EQ(0, *stops);
+}
+
 TEST_F(ActionComponentTest, AnActionThatHasNotBegunIsNotShutDown) {
   const std::shared_ptr<int> stops = pushProbe(100).stops;
   actions.clearPlan();
