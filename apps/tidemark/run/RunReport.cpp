@@ -2,6 +2,7 @@
 
 #include "apps/tidemark/session/Places.h"
 #include "apps/tidemark/text/Encoding.h"
+#include "apps/tidemark/text/Table.h"
 
 #include <fmt/format.h>
 #include <fmt/ranges.h>
@@ -34,34 +35,6 @@ StoreReport collectStores(const Tooling& tooling, std::optional<std::size_t> scr
     for (const std::string& name : tooling.getNames(script, StoreKind::BOOLS))
       stores.bools.emplace_back(toUtf8(name), tooling.getBool(*script, name).value_or(false));
   return stores;
-}
-
-constexpr std::size_t LONGEST_CELL = 80; // characters
-constexpr std::size_t LONGEST_SENTENCE = 300;
-constexpr std::size_t MOST_ROWS = 200; // of one table; the JSON report has all
-
-// Columns as wide as their widest cell; the last one isn't padded.
-std::string layOut(std::vector<std::vector<std::string>> rows, std::string_view indent,
-                   std::size_t longestCell = LONGEST_CELL) {
-  const std::size_t left = rows.size() > MOST_ROWS ? rows.size() - MOST_ROWS : 0;
-  rows.resize(rows.size() - left);
-  for (auto& row : rows)
-    for (std::string& cell : row)
-      cell = toCell(cell, longestCell);
-  std::vector<std::size_t> widths;
-  for (const auto& row : rows) {
-    widths.resize(std::max(widths.size(), row.size()));
-    for (std::size_t i = 0; i < row.size(); ++i)
-      widths[i] = std::max(widths[i], displayWidth(row[i]));
-  }
-  std::string text;
-  for (const auto& row : rows) {
-    text += indent;
-    for (std::size_t i = 0; i < row.size(); ++i)
-      text += row[i] + (i + 1 < row.size() ? std::string(widths[i] - displayWidth(row[i]) + 2, ' ') : "\n");
-  }
-  if (left > 0) text += fmt::format("{}... and {} more, which --report FILE lists\n", indent, left);
-  return text;
 }
 
 std::string describeTriggers(const std::vector<TriggerView>& triggers) {
@@ -232,6 +205,7 @@ std::string toText(const RunReport& report) {
   if (report.scripts.empty() && report.fates.empty())
     text += "\nno scripts; a project lists them in x64/tidemark/MapScript.json\n";
   if (!report.global.isEmpty()) text += "\nglobal entries\n" + describeStores(report.global, "    ");
+  text += describeWorld(report.world);
   if (!report.hints.empty()) text += describeHints(report.hints);
   if (!report.droppedLines.empty()) text += describeDroppedLines(report.droppedLines);
   if (report.faults > 0)
@@ -240,16 +214,17 @@ std::string toText(const RunReport& report) {
 }
 
 std::string toJson(const RunReport& report) {
-  const Json root = {{"map", report.map},
-                     {"seconds", report.seconds},
-                     {"frames", report.frames},
-                     {"faults", report.faults},
-                     {"lastFault", report.lastFault},
-                     {"scripts", listToJson(report.scripts, scriptToJson)},
-                     {"ended", listToJson(report.fates, fateToJson)},
-                     {"global", storesToJson(report.global)},
-                     {"droppedLines", listToJson(report.droppedLines, droppedLineToJson)},
-                     {"hints", listToJson(report.hints, hintToJson)}};
+  Json root = {{"map", report.map},
+               {"seconds", report.seconds},
+               {"frames", report.frames},
+               {"faults", report.faults},
+               {"lastFault", report.lastFault},
+               {"scripts", listToJson(report.scripts, scriptToJson)},
+               {"ended", listToJson(report.fates, fateToJson)},
+               {"global", storesToJson(report.global)},
+               {"droppedLines", listToJson(report.droppedLines, droppedLineToJson)},
+               {"hints", listToJson(report.hints, hintToJson)}};
+  addWorld(report.world, root);
   return root.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 

@@ -1,4 +1,6 @@
 #pragma once
+#include "apps/tidemark/run/WorldReport.h"
+
 #include "game_plugin/tooling/Tooling.h"
 
 #include <cstdint>
@@ -23,7 +25,8 @@ struct ScriptReport {
   StoreReport stores;
 };
 
-/// What a run has come to: its scripts, how often each trigger fired, and the stores. All texts are UTF-8.
+/// What a run has come to: its scripts, how often each trigger fired, the stores, and what the player saw and heard.
+/// All texts are UTF-8. docs/report.md tells authors what stands in its JSON form.
 struct RunReport {
   std::string map;
   double seconds = 0; ///< simulated
@@ -33,6 +36,7 @@ struct RunReport {
   std::vector<ScriptReport> scripts;
   std::vector<script::tooling::FateView> fates; ///< scripts that have ended or were never taken
   StoreReport global;
+  WorldReport world;
   std::vector<script::tooling::DroppedLineView> droppedLines;
   std::vector<script::tooling::HintView> hints;
 };

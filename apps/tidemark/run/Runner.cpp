@@ -86,6 +86,7 @@ RunReport makeReport(const em5::HostSession& session, const script::tooling::Too
   report.map = session.getQsf().getMainMap().getLocalAssetName();
   report.seconds = session.getTime().getSecondsAsDouble();
   report.frames = session.getFrameCount();
+  report.world = collectWorld(session.getQsf());
   return report;
 }
 

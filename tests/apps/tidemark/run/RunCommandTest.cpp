@@ -192,6 +192,17 @@ TEST_F(RunCommand, HintsAreToldAndReported) {
   EXPECT_EQ(hints[0]["count"], 1);
 }
 
+TEST_F(RunCommand, WhatThePlayerSawIsToldAndReported) {
+  writeProject("InitNewTrigger(\"Once\");\nInitEffects();\nSendHint(\"Mind the step\");\n");
+  const Outcome outcome = run({"run", folder(), "--seconds", "1", "--report", folder() + "/report.json"});
+  EXPECT_NE(outcome.output.find("hints that were shown\n    1 time  "), std::string::npos) << outcome.output;
+  const auto report = nlohmann::json::parse(readAll(folder() + "/report.json"));
+  ASSERT_EQ(report["shownHints"].size(), 1u);
+  EXPECT_EQ(report["shownHints"][0]["text"], "Mind the step");
+  EXPECT_EQ(report["hints"].size(), 0u);
+  EXPECT_EQ(report["audio"]["playing"], 0);
+}
+
 TEST_F(RunCommand, HintsCanBeFaultsOrNotAskedFor) {
   writeProject(MISTYPED);
   EXPECT_EQ(run({"run", folder(), "--seconds", "0.1", "--strict"}).code, 1);
