@@ -1,5 +1,9 @@
 #include "game_plugin/plugin/CampClasses.h"
 
+#include "game_plugin/action/PlayLocalSoundWithCustomVolume.h"
+#include "game_plugin/action/SetCampPropertyAction.h"
+#include "game_plugin/action/UseEquipmentAction.h"
+#include "game_plugin/action/WaitUntilPropertyIsValue.h"
 #include "game_plugin/component/OpenHouseComponent.h"
 #include "game_plugin/component/ScenarioCommandableComponent.h"
 
@@ -17,8 +21,9 @@ template <class T> const camp::Class* declareOnce() {
 
 std::vector<const camp::Class*> declareCampClasses() {
   return {
-      declareOnce<ScenarioCommandableComponent>(),
-      declareOnce<OpenHouseComponent>(),
+      declareOnce<UseEquipmentAction>(),           declareOnce<SetCampPropertyAction>(),
+      declareOnce<WaitUntilPropertyIsValue>(),     declareOnce<PlayLocalSoundWithCustomVolume>(),
+      declareOnce<ScenarioCommandableComponent>(), declareOnce<OpenHouseComponent>(),
   };
 }
 

@@ -1,5 +1,7 @@
 #include "game_plugin/plugin/Plugin.h"
 
+#include "game_plugin/action/SetCampPropertyAction.h"
+#include "game_plugin/action/UseEquipmentAction.h"
 #include "game_plugin/plugin/Version.h"
 #include "game_plugin/scenario/Log.h"
 #include "game_plugin/scenario/lifecycle/FiringLedger.h"
@@ -11,6 +13,7 @@
 #include "qsf/Qsf.h"
 #include "qsf/log/ErrorHandling.h"
 #include "qsf/message/MessageSystem.h"
+#include "qsf/reflection/ClassRegistry.h"
 
 namespace script {
 
@@ -51,6 +54,7 @@ bool Plugin::onInstall() {
     logInfo(std::string("Build: Tidemark ") + MODULE_VERSION);
     for (const camp::Class* campClass : mDeclareClasses())
       addCampClass(*campClass);
+    qsf::ClassRegistry::addOtherName(camp::classByType<SetCampPropertyAction>(), SetCampPropertyAction::ACTION_NAME);
     return true;
   } catch (const std::exception& exception) {
     const std::string text =
@@ -65,6 +69,7 @@ bool Plugin::onStartup() {
   FiringLedger::clear();
   MapScriptManager::replace(true);
   qsf::Qsf::instance()->getMessageSystem().addMessageName(RELOAD_MESSAGE);
+  qsf::Qsf::instance()->getMessageSystem().addMessageName(UseEquipmentAction::MESSAGE);
   mReloadMessageProxy.registerAt(qsf::StringHash(RELOAD_MESSAGE),
                                  [](const qsf::MessageParameters&) { reloadInEditor(); });
   return true;

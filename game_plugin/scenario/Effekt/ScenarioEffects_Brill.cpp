@@ -34,7 +34,17 @@ namespace script {
   ENTRY(CreateComponent)                                                                                               \
   ENTRY(LinkEntityToParent)                                                                                            \
   ENTRY(UnlinkFromParent)                                                                                              \
-  ENTRY(SetName)
+  ENTRY(SetName)                                                                                                       \
+  ENTRY(MoveToTarget)                                                                                                  \
+  ENTRY(PlayAnimationOnClient)                                                                                         \
+  ENTRY(TriggerWaitAction)                                                                                             \
+  ENTRY(TurnToAction)                                                                                                  \
+  ENTRY(UseEquipmentAction)                                                                                            \
+  ENTRY(GetEquipment)                                                                                                  \
+  ENTRY(PlayLocalSoundWithCustomVolume)                                                                                \
+  ENTRY(PushWaitUntilPropertyIsValueAction)                                                                            \
+  ENTRY(PushSetCampPropertyAction)                                                                                     \
+  ENTRY(WriteActionPlanToStringVar)
 EFFECT_GROUP(ScenarioEffects_Brill, MANIFEST)
 
 }

@@ -24,7 +24,14 @@ namespace script {
   ENTRY(DestroyObject)                                                                                                 \
   ENTRY(ActivateComponent)                                                                                             \
   ENTRY(SetVariableFromComponent)                                                                                      \
-  ENTRY(FadeInOut)
+  ENTRY(FadeInOut)                                                                                                     \
+  ENTRY(MoveAction)                                                                                                    \
+  ENTRY(PlayAnimation)                                                                                                 \
+  ENTRY(ExecuteActionWithoutParameters)                                                                                \
+  ENTRY(ClearActionPlan)                                                                                               \
+  ENTRY(RemoveAction)                                                                                                  \
+  ENTRY(PlayLocalSound)                                                                                                \
+  ENTRY(PlayGlobalSound)
 EFFECT_GROUP(ScenarioEffects_Tarn, MANIFEST)
 
 }

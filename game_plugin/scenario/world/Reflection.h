@@ -22,5 +22,7 @@ inline camp::UserObject reflect(qsf::Component& component) { return camp::UserOb
 inline std::string readAsText(qsf::Component& component, const std::string& property) {
   return reflect(component).get(property).to<std::string>();
 }
+/// The same by the hash of the property's name. Throws std::out_of_range if there is none.
+std::string readAsText(qsf::Component& component, qsf::StringHash propertyId);
 
 }

@@ -3,7 +3,9 @@
 #include "game_plugin/scenario/world/EntityAccess.h"
 
 #include "qsf/Qsf.h"
+#include "qsf/asset/AssetProxy.h"
 #include "qsf/asset/Project.h"
+#include "qsf/reflection/ClassRegistry.h"
 
 #include <camp/class.hpp>
 #include <camp/errors.hpp>
@@ -69,6 +71,21 @@ void hintMissingAsset(const std::string& localAssetName) {
   const qsf::Qsf* host = qsf::Qsf::instance();
   hints::tell(HintKind::ASSET, "no project has the asset \"" + localAssetName + "\"",
               host ? hints::nearest(localAssetName, host->getProjectManager().getAssetNamesByType(type)) : "");
+}
+
+void hintUnknownSound(const std::string& sourceFile) {
+  constexpr std::string_view ENDING = ".ogg";
+  std::string name = sourceFile;
+  if (name.ends_with(ENDING)) name.resize(name.size() - ENDING.size());
+  if (!qsf::AssetProxy(name).getAsset()) hintMissingAsset(name);
+}
+
+void hintUnknownAction(const std::string& className) {
+  if (qsf::ClassRegistry::findClass(qsf::StringHash(className))) return;
+  std::vector<std::string> names;
+  for (const camp::Class* type : qsf::ClassRegistry::getClasses())
+    if (type->name().ends_with("Action")) names.push_back(type->name());
+  hints::tell(HintKind::WORD, "there is no action \"" + className + "\"", hints::nearest(className, names));
 }
 
 }

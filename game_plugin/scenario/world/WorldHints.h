@@ -21,5 +21,9 @@ void hintFailedAccess(qsf::Component& component, const std::string& property, co
 void hintLiteralIds(const Argument& list);
 /// An asset that no mounted project has. The type is the second part of its name, "prefab".
 void hintMissingAsset(const std::string& localAssetName);
+/// The sound, with the ending .ogg or without, if no mounted project has it.
+void hintUnknownSound(const std::string& sourceFile);
+/// The name, if there is no action class of that name.
+void hintUnknownAction(const std::string& className);
 
 }

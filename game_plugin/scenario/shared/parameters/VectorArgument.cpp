@@ -4,11 +4,18 @@
 
 #include "qsf/math/EulerAngles.h"
 
+#include <stdexcept>
+
 namespace script {
 
 namespace {
 
 constexpr float RADIANS_PER_DEGREE = 0.017453292f;
+
+const std::string& partAt(const std::vector<std::string>& parts, std::size_t place) {
+  if (place >= parts.size()) throw std::out_of_range("invalid vector<T> subscript");
+  return parts[place];
+}
 
 }
 
@@ -24,9 +31,9 @@ std::vector<std::string> splitParts(ScenarioHandler& handler, const Argument& ar
 
 glm::vec3 resolveParts(ScenarioHandler& handler, const std::vector<std::string>& parts) {
   glm::vec3 vector(0);
-  vector.x = handler.ResolveFloat(parts.at(0));
-  vector.y = handler.ResolveFloat(parts.at(1));
-  vector.z = handler.ResolveFloat(parts.at(2));
+  vector.x = handler.ResolveFloat(partAt(parts, 0));
+  vector.y = handler.ResolveFloat(partAt(parts, 1));
+  vector.z = handler.ResolveFloat(partAt(parts, 2));
   return vector;
 }
 
