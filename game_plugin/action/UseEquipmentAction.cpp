@@ -2,6 +2,7 @@
 
 #include "game_plugin/scenario/Log.h"
 #include "game_plugin/scenario/language/TextConversion.h"
+#include "game_plugin/scenario/world/RememberedHash.h"
 
 #include "em5/action/MoveAction.h"
 #include "em5/action/TurnToAction.h"
@@ -119,7 +120,8 @@ bool UseEquipmentAction::isTooFarFrom(qsf::Entity& target) const {
 }
 
 void UseEquipmentAction::moveTo(qsf::Entity& target) {
-  auto goal = std::make_unique<qsf::ai::ReachObjectGoal>(getEntity(), target, mTargetPointProvider, true);
+  auto goal =
+      std::make_unique<qsf::ai::ReachObjectGoal>(getEntity(), target, rememberedHash(mTargetPointProvider), true);
   getActionComponent()
       .pushAction<em5::MoveAction>(PRIORITY_ON_THE_WAY, qsf::action::INSERT_BEFORE_CURRENT)
       .init(std::move(goal));

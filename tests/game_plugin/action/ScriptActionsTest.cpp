@@ -6,6 +6,7 @@
 #include "host/em5/action/ActionTest.h"
 #include "qsf/audio/AudioSettingsGroup.h"
 #include "qsf/component/MovableComponent.h"
+#include "qsf/message/MessageProxy.h"
 
 using namespace script;
 

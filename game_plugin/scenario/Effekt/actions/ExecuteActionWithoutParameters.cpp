@@ -2,6 +2,7 @@
 #include "game_plugin/scenario/shared/actions/Plans.h"
 #include "game_plugin/scenario/shared/lists/ListOut.h"
 #include "game_plugin/scenario/shared/parameters/Placeholder.h"
+#include "game_plugin/scenario/world/RememberedHash.h"
 
 namespace script {
 

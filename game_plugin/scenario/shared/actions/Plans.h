@@ -3,9 +3,7 @@
 #include "game_plugin/scenario/language/Vocabulary.h"
 #include "game_plugin/scenario/tick/ScenarioHandler.h"
 
-#include "qsf/Qsf.h"
 #include "qsf/action/ActionComponent.h"
-#include "qsf/base/StringHashManager.h"
 #include "qsf/map/Entity.h"
 
 namespace script {
@@ -15,13 +13,6 @@ namespace script {
 /// The entity's action component, which is made if there is none.
 inline qsf::ActionComponent& actionsOf(qsf::Entity& entity) {
   return *entity.getOrCreateComponent<qsf::ActionComponent>();
-}
-
-/// The hash of a name, whose text the host remembers, so that it can tell what an action was given.
-inline qsf::StringHash rememberedHash(const std::string& name) {
-  const qsf::StringHash hash(name);
-  if (const qsf::Qsf* host = qsf::Qsf::instance()) host->getStringHashManager().registerStringHash(hash, name);
-  return hash;
 }
 
 /// The mode of a raw word; an unknown one appends.
