@@ -35,6 +35,7 @@ static void read(MoveToTargetEffect& effect, ParameterReader& in) {
 }
 
 static void run(const MoveToTargetEffect& effect, ScenarioHandler& handler) {
+  if (hints::isOn()) hintLiteralIds(effect.targetEntity);
   const EntityIds targets = handler.ResolveEntityList(effect.targetEntity);
   qsf::Entity* target = targets.empty() ? nullptr : findEntity(targets.front());
   if (!target) return;

@@ -19,6 +19,7 @@ static void read(TurnToActionEffect& effect, ParameterReader& in) {
 }
 
 static void run(const TurnToActionEffect& effect, ScenarioHandler& handler) {
+  if (hints::isOn()) hintLiteralIds(effect.targets);
   const EntityIds targets = handler.ResolveEntityList(effect.targets);
   const qsf::Entity* target = targets.empty() ? nullptr : findEntity(targets.front());
   if (!target) return;

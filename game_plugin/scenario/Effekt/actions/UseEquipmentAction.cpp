@@ -52,6 +52,7 @@ static void hintUnknownAnimations(const UseEquipmentAction& action) {
 }
 
 static void run(const UseEquipmentActionEffect& effect, ScenarioHandler& handler) {
+  if (hints::isOn()) hintLiteralIds(effect.targets);
   const EntityIds targets = handler.ResolveEntityList(effect.targets);
   const auto target = std::ranges::find_if(targets, [](std::uint64_t id) { return findEntity(id) != nullptr; });
   if (target == targets.end()) return;

@@ -7,6 +7,7 @@
 #include "qsf/reflection/CampTypes.h"
 #include "qsf/reflection/ClassRegistry.h"
 
+#include <iterator>
 #include <stdexcept>
 
 namespace qsf {
@@ -22,7 +23,9 @@ void ActionPlan::insert(std::unique_ptr<Action> action, action::InsertionMode mo
 }
 
 std::unique_ptr<Action> ActionPlan::remove(const Action& action) {
-  const auto found = std::find(mView.begin(), mView.end(), &action);
+  // A plan is cleared from its end.
+  const bool isLast = !mView.empty() && mView.back() == &action;
+  const auto found = isLast ? std::prev(mView.end()) : std::find(mView.begin(), mView.end(), &action);
   if (found == mView.end()) return nullptr;
   const auto place = found - mView.begin();
   std::unique_ptr<Action> removed = std::move(mActions[static_cast<std::size_t>(place)]);
