@@ -11,7 +11,17 @@ find_package(box2d REQUIRED)
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(BULLET REQUIRED IMPORTED_TARGET bullet)
 pkg_check_modules(VORBISFILE REQUIRED IMPORTED_TARGET vorbisfile)
+pkg_check_modules(OIS REQUIRED OIS)
+pkg_check_modules(OGRE REQUIRED OGRE)
 find_library(CAMP_LIBRARY camp REQUIRED)
 
 add_library(tidemark_camp INTERFACE)
 target_link_libraries(tidemark_camp INTERFACE ${CAMP_LIBRARY})
+
+# The sources that include headers of OGRE, which are heavy, or of OIS; all others get by with forward declarations.
+function(tidemark_ogre_sources)
+  set_source_files_properties(${ARGN} PROPERTIES COMPILE_OPTIONS -isystem${OGRE_INCLUDEDIR}/OGRE)
+endfunction()
+function(tidemark_ois_sources)
+  set_source_files_properties(${ARGN} PROPERTIES COMPILE_OPTIONS -isystem${OIS_INCLUDEDIR}/ois)
+endfunction()

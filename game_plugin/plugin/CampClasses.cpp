@@ -4,6 +4,7 @@
 #include "game_plugin/action/SetCampPropertyAction.h"
 #include "game_plugin/action/UseEquipmentAction.h"
 #include "game_plugin/action/WaitUntilPropertyIsValue.h"
+#include "game_plugin/component/MP_LOG_COMPONENT.h"
 #include "game_plugin/component/OpenHouseComponent.h"
 #include "game_plugin/component/ScenarioCommandableComponent.h"
 
@@ -21,9 +22,13 @@ template <class T> const camp::Class* declareOnce() {
 
 std::vector<const camp::Class*> declareCampClasses() {
   return {
-      declareOnce<UseEquipmentAction>(),           declareOnce<SetCampPropertyAction>(),
-      declareOnce<WaitUntilPropertyIsValue>(),     declareOnce<PlayLocalSoundWithCustomVolume>(),
-      declareOnce<ScenarioCommandableComponent>(), declareOnce<OpenHouseComponent>(),
+      declareOnce<UseEquipmentAction>(),
+      declareOnce<SetCampPropertyAction>(),
+      declareOnce<WaitUntilPropertyIsValue>(),
+      declareOnce<PlayLocalSoundWithCustomVolume>(),
+      declareOnce<ScenarioCommandableComponent>(),
+      declareOnce<OpenHouseComponent>(),
+      declareOnce<MP_LOG_COMPONENT>(),
   };
 }
 

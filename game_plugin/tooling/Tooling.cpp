@@ -1,5 +1,6 @@
 #include "game_plugin/tooling/Tooling.h"
 
+#include "game_plugin/component/MP_LOG_COMPONENT.h"
 #include "game_plugin/scenario/hints/ExecutionPoint.h"
 #include "game_plugin/scenario/hints/Hints.h"
 #include "game_plugin/scenario/lifecycle/MapScriptManager.h"
@@ -252,6 +253,8 @@ public:
     return assign(storeToSet(script, name, &ScenarioHandler::entityLists, &GlobalStores::entityLists), name,
                   std::move(list)); // also an empty list exists then
   }
+
+  void setPlayerLogFolder(const std::string& folder) override { MP_LOG_COMPONENT::setFolder(folder); }
 
   void reload() override {
     const bool hasGame = static_cast<bool>(qsf::UniqueInstance<em5::Game>());

@@ -137,6 +137,10 @@ public:
   /// What the debugger's reload button does: a new manager reads all files anew and starts the scripts of the running
   /// map.
   virtual void reload() = 0;
+
+  /// Where the module makes its folder `tidemark` with the players' logs, from the next log on; its own folder unless
+  /// it is told. Empty is the working directory.
+  virtual void setPlayerLogFolder(const std::string& folder) = 0;
 };
 
 /// Type and name of the function that the module exports for tools.

@@ -25,6 +25,7 @@ script::tooling::Tooling& askForTooling() {
 LoadedModule::LoadedModule() : mLibrary(platform::loadLibrary(modulePath())), mTooling(nullptr) {
   try {
     mTooling = &askForTooling();
+    mTooling->setPlayerLogFolder(""); // an installation isn't written to
   } catch (...) {
     platform::unloadLibrary(mLibrary);
     throw;

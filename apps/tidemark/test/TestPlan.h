@@ -4,6 +4,7 @@
 #include "apps/tidemark/test/directives/Words.h"
 
 #include "em5/game/GameSessionConfiguration.h"
+#include "qsf/input/OisManager.h"
 
 #include <cstdint>
 #include <functional>
@@ -91,6 +92,7 @@ struct TestPlan {
   int mapLine = 0; ///< of the directive that names it; 0: none does
   em5::GameModeType gameMode = em5::GameModeType::FREEPLAY_ENDLESS;
   bool editor = false;
+  std::optional<qsf::GamepadModel> gamepad; ///< plugged in before the module loads
   std::string language = "en";
   std::string account;
   std::uint64_t seed = 1;

@@ -8,6 +8,7 @@
 
 #include "em5/game/HostSession.h"
 #include "qsf/Qsf.h"
+#include "qsf/input/InputSystem.h"
 #include "qsf/map/Map.h"
 
 #include <fmt/format.h>
@@ -74,6 +75,7 @@ void TestSession::startHost() {
   tooling().switchHints(true);
   mHost = std::make_unique<em5::HostSession>(options);
   mHost->getQsf().getLogSystem().addListener([this](const qsf::LogSystem::Record& record) { keepLine(record); });
+  if (mPlan.gamepad) mHost->getQsf().getInputSystem().getOisManager().plugIn(*mPlan.gamepad);
   mHost->mountBaseProject(mBaseProject);
   for (const ProjectPlan& project : mPlan.projects)
     guard(project.line, "", [&] {

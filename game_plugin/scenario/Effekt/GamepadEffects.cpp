@@ -3,6 +3,8 @@
 
 namespace script {
 
-EMPTY_EFFECT_GROUP(GamepadEffects)
+// The entries in the order in which they are asked; each stands in a file of its name.
+#define MANIFEST(ENTRY) ENTRY(GetGamepadInfo)
+EFFECT_GROUP(GamepadEffects, MANIFEST)
 
 }

@@ -3,6 +3,14 @@
 
 namespace script {
 
-EMPTY_EFFECT_GROUP(PositionAndRotationEffects)
+// The entries in the order in which they are asked; each stands in a file of its name.
+#define MANIFEST(ENTRY)                                                                                                \
+  ENTRY(SetBoneRotation)                                                                                               \
+  ENTRY(SetBonePosition)                                                                                               \
+  ENTRY(RotateBone)                                                                                                    \
+  ENTRY(SetBoneToOrigin)                                                                                               \
+  ENTRY(SetBoneScale)                                                                                                  \
+  ENTRY(ReleaseBone)
+EFFECT_GROUP(PositionAndRotationEffects, MANIFEST)
 
 }

@@ -2,6 +2,7 @@
 
 #include "game_plugin/scenario/Log.h"
 #include "game_plugin/scenario/hints/ExecutionPoint.h"
+#include "game_plugin/scenario/loading/RunningHost.h"
 #include "game_plugin/scenario/loading/ScriptParser.h"
 
 #include "qsf/Qsf.h"
@@ -29,7 +30,7 @@ ProgramCache::Content ProgramCache::summarize(std::string_view text) {
   std::uint64_t hash = 0xCBF29CE484222325u;
   for (const char c : text)
     hash = (hash ^ static_cast<unsigned char>(c)) * 0x100000001B3u;
-  return {text.size(), std::hash<std::string_view>()(text), hash};
+  return {text.size(), std::hash<std::string_view>()(text), hash, RunningHost().gamepad()};
 }
 
 void ProgramCache::forgetUnused() {

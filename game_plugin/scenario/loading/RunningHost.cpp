@@ -2,6 +2,7 @@
 
 #include "qsf/Qsf.h"
 #include "qsf/input/InputSystem.h"
+#include "qsf/input/OisManager.h"
 
 namespace script {
 
@@ -11,6 +12,13 @@ std::vector<std::string> RunningHost::mouseButtons() const {
     for (const qsf::InputButton* button : host->getInputSystem().getMouse().getButtons())
       descriptions.push_back(button->getDescription());
   return descriptions;
+}
+
+std::optional<GamepadLayout> RunningHost::gamepad() const {
+  const qsf::Qsf* host = qsf::Qsf::instance();
+  if (!host || !host->getInputSystem().getOisManager().getOisJoystick()) return std::nullopt;
+  const qsf::JoystickDevice& joystick = host->getInputSystem().getJoystick();
+  return GamepadLayout{joystick.getButtons().size(), joystick.getAxes().size()};
 }
 
 }

@@ -7,6 +7,7 @@ namespace script {
 class RunningHost : public ReadingHost {
 public:
   std::vector<std::string> mouseButtons() const override;
+  std::optional<GamepadLayout> gamepad() const override;
 };
 
 }

@@ -2,11 +2,19 @@
 #include "game_plugin/scenario/program/Program.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace script {
+
+/// What lines about the gamepad are checked against when they are read.
+struct GamepadLayout {
+  std::size_t buttons = 0;
+  std::size_t axes = 0;
+  bool operator==(const GamepadLayout&) const = default;
+};
 
 /// What reading a line asks of the machine that the script will run on. The module answers for the running host, a tool
 /// for a machine that it imagines.
@@ -15,6 +23,8 @@ public:
   virtual ~ReadingHost() = default;
   /// Descriptions of the mouse's buttons, by their index; empty without a mouse.
   virtual std::vector<std::string> mouseButtons() const = 0;
+  /// Nothing if no gamepad is plugged in, as on most machines.
+  virtual std::optional<GamepadLayout> gamepad() const { return std::nullopt; }
 };
 
 /// A program while it is being loaded. Used by ScriptParser for the time of one load.

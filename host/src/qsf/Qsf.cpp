@@ -17,6 +17,7 @@
 #include "qsf/plugin/PluginSystem.h"
 #include "qsf/prototype/PrototypeManager.h"
 #include "qsf/reflection/ClassRegistry.h"
+#include "qsf/skeleton/SkeletonManager.h"
 #include "qsf/window/WindowApplication.h"
 
 #include <cassert>
@@ -50,7 +51,7 @@ private:
 /// below if it isn't a qsf::UniqueInstanceTarget.
 struct Qsf::Systems : SystemList<LogSystem, FaultCounter, StringHashManager, CallRecorder, MessageSystem, JobManagers,
                                  ProjectManager, PrototypeManager, LocalizationSystem, InputSystem, WindowApplication,
-                                 LayerManager, AudioSystem, Map, PluginSystem> {};
+                                 LayerManager, AudioSystem, SkeletonManager, Map, PluginSystem> {};
 
 Qsf::Qsf() : mSystems(std::make_unique<Systems>()) {
   assert(!sInstance);

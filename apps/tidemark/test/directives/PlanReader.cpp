@@ -251,6 +251,8 @@ bool PlanReader::readGameSetting(const Directive& directive, WordCursor& words) 
     plan.gameMode = *mode;
   } else if (directive.name == "editor") {
     plan.editor = true;
+  } else if (directive.name == "gamepad") {
+    plan.gamepad = takeGamepadModel(words);
   } else if (directive.name == "language") {
     plan.language = words.take("a language");
     if (!isLanguageCode(plan.language))

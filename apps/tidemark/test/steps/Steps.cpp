@@ -15,6 +15,7 @@ namespace tidemark::test {
   THEME(Store)                                                                                                         \
   THEME(World)                                                                                                         \
   THEME(Device)                                                                                                        \
+  THEME(Gamepad)                                                                                                       \
   THEME(Lifecycle)
 #define EXPECTATION_THEMES(THEME)                                                                                      \
   THEME(Log)                                                                                                           \
@@ -25,6 +26,7 @@ namespace tidemark::test {
   THEME(Call)                                                                                                          \
   THEME(Plan)                                                                                                          \
   THEME(Overlay)                                                                                                       \
+  THEME(Bone)                                                                                                          \
   THEME(Property) // the last: it takes whatever else stands behind an entity
 
 #define DECLARE_ACTIONS(NAME) std::optional<Action> read##NAME##Action(WordCursor& words);

@@ -26,6 +26,9 @@ struct Times {
 };
 Times takeTimes(WordCursor& words);
 
+/// `[vendor TEXT] [buttons N] [axes N]`.
+qsf::GamepadModel takeGamepadModel(WordCursor& words);
+
 /// `within EPS` if it is next. Throws for a negative one.
 std::optional<double> takeWithin(WordCursor& words);
 

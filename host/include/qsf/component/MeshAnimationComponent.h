@@ -3,9 +3,29 @@
 #include "qsf/component/Component.h"
 #include "qsf/job/JobProxy.h"
 
+#include <glm/glm.hpp>
+#include <glm/gtc/quaternion.hpp>
+
 #include <memory>
+#include <optional>
+#include <string>
+
+namespace Ogre {
+class Bone;
+}
 
 namespace qsf {
+
+class SkeletonPose;
+
+/// How a bone stands, relative to its parent.
+struct BoneState {
+  glm::vec3 position;
+  glm::quat rotation;
+  glm::vec3 scale;
+  bool manual;    ///< moved by hand; animations leave it
+  float turnedBy; ///< degrees between its rest pose and now, 0 to 180
+};
 
 /// One run of an animation. Shared between the component that plays it and those who watch it.
 class QSF_API MeshAnimationChannel {
@@ -38,11 +58,14 @@ private:
 /// as "length" in its asset's JSON file says, in seconds of simulated time; without that, a second. Property
 /// "Animation": the local asset name of what plays, empty when nothing does; setting it plays that animation once. The
 /// play operations are noted in the call recorder.
+///
+/// Property "Skeleton": the asset whose bones the animations move (docs/host.md); without it there are none. The bones
+/// follow what plays in each update and come to rest when nothing does, but for those under manual control.
 class QSF_API MeshAnimationComponent : public Component {
   CAMP_RTTI()
 public:
   static constexpr StringHash COMPONENT_ID{"qsf::MeshAnimationComponent"};
-  explicit MeshAnimationComponent(Prototype* prototype) : Component(prototype) {}
+  explicit MeshAnimationComponent(Prototype* prototype);
   /// What plays ends with the component.
   ~MeshAnimationComponent() override;
   static void declareCamp();
@@ -61,6 +84,16 @@ public:
   /// Null when nothing plays.
   const std::shared_ptr<MeshAnimationChannel>& getChannel() const { return mChannel; }
 
+  /// What was under manual control no longer is, and stands in its rest pose.
+  void setSkeleton(const AssetProxy& skeleton);
+  const AssetProxy& getSkeleton() const { return mSkeleton; }
+  /// Takes a bone away from the animations, as it stands, or gives it back to them: it then moves to the animation's
+  /// pose, or to its rest pose, in the next update. The bone is null if the skeleton has none of that name; it lives as
+  /// long as the component has the skeleton. `wasManual`, if it isn't null, is told how it was before.
+  Ogre::Bone* manualBoneControl(const std::string& boneName, bool manual, bool* wasManual = nullptr);
+  /// Nothing if the skeleton has no such bone.
+  std::optional<BoneState> getBoneState(const std::string& boneName);
+
 protected:
   bool onStartup() override;
   void onShutdown() override;
@@ -72,7 +105,13 @@ private:
                                                        float speed);
   void updateRegistration();
   void update(const JobArguments& arguments);
+  /// Made when it is first asked for. Null without a skeleton.
+  SkeletonPose* findPose();
+  void showPose();
 
+  AssetProxy mSkeleton;
+  std::unique_ptr<SkeletonPose> mPose;
+  bool mPoseIsStale = false; // it shows at the next update what it should
   std::shared_ptr<MeshAnimationChannel> mChannel;
   JobProxy mJob;
 };

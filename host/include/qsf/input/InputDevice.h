@@ -50,7 +50,8 @@ private:
   float mValue = 0.0f;
 };
 
-/// A device with buttons and axes, found by index. Indices never change while the host lives. Owned by InputSystem.
+/// A device with buttons and axes, found by index. Indices never change while the host lives, but for a gamepad's,
+/// which comes and goes. Owned by InputSystem.
 class QSF_API InputDevice {
 public:
   virtual ~InputDevice();
@@ -66,6 +67,7 @@ protected:
   InputDevice();
   InputButton& addButton(const std::string& name, const std::string& description);
   InputAxis& addAxis(const std::string& name);
+  void removeControls();
 
 private:
   std::vector<std::unique_ptr<InputButton>> mButtons;

@@ -5,6 +5,9 @@
 
 namespace qsf {
 
+class JoystickDevice;
+class OisManager;
+
 /// The keys: letters "A" to "Z", digits "0" to "9" (described with a blank in front, " 8", as the key caps are in the
 /// game), "F1" to "F15", "Numpad0" to "Numpad9", "LeftShift", "Return" and so on.
 class QSF_API KeyboardDevice : public InputDevice {
@@ -41,6 +44,10 @@ public:
 
   KeyboardDevice& getKeyboard() const { return *mKeyboard; }
   MouseDevice& getMouse() const { return *mMouse; }
+  /// The gamepad's buttons and axes; none while no gamepad is plugged in.
+  JoystickDevice& getJoystick() const { return *mJoystick; }
+  /// Knows whether a gamepad is plugged in.
+  OisManager& getOisManager() const { return *mOisManager; }
 
   /// Ends a frame: movements of the mouse are over, buttons stay as they are. Called by the host's frame.
   void endFrame();
@@ -48,6 +55,8 @@ public:
 private:
   std::unique_ptr<KeyboardDevice> mKeyboard;
   std::unique_ptr<MouseDevice> mMouse;
+  std::unique_ptr<JoystickDevice> mJoystick;
+  std::unique_ptr<OisManager> mOisManager;
 };
 
 }

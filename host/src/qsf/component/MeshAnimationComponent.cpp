@@ -3,8 +3,13 @@
 #include "qsf/base/JsonFile.h"
 #include "qsf/base/RecordedOperation.h"
 #include "qsf/log/LogSystem.h"
+#include "qsf/reflection/CampTypes.h"
 #include "qsf/reflection/ClassRegistry.h"
 #include "qsf/reflection/PropertyText.h"
+#include "qsf/skeleton/SkeletonManager.h"
+#include "qsf/skeleton/SkeletonPose.h"
+
+#include <OgreBone.h>
 
 #include <stdexcept>
 
@@ -31,6 +36,16 @@ Time readLength(const BaseAsset& asset) {
     logMessage(LogSystem::WARNING, std::string(fault.what()) + "; the animation is taken to last a second");
     return DEFAULT_LENGTH;
   }
+}
+
+glm::vec3 toGlm(const Ogre::Vector3& vector) { return {vector.x, vector.y, vector.z}; }
+glm::quat toGlm(const Ogre::Quaternion& rotation) { return {rotation.w, rotation.x, rotation.y, rotation.z}; }
+
+/// Free of axis and sign, and of the lengths of the rotations.
+float degreesBetween(const glm::quat& from, const glm::quat& to) {
+  const glm::dquat turn = glm::conjugate(glm::dquat(from)) * glm::dquat(to);
+  return static_cast<float>(
+      glm::degrees(2 * std::atan2(glm::length(glm::dvec3(turn.x, turn.y, turn.z)), std::abs(turn.w))));
 }
 
 void recordPlay(const RecordedOperation& operation, const AssetProxy& animation, bool looped, bool reverse,
@@ -71,6 +86,8 @@ void MeshAnimationChannel::advance(Time timePassed) {
   mPosition = mDirection == Direction::FORWARD ? base + over : base - over;
 }
 
+MeshAnimationComponent::MeshAnimationComponent(Prototype* prototype) : Component(prototype) {}
+
 MeshAnimationComponent::~MeshAnimationComponent() {
   if (mChannel) mChannel->stop();
 }
@@ -81,7 +98,8 @@ void MeshAnimationComponent::declareCamp() {
   camp::Class::declare<MeshAnimationComponent>("qsf::MeshAnimationComponent")
       .base<Component>()
       .constructor1<Prototype*>()
-      .property("Animation", &MeshAnimationComponent::getAnimationName, &MeshAnimationComponent::setAnimationName);
+      .property("Animation", &MeshAnimationComponent::getAnimationName, &MeshAnimationComponent::setAnimationName)
+      .property("Skeleton", &MeshAnimationComponent::getSkeleton, &MeshAnimationComponent::setSkeleton);
 }
 
 std::shared_ptr<MeshAnimationChannel> MeshAnimationComponent::playAnimation(const AssetProxy& animation, bool looped,
@@ -115,6 +133,7 @@ std::shared_ptr<MeshAnimationChannel> MeshAnimationComponent::blendToAnimation(c
 void MeshAnimationComponent::clearAnimation() {
   if (mChannel) mChannel->stop();
   mChannel.reset();
+  mPoseIsStale = mPose != nullptr;
   updateRegistration();
 }
 
@@ -140,14 +159,60 @@ void MeshAnimationComponent::setAnimationName(const std::string& name) {
 }
 
 void MeshAnimationComponent::updateRegistration() {
-  if (!isRunning() || !mChannel) return mJob.unregister();
+  if (!isRunning() || (!mChannel && !mPoseIsStale)) return mJob.unregister();
   if (!mJob.isRegistered()) mJob.registerInSimulation([this](const JobArguments& arguments) { update(arguments); });
 }
 
 void MeshAnimationComponent::update(const JobArguments& arguments) {
-  if (!isActive() || !mChannel) return;
-  mChannel->advance(arguments.getTimePassed());
-  if (mChannel->isFinished()) clearAnimation();
+  if (!isActive()) return;
+  if (mChannel) mChannel->advance(arguments.getTimePassed());
+  if (mChannel && mChannel->isFinished()) clearAnimation();
+  if (mPose) showPose();
+  updateRegistration();
+}
+
+void MeshAnimationComponent::setSkeleton(const AssetProxy& skeleton) {
+  mSkeleton = skeleton;
+  mPose.reset();
+  mPoseIsStale = false;
+  updateRegistration();
+}
+
+SkeletonPose* MeshAnimationComponent::findPose() {
+  const UniqueInstance<SkeletonManager> manager;
+  if (mPose || !mSkeleton.getLocalAssetId().isInitialized() || !manager) return mPose.get();
+  if (auto skeleton = manager->findSkeleton(mSkeleton)) {
+    mPose = std::make_unique<SkeletonPose>(std::move(skeleton));
+    showPose();
+  }
+  return mPose.get();
+}
+
+void MeshAnimationComponent::showPose() {
+  mPose->show(getAnimationName(), mChannel ? mChannel->getOffset() : 0.0f);
+  mPoseIsStale = false;
+}
+
+Ogre::Bone* MeshAnimationComponent::manualBoneControl(const std::string& boneName, bool manual, bool* wasManual) {
+  const SkeletonPose* pose = findPose();
+  Ogre::Bone* bone = pose ? pose->findBone(boneName) : nullptr;
+  if (wasManual) *wasManual = bone && bone->isManuallyControlled();
+  if (!bone) return nullptr;
+  bone->setManuallyControlled(manual);
+  if (!manual) {
+    mPoseIsStale = true;
+    updateRegistration();
+  }
+  return bone;
+}
+
+std::optional<BoneState> MeshAnimationComponent::getBoneState(const std::string& boneName) {
+  const SkeletonPose* pose = findPose();
+  const Ogre::Bone* bone = pose ? pose->findBone(boneName) : nullptr;
+  if (!bone) return std::nullopt;
+  const glm::quat rotation = toGlm(bone->getOrientation());
+  return BoneState{toGlm(bone->getPosition()), rotation, toGlm(bone->getScale()), bone->isManuallyControlled(),
+                   degreesBetween(toGlm(bone->getInitialOrientation()), rotation)};
 }
 
 }

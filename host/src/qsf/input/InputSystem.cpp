@@ -1,5 +1,7 @@
 #include "qsf/input/InputSystem.h"
 
+#include "qsf/input/OisManager.h"
+
 namespace qsf {
 
 InputDevice::InputDevice() = default;
@@ -21,6 +23,13 @@ InputAxis& InputDevice::addAxis(const std::string& name) {
   mAxes.push_back(std::make_unique<InputAxis>(name, name));
   mAxisView.push_back(mAxes.back().get());
   return *mAxes.back();
+}
+
+void InputDevice::removeControls() {
+  mButtonView.clear();
+  mAxisView.clear();
+  mButtons.clear();
+  mAxes.clear();
 }
 
 KeyboardDevice::KeyboardDevice() {
@@ -54,7 +63,9 @@ void MouseDevice::setPosition(const glm::vec2& position) {
   mPosition = position;
 }
 
-InputSystem::InputSystem() : mKeyboard(std::make_unique<KeyboardDevice>()), mMouse(std::make_unique<MouseDevice>()) {}
+InputSystem::InputSystem()
+    : mKeyboard(std::make_unique<KeyboardDevice>()), mMouse(std::make_unique<MouseDevice>()),
+      mJoystick(std::make_unique<JoystickDevice>()), mOisManager(std::make_unique<OisManager>(*mJoystick)) {}
 
 InputSystem::~InputSystem() = default;
 

@@ -1,0 +1,83 @@
+// Expectations on the bones of an entity.
+#include "apps/tidemark/test/TestSession.h"
+#include "apps/tidemark/test/steps/Reflection.h"
+#include "apps/tidemark/test/steps/Steps.h"
+
+#include "qsf/component/MeshAnimationComponent.h"
+#include "qsf/map/Entity.h"
+#include "qsf/reflection/PropertyText.h"
+
+#include <fmt/format.h>
+
+namespace tidemark::test {
+
+namespace {
+
+struct BoneReference {
+  EntityReference entity;
+  std::string bone;
+};
+
+qsf::BoneState findBone(TestSession& session, const BoneReference& reference) {
+  const qsf::Entity& entity = session.findEntity(session.resolve(reference.entity));
+  auto* animation = entity.getComponent<qsf::MeshAnimationComponent>();
+  if (!animation) throw NotThere(fmt::format("entity {} has no qsf::MeshAnimationComponent", entity.getId()));
+  if (const auto bone = animation->getBoneState(reference.bone)) return *bone;
+  throw NotThere(fmt::format("entity {} has no bone '{}'", entity.getId(), reference.bone));
+}
+
+Expectation expectControl(const BoneReference& reference, bool manual) {
+  Expectation expectation;
+  expectation.check = [=](TestSession& session) {
+    const bool found = findBone(session, reference).manual;
+    return Verdict{found == manual, found ? "manual" : "animated", {}};
+  };
+  return expectation;
+}
+
+Expectation expectTurn(WordCursor& words, const BoneReference& reference) {
+  const double degrees = words.takeNumber("the degrees");
+  const std::optional<double> within = takeWithin(words);
+  Expectation expectation;
+  expectation.check = [=](TestSession& session) {
+    const float found = findBone(session, reference).turnedBy;
+    return Verdict{numbersMatch(degrees, found, within), fmt::format("turned {}", found), {}};
+  };
+  return expectation;
+}
+
+/// A part of the bone's state, as text.
+template <class Part>
+Expectation expectPart(WordCursor& words, const BoneReference& reference, Part qsf::BoneState::*part) {
+  words.require("==");
+  const PropertyValue expected = takePropertyValue(words, "the expected value");
+  const std::optional<double> within = takeWithin(words);
+  Expectation expectation;
+  expectation.check = [=](TestSession& session) {
+    const std::string found = qsf::toText(findBone(session, reference).*part);
+    return Verdict{valueMatches(resolveValue(session, expected), found, within), fmt::format("\"{}\"", found), {}};
+  };
+  return expectation;
+}
+
+Expectation readForm(WordCursor& words) {
+  const EntityReference entity = takeEntityReference(words);
+  words.require("bone");
+  const BoneReference reference{entity, words.take("the bone's name")};
+  if (words.takeIf("manual")) return expectControl(reference, true);
+  if (words.takeIf("animated")) return expectControl(reference, false);
+  if (words.takeIf("turned")) return expectTurn(words, reference);
+  if (words.takeIf("position")) return expectPart(words, reference, &qsf::BoneState::position);
+  if (words.takeIf("rotation")) return expectPart(words, reference, &qsf::BoneState::rotation);
+  if (words.takeIf("scale")) return expectPart(words, reference, &qsf::BoneState::scale);
+  throw DirectiveError("behind the bone's name stands position, rotation, scale, manual, animated or turned");
+}
+
+}
+
+std::optional<Expectation> readBoneExpectation(WordCursor& words) {
+  if (peekEntityForm(words, {"bone"})) return readForm(words);
+  return std::nullopt;
+}
+
+}
