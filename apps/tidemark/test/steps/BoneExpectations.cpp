@@ -1,6 +1,5 @@
 // Expectations on the bones of an entity.
 #include "apps/tidemark/test/TestSession.h"
-#include "apps/tidemark/test/steps/Reflection.h"
 #include "apps/tidemark/test/steps/Steps.h"
 
 #include "qsf/component/MeshAnimationComponent.h"
@@ -8,6 +7,10 @@
 #include "qsf/reflection/PropertyText.h"
 
 #include <fmt/format.h>
+
+#include <algorithm>
+#include <iterator>
+#include <sstream>
 
 namespace tidemark::test {
 
@@ -46,16 +49,36 @@ Expectation expectTurn(WordCursor& words, const BoneReference& reference) {
   return expectation;
 }
 
-/// A part of the bone's state, as text.
+/// The numbers of a quoted word.
+std::vector<double> takeNumbers(WordCursor& words, std::size_t count) {
+  const std::string text = words.take("the expected value");
+  std::istringstream stream(text);
+  const std::vector<std::string> parts(std::istream_iterator<std::string>(stream), {});
+  std::vector<double> numbers;
+  for (const std::string& part : parts)
+    if (const auto number = parseNumber(part)) numbers.push_back(*number);
+  if (parts.size() != count || numbers.size() != count)
+    throw DirectiveError(fmt::format("'{}' is not {} numbers", text, count));
+  return numbers;
+}
+
+/// A part of the bone's state, compared number by number in the order of its text.
 template <class Part>
 Expectation expectPart(WordCursor& words, const BoneReference& reference, Part qsf::BoneState::*part) {
   words.require("==");
-  const PropertyValue expected = takePropertyValue(words, "the expected value");
+  const std::vector<double> expected = takeNumbers(words, static_cast<std::size_t>(Part::length()));
   const std::optional<double> within = takeWithin(words);
   Expectation expectation;
   expectation.check = [=](TestSession& session) {
-    const std::string found = qsf::toText(findBone(session, reference).*part);
-    return Verdict{valueMatches(resolveValue(session, expected), found, within), fmt::format("\"{}\"", found), {}};
+    const Part value = findBone(session, reference).*part;
+    std::vector<float> found;
+    if constexpr (std::is_same_v<Part, glm::quat>)
+      found = {value.w, value.x, value.y, value.z};
+    else
+      found = {value.x, value.y, value.z};
+    const bool matches =
+        std::ranges::equal(expected, found, [&](double wanted, float is) { return numbersMatch(wanted, is, within); });
+    return Verdict{matches, fmt::format("\"{}\"", qsf::toText(value)), {}};
   };
   return expectation;
 }

@@ -33,7 +33,7 @@ TEST_F(OisManagerTest, ANewGamepadIsAtRest) {
   EXPECT_EQ(gamepad.getOisJoystick()->vendor(), "Wireless Gamepad");
   EXPECT_EQ(state().mButtons, std::vector<bool>(16, false));
   EXPECT_EQ(state().mAxes.size(), 6u);
-  EXPECT_EQ(state().mPOV[0].direction, OIS::Pov::Centered);
+  EXPECT_EQ(state().mPOV[0].direction, 0);
   EXPECT_EQ(device.getButtons().size(), 16u);
   EXPECT_EQ(device.getAxes().size(), 6u);
   EXPECT_EQ(device.getButtons()[15]->getName(), "Button16");

@@ -1,6 +1,7 @@
 // Bones as the component shows them, from skeletons described in JSON.
 #include "host/qsf/TestWorld.h"
 #include "qsf/component/MeshAnimationComponent.h"
+#include "qsf/reflection/PropertyText.h"
 
 #include <cmath>
 
@@ -169,7 +170,7 @@ INSTANTIATE_TEST_SUITE_P(
         Fault{R"({"bones": [{"name": "A", "parent": "A"}]})", "there is no bone \"A\" above this one"},
         Fault{R"({"bones": [{"name": "A", "parent": "B"}, {"name": "B"}]})", "there is no bone \"B\" above"},
         Fault{R"({"bones": [{"name": "A", "position": [0, 1]}]})", "position"},
-        Fault{R"({"bones": [{"name": "A", "position": [0, 1, 1e300]}]})", "too large"},
+        Fault{R"({"bones": [{"name": "A", "position": [0, 1, 1e30]}]})", "too large"},
         Fault{R"({"bones": [{"name": "A", "place": [0, 1, 1]}]})", "place"},
         Fault{R"({"bones": [{"name": "A"}], "animations": [{"name": "x", "length": 0, "bones": {}}]})", "above 0"},
         Fault{R"({"bones": [{"name": "A"}], "animations": [{"name": "x", "length": 1, "bones": {"B": []}}]})",

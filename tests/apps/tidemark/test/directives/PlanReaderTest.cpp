@@ -36,6 +36,19 @@ TEST(PlanReader, DefaultsAreThoseOfThePage) {
   EXPECT_EQ(plan.numberOfFrames(), 20u);
 }
 
+TEST(PlanReader, AGamepadIsToldPartByPart) {
+  EXPECT_FALSE(readGood(EXPECTATION).gamepad.has_value());
+  const auto plain = readGood(EXPECTATION + "$ @gamepad").gamepad;
+  ASSERT_TRUE(plain.has_value());
+  EXPECT_EQ(plain->vendor, "Wireless Gamepad");
+  EXPECT_EQ(plain->buttons, 16u);
+  EXPECT_EQ(plain->axes, 6u);
+  const auto told = readGood(EXPECTATION + "$ @gamepad axes 2 vendor \"Pad of Tin\" buttons 0").gamepad;
+  EXPECT_EQ(told->vendor, "Pad of Tin");
+  EXPECT_EQ(told->buttons, 0u);
+  EXPECT_EQ(told->axes, 2u);
+}
+
 TEST(PlanReader, FileWithoutFinalLineFeedStaysSo) {
   EXPECT_EQ(readGood(EXPECTATION + "Foo();").projects[0].scripts[0].text, EXPECTATION + "Foo();");
 }
@@ -198,6 +211,21 @@ INSTANTIATE_TEST_SUITE_P(
         Fault{"$ @expect call a with never", "behind 'with' stand arguments"},
         Fault{"$ @expect call a before", "the second operation's name is missing"},
         Fault{"$ @expect call a before b never", "unexpected word 'never'"},
+        Fault{"$ @expect 100 bone", "the bone's name is missing"},
+        Fault{"$ @expect 100 bone Arm", "behind the bone's name stands"},
+        Fault{"$ @expect 100 bone Arm position == \"1 2\"", "'1 2' is not 3 numbers"},
+        Fault{"$ @expect 100 bone Arm rotation == \"1 2 3\"", "is not 4 numbers"},
+        Fault{"$ @expect 100 bone Arm scale == \"1 x 3\"", "is not 3 numbers"},
+        Fault{"$ @expect 100 bone Arm turned far", "'far' is no number"},
+        Fault{"$ @expect 100 bone Arm manual 1", "unexpected word '1'"},
+        Fault{"$ @gamepad wheels 4", "'wheels' is none of vendor, buttons, axes"},
+        Fault{"$ @gamepad buttons many", "'many' is no id"},
+        Fault{"$ @gamepad buttons 257", "the number of buttons is above 256"},
+        Fault{"$ @at 0 gamepad", "behind 'gamepad' stands"},
+        Fault{"$ @at 0 gamepad press 0", "the button's number counts from 1"},
+        Fault{"$ @at 0 gamepad axis 1 1.5", "not between -1 and 1"},
+        Fault{"$ @at 0 gamepad axis 1 nan", "not between -1 and 1"},
+        Fault{"$ @at 0 gamepad pov Up", "'Up' is no direction"},
         Fault{"$ @expect asset axe mounted", "'axe' is no PROJECT/TYPE/CATEGORY/NAME"},
         Fault{"$ @expect asset a/b/c/d", "mounted or missing is missing"},
         Fault{"$ @expect asset a/b/c/d there", "neither mounted nor missing"},
