@@ -29,8 +29,8 @@ static void tellRange(const CompareGamepadAxisValueCondition& condition, Program
 }
 
 static void read(CompareGamepadAxisValueCondition& condition, ParameterReader& in) {
-  const ParameterText axis = in.of(
-      ParameterRole::INTEGER, 1, "1", "AxisIndex",
+  const ParameterText axis = in.raw(
+      1, "1", "AxisIndex",
       "Which Axis do you want to track (1 = X ; 2 = Y; 3 = Z ... on a normal Wireless Gamepad... your gamepad can "
       "have more or less axis)");
   condition.axis = axis;
