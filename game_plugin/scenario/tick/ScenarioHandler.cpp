@@ -4,9 +4,11 @@
 #include "game_plugin/scenario/hints/ExecutionPoint.h"
 #include "game_plugin/scenario/hints/Hints.h"
 #include "game_plugin/scenario/stores/JsonStore.h"
+#include "game_plugin/scenario/tick/FaultyLine.h"
 #include "game_plugin/scenario/world/LocalPlayer.h"
 
 #include "em5/base/Jobs.h"
+#include "qsf/log/FaultCounter.h"
 
 #include <boost/bind/bind.hpp>
 
@@ -123,6 +125,12 @@ void ScenarioHandler::Update(const qsf::JobArguments& arguments) {
   }
   const RunningScope scope(*mDocument);
   mDocument->time += arguments.getTimePassed();
+  // What leaves an entry costs the rest of this script's tick and one line of the log; other scripts go on.
+  qsf::callGuarded([this] { walkTriggers(); },
+                   [this] { return describeFaultyLine(*mDocument->program, executionPoint.line); });
+}
+
+void ScenarioHandler::walkTriggers() {
   bool isClient = isLocalPlayerClient();
   for (std::size_t i = 0; i < mDocument->triggers.size() && !mStopped; ++i) {
     ScenarioTrigger& trigger = mDocument->triggers[i];

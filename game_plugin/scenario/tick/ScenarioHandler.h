@@ -141,6 +141,9 @@ public:
   bool GetBoolVariable(const std::string& name);
   void SetJsonVariable(const std::string& name, const boost::property_tree::ptree& value);
   boost::property_tree::ptree GetJsonVariable(const std::string& name);
+  /// The JSON variable itself, to be read or changed without a copy; a missing one is made. Good as long as the
+  /// handler.
+  boost::property_tree::ptree& jsonVariable(const std::string& name);
   void AddToStringList(const std::string& name, const std::string& value);
   std::vector<std::string> GetStringList(const std::string& name);
 
@@ -176,6 +179,7 @@ private:
   };
   enum class Access : unsigned char { READ, WRITE };
 
+  void walkTriggers();
   bool holds(const ScenarioTrigger& trigger, std::uint32_t& fulfilled) const;
   /// Returns whether the trigger fired.
   bool tick(ScenarioTrigger& trigger);

@@ -214,11 +214,12 @@ bool ScenarioHandler::GetBoolVariable(const std::string& name) {
 }
 
 void ScenarioHandler::SetJsonVariable(const std::string& name, const boost::property_tree::ptree& value) {
-  auto& entries = mJsonVariables->entries;
-  entries.value(entries.findOrAppend(name)) = value;
+  jsonVariable(name) = value;
 }
 
-boost::property_tree::ptree ScenarioHandler::GetJsonVariable(const std::string& name) {
+boost::property_tree::ptree ScenarioHandler::GetJsonVariable(const std::string& name) { return jsonVariable(name); }
+
+boost::property_tree::ptree& ScenarioHandler::jsonVariable(const std::string& name) {
   auto& entries = mJsonVariables->entries;
   return entries.value(entries.findOrAppend(name));
 }

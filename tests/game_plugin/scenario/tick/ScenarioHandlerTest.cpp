@@ -6,6 +6,7 @@
 
 #include "qsf/input/InputSystem.h"
 #include "qsf/job/JobManagers.h"
+#include "qsf/log/FaultCounter.h"
 
 #include <gtest/gtest.h>
 
@@ -85,24 +86,49 @@ TEST(ScenarioHandler, NamesOfMissingTriggers) {
 TEST(ScenarioHandler, AHandwrittenBlockIndexThatDoesNotExistFaultsTheTick) {
   const LogCapture log;
   Script script("InitNewTrigger(\"t\");\nInitEffects();\nUseConditionalBlock(0,3);\nSetVariable(\"x\",\"1\");");
-  EXPECT_THROW(script.tick(), std::out_of_range);
+  script.tick();
+  EXPECT_EQ(log.count(4, "Fault in test/main.script, line 3, UseConditionalBlock: invalid vector<T> subscript"), 1);
+  EXPECT_EQ(script.variable("x"), 0) << "the effects behind it are left out";
   Script negative("InitNewTrigger(\"t\");\nInitEffects();\nUseConditionalBlock(\"-1\",0);");
-  EXPECT_THROW(negative.tick(), std::out_of_range);
+  negative.tick();
+  EXPECT_EQ(log.count(4, "Fault in test/main.script, line 3, UseConditionalBlock: invalid vector<T> subscript"), 2);
 }
 
 TEST(ScenarioHandler, HandwrittenBlocksThatCallEachOtherEndTheTick) {
   const LogCapture log;
   Script loop(
       "InitNewTrigger(\"t\",true,true);\nInitEffects();\nIf();\nThen();\nUseConditionalBlock(0,0);\nThenEnd();");
-  EXPECT_THROW(loop.tick(), std::runtime_error);
-  EXPECT_THROW(loop.tick(), std::runtime_error) << "the counts start anew in each tick";
+  const std::string fault = "line 5, UseConditionalBlock: conditional blocks call each other more than 100 levels deep";
+  loop.tick();
+  loop.tick();
+  EXPECT_EQ(log.count(4, "Fault in test/main.script, " + fault), 2) << "the counts start anew in each tick";
   std::string tree = "InitNewTrigger(\"t\");\nInitEffects();\n";
   for (int i = 0; i < 30; ++i)
     tree += "If();\nThen();\nUseConditionalBlock(0," + std::to_string(i + 1) + ");\nUseConditionalBlock(0," +
             std::to_string(i + 1) + ");\nThenEnd();\n";
   tree += "If();\nThen();\nThenEnd();\n";
   Script wide(tree);
-  EXPECT_THROW(wide.tick(), std::runtime_error);
+  wide.tick();
+  EXPECT_EQ(qsf::Qsf::instance()->getFaultCounter().getCount(), 3u);
+  EXPECT_TRUE(qsf::Qsf::instance()->getFaultCounter().getLastFault().ends_with("have run more than 1000000 lines"));
+}
+
+TEST(ScenarioHandler, AFaultCostsTheRestOfTheTickOfThatScriptOnly) {
+  const LogCapture log;
+  Script faulty("InitNewTrigger(\"first\",true,true);\nInitEffects();\nVariableModify(\"a\",\"+\",\"1\",\"a\");\n"
+                "InitNewTrigger(\"faulty\",true,true);\nInitConditions();\nCompareValues(\"a\",\"<\",\"2\");\n"
+                "InitEffects();\nUseConditionalBlock(7,0);\nInitNewTrigger(\"last\",true,true);\nInitEffects();\n"
+                "VariableModify(\"b\",\"+\",\"1\",\"b\");");
+  Script other("InitNewTrigger(\"t\",true,true);\nInitEffects();\nVariableModify(\"a\",\"+\",\"1\",\"a\");");
+  qsf::Qsf::instance()->getJobManagers().runFrame(qsf::Time::fromSeconds(0.05));
+  EXPECT_EQ(faulty.variable("a"), 1);
+  EXPECT_EQ(faulty.variable("b"), 0);
+  EXPECT_EQ(other.variable("a"), 1);
+  ASSERT_EQ(log.lines.size(), 1u);
+  EXPECT_EQ(log.lines[0].second, "Fault in test/main.script, line 8, UseConditionalBlock: invalid vector<T> subscript");
+  qsf::Qsf::instance()->getJobManagers().runFrame(qsf::Time::fromSeconds(0.05));
+  EXPECT_EQ(faulty.variable("b"), 1) << "the next tick is whole";
+  EXPECT_EQ(other.variable("a"), 2);
 }
 
 TEST(ScenarioHandler, RetiringInsideATickEndsItAtOnce) {
