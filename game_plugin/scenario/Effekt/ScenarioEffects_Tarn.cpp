@@ -31,7 +31,14 @@ namespace script {
   ENTRY(ClearActionPlan)                                                                                               \
   ENTRY(RemoveAction)                                                                                                  \
   ENTRY(PlayLocalSound)                                                                                                \
-  ENTRY(PlayGlobalSound)
+  ENTRY(PlayGlobalSound)\
+  ENTRY(CreateJsonRoot)                                                                                                \
+  ENTRY(WriteJson)                                                                                                     \
+  ENTRY(AddValueToRoot)                                                                                                \
+  ENTRY(AddValueListToRoot)                                                                                            \
+  ENTRY(AddValueToValueList)                                                                                           \
+  ENTRY(ReadJson)                                                                                                      \
+  ENTRY(GetValueFromJson)
 EFFECT_GROUP(ScenarioEffects_Tarn, MANIFEST)
 
 }

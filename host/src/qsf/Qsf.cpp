@@ -5,6 +5,7 @@
 #include "qsf/base/CallRecorder.h"
 #include "qsf/base/Random.h"
 #include "qsf/base/StringHashManager.h"
+#include "qsf/base/WritePermission.h"
 #include "qsf/component/BaseClasses.h"
 #include "qsf/input/InputSystem.h"
 #include "qsf/job/JobManagers.h"
@@ -49,9 +50,10 @@ private:
 
 /// The systems; each may use those to its left for as long as it lives. A further one is a name here, and a getter
 /// below if it isn't a qsf::UniqueInstanceTarget.
-struct Qsf::Systems : SystemList<LogSystem, FaultCounter, StringHashManager, CallRecorder, MessageSystem, JobManagers,
-                                 ProjectManager, PrototypeManager, LocalizationSystem, InputSystem, WindowApplication,
-                                 LayerManager, AudioSystem, SkeletonManager, Map, PluginSystem> {};
+struct Qsf::Systems
+    : SystemList<LogSystem, FaultCounter, StringHashManager, CallRecorder, WritePermission, MessageSystem, JobManagers,
+                 ProjectManager, PrototypeManager, LocalizationSystem, InputSystem, WindowApplication, LayerManager,
+                 AudioSystem, SkeletonManager, Map, PluginSystem> {};
 
 Qsf::Qsf() : mSystems(std::make_unique<Systems>()) {
   assert(!sInstance);

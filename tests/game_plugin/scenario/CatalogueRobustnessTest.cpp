@@ -2,6 +2,7 @@
 #include "game_plugin/ModuleFixture.h"
 #include "game_plugin/scenario/tick/ScenarioConditions.h"
 #include "game_plugin/scenario/tick/ScenarioEffects.h"
+#include "qsf/base/WritePermission.h"
 #include "qsf/component/TransformComponent.h"
 #include "qsf/prototype/PrototypeManager.h"
 
@@ -124,6 +125,7 @@ protected:
 TEST_P(CatalogueRobustnessTest, NothingThatAScriptSaysEndsTheProcess) {
   addScript("main", "MAP_STARTUP_SIMULATION", randomScript());
   start();
+  qsf::UniqueInstance<qsf::WritePermission>()->limitTo({}, "this test leaves nothing behind");
   populate();
   qsf::UniqueInstance<em5::Game>()->getSelectionManager()->setSelection({100, 101});
   run(2);
