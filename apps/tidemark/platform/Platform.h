@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-/// The program's calls to the operating system, all of them.
+/// The program's calls to the operating system; those that keep scripts from writing stand in WriteLimit.h.
 namespace tidemark::platform {
 
 /// Absolute path of the running program.

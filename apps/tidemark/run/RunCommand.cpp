@@ -2,6 +2,7 @@
 #include "apps/tidemark/Options.h"
 #include "apps/tidemark/Subcommand.h"
 #include "apps/tidemark/run/Runner.h"
+#include "apps/tidemark/session/WritableFolders.h"
 
 #include <CLI/CLI.hpp>
 
@@ -69,6 +70,7 @@ void addOptions(CLI::App& command, RunOptions& options) {
       .add_flag_callback(
           "--strict", [&options] { options.strict = true; }, "Hints count as faults")
       ->excludes(noHints);
+  addAllowWrite(command, options.allowWrite);
   command
       .add_option("--report", options.report,
                   "Write the final table to this file, as JSON; - is standard output, which then has no other table")
@@ -88,14 +90,14 @@ std::function<int()> declareRun(CLI::App& command) {
 namespace tidemark {
 
 Subcommand runCommand() {
-  return {
-      "run", "Run the scripts of projects on a map, without the game",
-      "Example:\n  tidemark run examples/harbour --seconds 30 --report result.json\n\nThe working directory of the "
-      "run is the folder of the first project. The log goes to standard error, the\nfinal table to standard output. "
-      "Ctrl-C ends the run early, with its table.\nExit codes: 0 fine, 1 a script faulted or has a line that is "
-      "dropped, 2 wrong usage, 3 an "
-      "input cannot be loaded or the report not be written.",
-      run::declareRun};
+  return {"run", "Run the scripts of projects on a map, without the game",
+          "Example:\n  tidemark run examples/harbour --seconds 30 --report result.json\n\nThe working directory of the "
+          "run is the folder of the first project; scripts write nowhere else. The log goes to standard error, "
+          "the\nfinal table to standard output. "
+          "Ctrl-C ends the run early, with its table.\nExit codes: 0 fine, 1 a script faulted or has a line that is "
+          "dropped, 2 wrong usage, 3 an "
+          "input cannot be loaded or the report not be written.",
+          run::declareRun};
 }
 
 }

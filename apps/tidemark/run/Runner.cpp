@@ -4,12 +4,14 @@
 #include "apps/tidemark/OutputFile.h"
 #include "apps/tidemark/Subcommand.h"
 #include "apps/tidemark/platform/Platform.h"
+#include "apps/tidemark/platform/WriteLimit.h"
 #include "apps/tidemark/run/LogPrinter.h"
 #include "apps/tidemark/run/RunReport.h"
 #include "apps/tidemark/session/Installation.h"
 #include "apps/tidemark/session/Languages.h"
 #include "apps/tidemark/session/Maps.h"
 #include "apps/tidemark/session/ModuleAccess.h"
+#include "apps/tidemark/session/WritableFolders.h"
 
 #include "em5/game/HostSession.h"
 #include "qsf/Qsf.h"
@@ -96,10 +98,11 @@ void requireConfigurations(const script::tooling::Tooling& tooling) {
     throw std::runtime_error(fmt::format("{}", fmt::join(unreadable, "\n")));
 }
 
-RunReport play(const RunOptions& options) {
+RunReport play(const RunOptions& options, const std::vector<std::string>& writable) {
   const LoadedModule module;
   module.tooling().switchHints(options.hints);
   em5::HostSession session(toHostOptions(options));
+  limitHostWrites(writable);
   const auto format =
       options.logFormat == RunOptions::LogFormat::TEXT ? LogPrinter::Format::TEXT : LogPrinter::Format::JSON_LINES;
   const LogPrinter log(session.getQsf().getLogSystem(), format,
@@ -133,7 +136,9 @@ bool isFaulty(const RunReport& report, const RunOptions& options) {
 
 int runProjects(const RunOptions& options) {
   OutputFile file("--report", options.report);
-  const RunReport report = play(options);
+  const std::vector<std::string> writable = writableFolders(options.projects.front(), options.allowWrite);
+  RunReport report;
+  platform::callWithWriteLimit(writable, [&] { report = play(options, writable); });
   if (!file.isStandardOutput()) fmt::print("{}", toText(report));
   if (file.isWanted()) file.write(toJson(report));
   return isFaulty(report, options) ? EXIT_FAULT : EXIT_FINE;

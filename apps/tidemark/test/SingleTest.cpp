@@ -1,5 +1,7 @@
 #include "apps/tidemark/test/SingleTest.h"
 
+#include "apps/tidemark/platform/WriteLimit.h"
+#include "apps/tidemark/session/WritableFolders.h"
 #include "apps/tidemark/test/Discovery.h"
 #include "apps/tidemark/test/TestResult.h"
 #include "apps/tidemark/test/TestSession.h"
@@ -16,23 +18,27 @@ namespace {
 
 namespace fs = std::filesystem;
 
-Outcome runPlan(const TestPlan& plan, const fs::path& folder) {
+Outcome runPlan(const TestPlan& plan, const fs::path& folder, const std::vector<std::string>& allowWrite) {
   const std::string projects = (folder / "projects").string();
   writeProjects(plan, projects);
-  TestSession session(plan, projects);
-  fs::current_path(projectDirectory(plan.projects.front(), projects));
+  const std::string workingDirectory = projectDirectory(plan.projects.front(), projects);
+  const std::vector<std::string> writable = writableFolders(workingDirectory, allowWrite);
+  TestSession session(plan, projects, writable);
+  fs::current_path(workingDirectory);
   std::ofstream log(folder / LOG_FILE, std::ios::binary);
   session.setLogEcho([&log](const qsf::LogSystem::Record& record) {
     log << qsf::LogSystem::getSeverityName(record.severity) << ' ' << record.message << '\n' << std::flush;
   });
-  return session.run();
+  Outcome outcome;
+  platform::callWithWriteLimit(writable, [&] { outcome = session.run(); });
+  return outcome;
 }
 
-Outcome runFile(const std::string& file, const fs::path& folder) {
+Outcome runFile(const std::string& file, const fs::path& folder, const std::vector<std::string>& allowWrite) {
   Outcome outcome;
   try {
     const PlanResult result = readPlan(file, readFile(file));
-    if (result.faults.empty()) return runPlan(result.plan, folder);
+    if (result.faults.empty()) return runPlan(result.plan, folder, allowWrite);
     for (const PlanFault& fault : result.faults)
       outcome.failures.push_back({fault.line, Failure::Kind::ERROR, fault.text, "", {}});
   } catch (const std::exception& fault) {
@@ -43,9 +49,9 @@ Outcome runFile(const std::string& file, const fs::path& folder) {
 
 }
 
-void runSingleTest(const std::string& file, const std::string& folder) {
+void runSingleTest(const std::string& file, const std::string& folder, const std::vector<std::string>& allowWrite) {
   const fs::path target = fs::absolute(folder);
-  const Outcome outcome = runFile(file, target);
+  const Outcome outcome = runFile(file, target, allowWrite);
   std::ofstream result(target / RESULT_FILE, std::ios::binary);
   result << encodeOutcome(outcome);
   if (!result.flush()) throw std::runtime_error(fmt::format("{}: can't be written", (target / RESULT_FILE).string()));

@@ -5,6 +5,7 @@
 #include "apps/tidemark/Subcommand.h"
 #include "apps/tidemark/platform/Platform.h"
 #include "apps/tidemark/session/Installation.h"
+#include "apps/tidemark/session/WritableFolders.h"
 #include "apps/tidemark/test/Discovery.h"
 #include "apps/tidemark/test/SingleTest.h"
 #include "apps/tidemark/test/TestScheduler.h"
@@ -27,6 +28,7 @@ struct Options {
   unsigned int jobs = std::max(1u, std::thread::hardware_concurrency());
   double limit = 60; ///< seconds of real time
   bool strict = false;
+  std::vector<std::string> allowWrite;
 };
 
 std::string colour(std::string_view code, const std::string& text) {
@@ -73,8 +75,8 @@ int runTests(const Options& options) {
   // Results in XML have standard output for themselves.
   std::FILE* const output = junit.isStandardOutput() ? stderr : stdout;
   platform::catchInterrupts();
-  TestScheduler scheduler(
-      {options.jobs, std::chrono::milliseconds(static_cast<std::int64_t>(options.limit * 1000)), options.strict});
+  TestScheduler scheduler({options.jobs, std::chrono::milliseconds(static_cast<std::int64_t>(options.limit * 1000)),
+                           options.strict, options.allowWrite});
   std::size_t done = 0;
   const std::vector<TestResult> results = scheduler.run(files, [&](const TestResult& result) {
     printResult(output, result);
@@ -110,18 +112,21 @@ std::function<int()> declareTest(CLI::App& command) {
       ->capture_default_str()
       ->check(numberFrom(0.1, 86400.0))
       ->type_name("S");
+  addAllowWrite(command, options->allowWrite);
   return [options] { return runTests(*options); };
 }
 
 std::function<int()> declareSingleTest(CLI::App& command) {
   struct Single {
     std::string file, folder;
+    std::vector<std::string> allowWrite;
   };
   auto single = std::make_shared<Single>();
   command.add_option("file", single->file)->required();
   command.add_option("folder", single->folder)->required();
+  addAllowWrite(command, single->allowWrite);
   return [single] {
-    runSingleTest(single->file, single->folder);
+    runSingleTest(single->file, single->folder, single->allowWrite);
     return EXIT_FINE;
   };
 }

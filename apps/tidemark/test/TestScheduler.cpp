@@ -101,9 +101,10 @@ void TestScheduler::start(std::size_t index, const std::string& file) {
   fs::create_directory(folder);
   mSlots[index].result.file = file;
   const std::string output = (fs::path(folder) / OUTPUT_FILE).string();
-  mRunning.push_back({index, folder,
-                      platform::ChildProcess::start({platform::executablePath(), "single-test", file, folder}, output),
-                      Clock::now()});
+  std::vector<std::string> command = {platform::executablePath(), "single-test", file, folder};
+  for (const std::string& allowed : mOptions.allowWrite)
+    command.insert(command.end(), {"--allow-write", allowed});
+  mRunning.push_back({index, folder, platform::ChildProcess::start(command, output), Clock::now()});
 }
 
 // Whether the test has ended.

@@ -3,6 +3,7 @@
 #include "apps/tidemark/session/Installation.h"
 #include "apps/tidemark/session/Maps.h"
 #include "apps/tidemark/session/ModuleAccess.h"
+#include "apps/tidemark/session/WritableFolders.h"
 #include "apps/tidemark/test/project/ProjectWriter.h"
 #include "apps/tidemark/test/steps/ScriptScope.h"
 
@@ -25,8 +26,9 @@ struct Aborted {};
 
 }
 
-TestSession::TestSession(const TestPlan& plan, std::string projects)
-    : mPlan(plan), mProjects(std::move(projects)), mBaseProject(baseProjectDirectory()) {}
+TestSession::TestSession(const TestPlan& plan, std::string projects, std::vector<std::string> writable)
+    : mPlan(plan), mProjects(std::move(projects)), mBaseProject(baseProjectDirectory()),
+      mWritable(std::move(writable)) {}
 
 TestSession::~TestSession() = default;
 
@@ -74,6 +76,7 @@ void TestSession::startHost() {
   mModule = std::make_unique<LoadedModule>();
   tooling().switchHints(true);
   mHost = std::make_unique<em5::HostSession>(options);
+  limitHostWrites(mWritable);
   mHost->getQsf().getLogSystem().addListener([this](const qsf::LogSystem::Record& record) { keepLine(record); });
   if (mPlan.gamepad) mHost->getQsf().getInputSystem().getOisManager().plugIn(*mPlan.gamepad);
   mHost->mountBaseProject(mBaseProject);

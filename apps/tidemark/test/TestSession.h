@@ -52,9 +52,9 @@ struct Outcome {
 /// its own, with the folder of the project `test` as working directory.
 class TestSession {
 public:
-  /// `projects` holds the installed projects of the plan, by name. Throws std::runtime_error if the base project isn't
-  /// found.
-  TestSession(const TestPlan& plan, std::string projects);
+  /// `projects` holds the installed projects of the plan, by name; scripts may write below the folders `writable` only.
+  /// Throws std::runtime_error if the base project isn't found.
+  TestSession(const TestPlan& plan, std::string projects, std::vector<std::string> writable);
   ~TestSession();
   TestSession(const TestSession&) = delete;
   TestSession& operator=(const TestSession&) = delete;
@@ -96,6 +96,7 @@ private:
   const TestPlan& mPlan;
   std::string mProjects;
   std::string mBaseProject;
+  std::vector<std::string> mWritable;
   LogBook mLog;
   std::function<void(const qsf::LogSystem::Record&)> mLogEcho;
   std::unique_ptr<LoadedModule> mModule; ///< outlives the host

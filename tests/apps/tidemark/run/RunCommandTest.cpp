@@ -256,6 +256,50 @@ TEST_F(RunCommand, AListOfScriptsThatCannotBeReadCannotBeLoaded) {
   EXPECT_NE(outcome.output.find("\ntidemark run: " + file), std::string::npos) << outcome.output;
 }
 
+class WritingScripts : public Program {
+protected:
+  Outcome runWriting(const std::string& path, std::vector<std::string> options = {}) const {
+    writeProject("InitNewTrigger(\"t\", true, false);\nInitEffects();\nWriteJson(\"r\", \"inside.json\");\n"
+                 "WriteJson(\"r\", \"" +
+                 path + "\");\n");
+    fs::create_directories(outside());
+    options.insert(options.begin(), {"run", folder(), "--seconds", "0.1"});
+    return run(options);
+  }
+  std::string outside() const { return folder() + ".outside"; }
+  ~WritingScripts() override = default;
+};
+
+TEST_F(WritingScripts, WriteBelowTheWorkingDirectoryOnly) {
+  const Outcome outcome = runWriting("../input.outside/x.json");
+  EXPECT_EQ(outcome.code, 1) << outcome.output;
+  EXPECT_NE(outcome.output.find("ERROR   Fault in p/main.script, line 4, WriteJson: ../input.outside/x.json can't be "
+                                "written: nothing may be written to " +
+                                fs::canonical(outside()).string() +
+                                "/x.json; scripts write below the working "
+                                "directory only, unless --allow-write DIR names a folder more    main.script:4 t"),
+            std::string::npos)
+      << outcome.output;
+  EXPECT_TRUE(fs::exists(folder() + "/inside.json"));
+  EXPECT_FALSE(fs::exists(outside() + "/x.json"));
+}
+
+TEST_F(WritingScripts, WriteInFoldersThatAreAllowed) {
+  fs::create_directories(outside());
+  const Outcome outcome =
+      runWriting("../input.outside/x.json", {"--allow-write", "/nonsense", "--allow-write", outside()});
+  EXPECT_EQ(outcome.code, 2) << "each folder must be there";
+  EXPECT_NE(outcome.output.find("there is no folder '/nonsense'"), std::string::npos) << outcome.output;
+  EXPECT_EQ(runWriting("../input.outside/x.json", {"--allow-write", folder(), "--allow-write", outside()}).code, 0);
+  EXPECT_EQ(readAll(outside() + "/x.json"), "{\n}\n");
+}
+
+TEST_F(WritingScripts, TheProgramsOwnReportGoesAnywhere) {
+  fs::create_directories(outside());
+  EXPECT_EQ(runWriting("x.json", {"--report", outside() + "/report.json"}).code, 0);
+  EXPECT_NE(readAll(outside() + "/report.json").find("\"frames\""), std::string::npos);
+}
+
 }
 
 }

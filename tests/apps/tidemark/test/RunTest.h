@@ -19,7 +19,7 @@ inline std::vector<Failure> runWith(const std::string& text, const Action& look)
   result.plan.steps.push_back(std::move(step));
   const std::string folder = platform::makeTemporaryDirectory();
   writeProjects(result.plan, folder);
-  std::vector<Failure> failures = TestSession(result.plan, folder).run().failures;
+  std::vector<Failure> failures = TestSession(result.plan, folder, {folder}).run().failures;
   std::filesystem::remove_all(folder);
   return failures;
 }

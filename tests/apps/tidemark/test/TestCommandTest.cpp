@@ -176,6 +176,25 @@ TEST_F(TestCommand, FailedTestsLeaveNothingBehind) {
   EXPECT_TRUE(fs::is_empty(temporary));
 }
 
+TEST_F(TestCommand, ScriptsOfTestsWriteWhereTheyAreAllowedTo) {
+  const std::string target = folder() + "/target";
+  fs::create_directories(target);
+  write("a.script", "$ @expect file " + target +
+                        "/x.json exists\nInitNewTrigger(\"t\", true, false);\nInitEffects();\n"
+                        "WriteJson(\"r\", \"" +
+                        target + "/x.json\");\n");
+  EXPECT_EQ(run({"test", folder()}).code, 1);
+  EXPECT_FALSE(fs::exists(target + "/x.json"));
+  const Outcome outcome = run({"test", folder(), "--allow-write", target});
+  EXPECT_EQ(outcome.output, "1 passed, 0 failed\n");
+  EXPECT_TRUE(fs::exists(target + "/x.json"));
+}
+
+TEST_F(TestCommand, ACostlyPatternCostsItsTestOnly) {
+  expectFailure("$ @file f\n" + std::string(30'000, 'a') + "\n$ @end\n$ @expect file f line 1 like (a+)+b\n",
+                {"failing.script:4: expectation failed", "a line of 30000 characters; patterns compare 20000 at most"});
+}
+
 }
 
 }
