@@ -13,7 +13,11 @@
 #include "qsf/Qsf.h"
 #include "qsf/message/MessageSystem.h"
 
+#include <boost/lexical_cast/try_lexical_convert.hpp>
 #include <boost/property_tree/ptree.hpp>
+
+#include <algorithm>
+#include <iterator>
 
 namespace script::tooling {
 
@@ -131,6 +135,27 @@ template <class T> bool assign(Store<T>* store, const std::string& name, T value
 }
 
 /// The tools' view of the living manager, whichever it is at the time of a call.
+/// The child of that key, or the element of that number; null if there is none.
+const boost::property_tree::ptree* findChild(const boost::property_tree::ptree& tree, const std::string& key) {
+  if (const auto found = tree.find(key); found != tree.not_found()) return &found->second;
+  std::size_t index = 0;
+  if (!boost::conversion::try_lexical_convert(key, index) || index >= tree.size()) return nullptr;
+  const auto& element = *std::next(tree.begin(), static_cast<std::ptrdiff_t>(index));
+  return element.first.empty() ? &element.second : nullptr; // elements have no key
+}
+
+/// The place in a script's JSON variable; null if there is none, or the script doesn't run.
+const boost::property_tree::ptree* findJson(std::size_t script, const std::string& name, const std::string& path) {
+  const ScenarioHandler* handler = findHandler(script);
+  const auto* tree = findValue(handler ? &handler->getJsonStore().entries : nullptr, name);
+  for (std::size_t begin = 0; tree && begin < path.size();) {
+    const std::size_t end = std::min(path.find('.', begin), path.size());
+    tree = findChild(*tree, path.substr(begin, end - begin));
+    begin = end + 1;
+  }
+  return tree;
+}
+
 class ManagerTooling : public Tooling {
 public:
   std::vector<CatalogueEntry> getCatalogue() const override { return describeCatalogue(); }
@@ -226,11 +251,13 @@ public:
   }
   std::optional<std::string> getJson(std::size_t script, const std::string& name,
                                      const std::string& path) const override {
-    const ScenarioHandler* handler = findHandler(script);
-    const auto* tree = findValue(handler ? &handler->getJsonStore().entries : nullptr, name);
-    if (!tree) return std::nullopt;
-    const auto value = tree->get_optional<std::string>(path);
-    return value ? std::optional<std::string>(*value) : std::nullopt;
+    const boost::property_tree::ptree* value = findJson(script, name, path);
+    return value ? std::optional<std::string>(value->data()) : std::nullopt;
+  }
+  std::optional<std::size_t> getJsonSize(std::size_t script, const std::string& name,
+                                         const std::string& path) const override {
+    const boost::property_tree::ptree* value = findJson(script, name, path);
+    return value ? std::optional<std::size_t>(value->size()) : std::nullopt;
   }
 
   bool setVariable(std::optional<std::size_t> script, const std::string& name, float value) override {

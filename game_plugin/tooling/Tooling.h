@@ -122,9 +122,13 @@ public:
                                                             const std::string& name) const = 0;
   virtual std::optional<bool> getBool(std::size_t script, const std::string& name) const = 0;
   virtual std::optional<std::vector<std::string>> getStringList(std::size_t script, const std::string& name) const = 0;
-  /// Value at a path with `.` as separator.
+  /// Value at a path with `.` as separator; of two children of one key the first, elements of an array by their number
+  /// from 0.
   virtual std::optional<std::string> getJson(std::size_t script, const std::string& name,
                                              const std::string& path) const = 0;
+  /// Number of children there; of the whole variable for an empty path.
+  virtual std::optional<std::size_t> getJsonSize(std::size_t script, const std::string& name,
+                                                 const std::string& path) const = 0;
 
   /// Set as a script would, in the script's local stores or, for a name with the global mark, in the global ones, which
   /// needs no script. False if the script doesn't run, or there is no manager.

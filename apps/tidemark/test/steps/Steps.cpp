@@ -20,6 +20,7 @@ namespace tidemark::test {
 #define EXPECTATION_THEMES(THEME)                                                                                      \
   THEME(Log)                                                                                                           \
   THEME(Hint)                                                                                                          \
+  THEME(File)                                                                                                          \
   THEME(Store)                                                                                                         \
   THEME(Trigger)                                                                                                       \
   THEME(World)                                                                                                         \
@@ -88,6 +89,12 @@ Times takeTimes(WordCursor& words) {
   const std::uint64_t count = words.takeId("the number of times");
   words.require("times");
   return {count};
+}
+
+std::string takeJsonPath(WordCursor& words) {
+  const Word* next = words.peek(1);
+  const bool isSize = words.peekKeyword("size") && next && !next->quoted && parseId(next->text);
+  return isSize ? std::string() : words.take("a path");
 }
 
 std::optional<double> takeWithin(WordCursor& words) {

@@ -29,6 +29,9 @@ Times takeTimes(WordCursor& words);
 /// `[vendor TEXT] [buttons N] [axes N]`.
 qsf::GamepadModel takeGamepadModel(WordCursor& words);
 
+/// A path in JSON; none in front of `size N` is the empty one.
+std::string takeJsonPath(WordCursor& words);
+
 /// `within EPS` if it is next. Throws for a negative one.
 std::optional<double> takeWithin(WordCursor& words);
 

@@ -140,9 +140,37 @@ Expectation expectStringList(WordCursor& words, const ScriptScope& scope) {
   return expectation;
 }
 
+Expectation expectExistingJson(const ScriptScope& scope, const std::string& name) {
+  Expectation expectation;
+  expectation.check = [=](TestSession& session) {
+    (void)findEntry(session, scope, StoreKind::JSONS, name); // throws if it is missing
+    return Verdict{true, "it exists", {}};
+  };
+  return expectation;
+}
+
+Expectation expectJsonSize(WordCursor& words, const ScriptScope& scope, const std::string& name,
+                           const std::string& path) {
+  words.takeIf("==");
+  const std::uint64_t size = words.takeId("the number of children");
+  Expectation expectation;
+  expectation.check = [=](TestSession& session) {
+    const Entry entry = findEntry(session, scope, StoreKind::JSONS, name);
+    const auto found = session.tooling().getJsonSize(entry.store.script, entry.name, path);
+    if (!found) throw NotThere(fmt::format("nothing at '{}'", path));
+    return Verdict{*found == size, fmt::format("{} children", *found), {}};
+  };
+  return expectation;
+}
+
 Expectation expectJson(WordCursor& words, const ScriptScope& scope) {
   const std::string name = words.take("the JSON variable's name");
-  const std::string path = words.take("a path");
+  if (words.peekKeyword("exists") && words.remaining() == 1) {
+    words.require("exists");
+    return expectExistingJson(scope, name);
+  }
+  const std::string path = takeJsonPath(words);
+  if (words.takeIf("size")) return expectJsonSize(words, scope, name, path);
   words.require("==");
   const std::string expected = words.take("the expected text");
   Expectation expectation;
@@ -156,12 +184,14 @@ Expectation expectJson(WordCursor& words, const ScriptScope& scope) {
 }
 
 StoreKind takeKind(WordCursor& words) {
-  const std::string word = words.take("variable, string, bool or list");
+  const std::string word = words.take("variable, string, bool, list, strings or json");
   if (word == "variable") return StoreKind::VARIABLES;
   if (word == "string") return StoreKind::STRINGS;
   if (word == "bool") return StoreKind::BOOLS;
   if (word == "list") return StoreKind::LISTS;
-  throw DirectiveError(fmt::format("'{}' behind 'no' is none of variable, string, bool, list", word));
+  if (word == "strings") return StoreKind::STRING_LISTS;
+  if (word == "json") return StoreKind::JSONS;
+  throw DirectiveError(fmt::format("'{}' behind 'no' is none of variable, string, bool, list, strings, json", word));
 }
 
 Expectation expectNoEntry(WordCursor& words, const ScriptScope& scope) {
@@ -177,12 +207,13 @@ Expectation expectNoEntry(WordCursor& words, const ScriptScope& scope) {
 
 Expectation expectStore(WordCursor& words, const ScriptScope& scope) {
   const std::string word = words.take("a store's name");
-  const StoreKind kind =
-      word == "variables" ? StoreKind::VARIABLES
-      : word == "strings" ? StoreKind::STRINGS
-      : word == "bools"   ? StoreKind::BOOLS
-      : word == "lists"   ? StoreKind::LISTS
-                          : throw DirectiveError(fmt::format("'{}' is none of variables, strings, bools, lists", word));
+  static const std::vector<std::pair<std::string_view, StoreKind>> STORES = {
+      {"variables", StoreKind::VARIABLES}, {"strings", StoreKind::STRINGS}, {"bools", StoreKind::BOOLS},
+      {"lists", StoreKind::LISTS},         {"jsons", StoreKind::JSONS},     {"stringlists", StoreKind::STRING_LISTS}};
+  const auto store = std::find_if(STORES.begin(), STORES.end(), [&](const auto& row) { return row.first == word; });
+  if (store == STORES.end())
+    throw DirectiveError(fmt::format("'{}' is none of variables, strings, bools, lists, jsons, stringlists", word));
+  const StoreKind kind = store->second;
   words.require("==");
   const std::vector<std::string> expected = words.takeRest();
   Expectation expectation;
