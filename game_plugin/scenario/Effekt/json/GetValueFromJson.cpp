@@ -24,15 +24,14 @@ static constexpr Word<JsonType> TYPES[] = {{"std::string", JsonType::TEXT},
 
 struct GetValueFromJsonEffect : DefaultEffect {
   static constexpr std::string_view ODDITIES[] = {
-      "Any type but std::string, bool and uint64 is a number, which is stored as a float variable; a bool goes to the "
-      "bool variables, where no number argument sees it.",
-      "The values of a list go to the list that is named like the Variable, not to SaveVariable, which has to be given "
-      "all the same.",
+      "Any type but std::string, bool and uint64 is a number.",
+      "A bool goes to the bool variables, where no number argument sees it.",
+      "A list's values go to the list that is named like the Variable; SaveVariable has to be given all the same.",
       "A string list keeps what it holds, an entity list is emptied first.",
       "Of a list's elements that are no ids the log tells, and they are left out.",
       "A list is read as std::string or uint64; with any other type nothing happens.",
-      "A single value that is missing or doesn't convert is empty, false, 0 or the uninitialised id; a list that is "
-      "missing ends this tick of the script.",
+      "A single value that is missing or doesn't convert is empty, false, 0 or the uninitialised id.",
+      "A list that is missing ends this tick of the script.",
   };
 
   Argument root;
