@@ -31,7 +31,7 @@ namespace script {
   ENTRY(ClearActionPlan)                                                                                               \
   ENTRY(RemoveAction)                                                                                                  \
   ENTRY(PlayLocalSound)                                                                                                \
-  ENTRY(PlayGlobalSound)\
+  ENTRY(PlayGlobalSound)                                                                                               \
   ENTRY(CreateJsonRoot)                                                                                                \
   ENTRY(WriteJson)                                                                                                     \
   ENTRY(AddValueToRoot)                                                                                                \
