@@ -1,9 +1,12 @@
 #include "em5/game/Game.h"
 #include "game_plugin/ModuleFixture.h"
+#include "game_plugin/component/MP_LOG_COMPONENT.h"
 #include "game_plugin/scenario/tick/ScenarioConditions.h"
 #include "game_plugin/scenario/tick/ScenarioEffects.h"
 #include "qsf/base/WritePermission.h"
 #include "qsf/component/TransformComponent.h"
+#include "qsf/input/InputSystem.h"
+#include "qsf/input/OisManager.h"
 #include "qsf/prototype/PrototypeManager.h"
 
 #include <random>
@@ -66,6 +69,11 @@ constexpr const char* ARGUMENTS[] = {"",
                                      "ParentId",
                                      "Layer 1",
                                      "Active",
+                                     "Arm",
+                                     "112",
+                                     "North",
+                                     "script::MP_LOG_COMPONENT",
+                                     "Incoming Message",
                                      "Burning",
                                      "TargetPosition",
                                      "LifeEnergy",
@@ -112,7 +120,7 @@ protected:
   static void populate() {
     std::uint64_t id = 100;
     for (const char* prefab : {"fire_engine", "firefighter", "door", "tree", "sensor", "barrel", "civilian", "gangster",
-                               "house", "axe", "helicopter", "marker"}) {
+                               "house", "axe", "helicopter", "marker", "ladder"}) {
       qsf::Entity* entity = qsf::getMainMap().createObjectByLocalPrefabAssetId(
           qsf::StringHash(std::string("em5/prefab/test/") + prefab), id++);
       entity->getComponent<qsf::TransformComponent>()->setPosition(glm::vec3(static_cast<float>(id % 7), 0, 0));
@@ -124,7 +132,14 @@ protected:
 
 TEST_P(CatalogueRobustnessTest, NothingThatAScriptSaysEndsTheProcess) {
   addScript("main", "MAP_STARTUP_SIMULATION", randomScript());
-  start();
+  MP_LOG_COMPONENT::setFolder(folder());
+  load();
+  qsf::OisManager& gamepad = session->getQsf().getInputSystem().getOisManager();
+  gamepad.plugIn({.vendor = "", .buttons = 2, .axes = 2});
+  gamepad.setButton(0, true);
+  gamepad.setDirection(1);
+  MapScriptManager::replace(true); // reads the script for the gamepad
+  session->startGame(EMPTY_MAP);
   qsf::UniqueInstance<qsf::WritePermission>()->limitTo({}, "this test leaves nothing behind");
   populate();
   qsf::UniqueInstance<em5::Game>()->getSelectionManager()->setSelection({100, 101});

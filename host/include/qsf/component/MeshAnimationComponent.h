@@ -1,10 +1,8 @@
 #pragma once
 #include "qsf/asset/AssetProxy.h"
+#include "qsf/component/BoneState.h"
 #include "qsf/component/Component.h"
 #include "qsf/job/JobProxy.h"
-
-#include <glm/glm.hpp>
-#include <glm/gtc/quaternion.hpp>
 
 #include <memory>
 #include <optional>
@@ -17,15 +15,6 @@ class Bone;
 namespace qsf {
 
 class SkeletonPose;
-
-/// How a bone stands, relative to its parent.
-struct BoneState {
-  glm::vec3 position;
-  glm::quat rotation;
-  glm::vec3 scale;
-  bool manual;    ///< moved by hand; animations leave it
-  float turnedBy; ///< degrees between its rest pose and now, 0 to 180
-};
 
 /// One run of an animation. Shared between the component that plays it and those who watch it.
 class QSF_API MeshAnimationChannel {

@@ -9,8 +9,6 @@
 #include "qsf/skeleton/SkeletonManager.h"
 #include "qsf/skeleton/SkeletonPose.h"
 
-#include <OgreBone.h>
-
 #include <stdexcept>
 
 namespace qsf {
@@ -36,16 +34,6 @@ Time readLength(const BaseAsset& asset) {
     logMessage(LogSystem::WARNING, std::string(fault.what()) + "; the animation is taken to last a second");
     return DEFAULT_LENGTH;
   }
-}
-
-glm::vec3 toGlm(const Ogre::Vector3& vector) { return {vector.x, vector.y, vector.z}; }
-glm::quat toGlm(const Ogre::Quaternion& rotation) { return {rotation.w, rotation.x, rotation.y, rotation.z}; }
-
-/// Free of axis and sign, and of the lengths of the rotations.
-float degreesBetween(const glm::quat& from, const glm::quat& to) {
-  const glm::dquat turn = glm::conjugate(glm::dquat(from)) * glm::dquat(to);
-  return static_cast<float>(
-      glm::degrees(2 * std::atan2(glm::length(glm::dvec3(turn.x, turn.y, turn.z)), std::abs(turn.w))));
 }
 
 void recordPlay(const RecordedOperation& operation, const AssetProxy& animation, bool looped, bool reverse,
@@ -194,25 +182,19 @@ void MeshAnimationComponent::showPose() {
 }
 
 Ogre::Bone* MeshAnimationComponent::manualBoneControl(const std::string& boneName, bool manual, bool* wasManual) {
-  const SkeletonPose* pose = findPose();
-  Ogre::Bone* bone = pose ? pose->findBone(boneName) : nullptr;
-  if (wasManual) *wasManual = bone && bone->isManuallyControlled();
-  if (!bone) return nullptr;
-  bone->setManuallyControlled(manual);
+  const std::optional<BoneState> before = getBoneState(boneName);
+  if (wasManual) *wasManual = before && before->manual;
+  if (!before) return nullptr;
   if (!manual) {
     mPoseIsStale = true;
     updateRegistration();
   }
-  return bone;
+  return mPose->setManual(boneName, manual);
 }
 
 std::optional<BoneState> MeshAnimationComponent::getBoneState(const std::string& boneName) {
   const SkeletonPose* pose = findPose();
-  const Ogre::Bone* bone = pose ? pose->findBone(boneName) : nullptr;
-  if (!bone) return std::nullopt;
-  const glm::quat rotation = toGlm(bone->getOrientation());
-  return BoneState{toGlm(bone->getPosition()), rotation, toGlm(bone->getScale()), bone->isManuallyControlled(),
-                   degreesBetween(toGlm(bone->getInitialOrientation()), rotation)};
+  return pose ? pose->getState(boneName) : std::nullopt;
 }
 
 }

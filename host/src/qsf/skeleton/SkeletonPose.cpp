@@ -6,6 +6,20 @@
 
 namespace qsf {
 
+namespace {
+
+glm::vec3 toGlm(const Ogre::Vector3& vector) { return {vector.x, vector.y, vector.z}; }
+glm::quat toGlm(const Ogre::Quaternion& rotation) { return {rotation.w, rotation.x, rotation.y, rotation.z}; }
+
+/// Free of axis and sign, and of the lengths of the rotations.
+float degreesBetween(const glm::quat& from, const glm::quat& to) {
+  const glm::dquat turn = glm::conjugate(glm::dquat(from)) * glm::dquat(to);
+  return static_cast<float>(
+      glm::degrees(2 * std::atan2(glm::length(glm::dvec3(turn.x, turn.y, turn.z)), std::abs(turn.w))));
+}
+
+}
+
 SkeletonPose::SkeletonPose(std::shared_ptr<Ogre::Skeleton> skeleton)
     : mSkeleton(std::move(skeleton)), mInstance(std::make_unique<Ogre::SkeletonInstance>(mSkeleton)) {
   mInstance->load();
@@ -14,8 +28,19 @@ SkeletonPose::SkeletonPose(std::shared_ptr<Ogre::Skeleton> skeleton)
 
 SkeletonPose::~SkeletonPose() = default;
 
-Ogre::Bone* SkeletonPose::findBone(const std::string& name) const {
-  return mInstance->hasBone(name) ? mInstance->getBone(name) : nullptr;
+std::optional<BoneState> SkeletonPose::getState(const std::string& name) const {
+  if (!mInstance->hasBone(name)) return std::nullopt;
+  const Ogre::Bone& bone = *mInstance->getBone(name);
+  const glm::quat rotation = toGlm(bone.getOrientation());
+  return BoneState{toGlm(bone.getPosition()), rotation, toGlm(bone.getScale()), bone.isManuallyControlled(),
+                   degreesBetween(toGlm(bone.getInitialOrientation()), rotation)};
+}
+
+Ogre::Bone* SkeletonPose::setManual(const std::string& name, bool manual) {
+  if (!mInstance->hasBone(name)) return nullptr;
+  Ogre::Bone* bone = mInstance->getBone(name);
+  bone->setManuallyControlled(manual);
+  return bone;
 }
 
 void SkeletonPose::show(const std::string& animation, float offset) {

@@ -1,5 +1,8 @@
 #pragma once
+#include "qsf/component/BoneState.h"
+
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -19,8 +22,10 @@ public:
   SkeletonPose(const SkeletonPose&) = delete;
   SkeletonPose& operator=(const SkeletonPose&) = delete;
 
-  /// Null if the skeleton has none of that name.
-  Ogre::Bone* findBone(const std::string& name) const;
+  /// Nothing if the skeleton has none of that name.
+  std::optional<BoneState> getState(const std::string& bone) const;
+  /// Takes the bone under manual control, as it stands, or gives it back. Null if the skeleton has none of that name.
+  Ogre::Bone* setManual(const std::string& bone, bool manual);
   /// Moves the bones that nobody moves by hand to where the animation has them at that part (0 to 1) of its length, or
   /// to their rest pose if the skeleton has no such animation. It is found by its whole name, else by what stands
   /// behind the last slash.
