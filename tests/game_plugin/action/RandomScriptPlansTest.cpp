@@ -12,6 +12,7 @@
 #include "qsf/job/JobManagers.h"
 #include "qsf/log/FaultCounter.h"
 #include "qsf/map/Map.h"
+#include "qsf/message/MessageSystem.h"
 #include "tests/support/Paths.h"
 
 #include <gtest/gtest.h>
@@ -64,6 +65,9 @@ public:
     return true;
   }
   std::uint64_t getFaultCount() { return mHost.getFaultCounter().getCount(); }
+  std::uint64_t getMessageCount() {
+    return mHost.getMessageSystem().getEmittedCount(script::UseEquipmentAction::MESSAGE);
+  }
 
 private:
   static constexpr std::uint64_t FIRST_ID = 100;
@@ -151,6 +155,7 @@ private:
 TEST(RandomScriptPlans, EndOrWaitAndLeaveNothingBehind) {
   setenv("RC_PARAMS", "seed=20250102 max_success=150 max_size=100", 0);
   const std::size_t living = qsf::Action::getNumberOfLiving();
+  std::uint64_t messages = 0;
   EXPECT_TRUE(rc::check("random plans of the module's actions end or wait", [&](const std::vector<Step>& steps) {
     {
       RandomScriptWorld world;
@@ -159,9 +164,11 @@ TEST(RandomScriptPlans, EndOrWaitAndLeaveNothingBehind) {
       world.finish();
       RC_ASSERT(world.isOver());
       RC_ASSERT(world.getFaultCount() == 0u);
+      messages += world.getMessageCount();
     }
     RC_ASSERT(qsf::Action::getNumberOfLiving() == living);
   }));
+  EXPECT_GT(messages, 100u) << "hardly anything was done";
 }
 
 }
