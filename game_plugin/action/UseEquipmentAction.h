@@ -1,4 +1,6 @@
 #pragma once
+#include "game_plugin/scenario/messages/MessageNames.h"
+
 #include "em5/map/AnimationHelper.h"
 #include "qsf/action/Action.h"
 #include "qsf/base/Ids.h"
@@ -22,7 +24,7 @@ class UseEquipmentAction : public qsf::Action {
   CAMP_RTTI()
 public:
   static constexpr qsf::StringHash ACTION_ID{"script::UseEquipmentAction"};
-  static constexpr const char* MESSAGE = "script::UseEquipment";
+  static constexpr const char* MESSAGE = messages::USE_EQUIPMENT;
   static void declareCamp();
 
   /// Local asset name, and how often it is still to be played.

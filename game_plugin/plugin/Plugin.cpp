@@ -1,11 +1,11 @@
 #include "game_plugin/plugin/Plugin.h"
 
 #include "game_plugin/action/SetCampPropertyAction.h"
-#include "game_plugin/action/UseEquipmentAction.h"
 #include "game_plugin/plugin/Version.h"
 #include "game_plugin/scenario/Log.h"
 #include "game_plugin/scenario/lifecycle/FiringLedger.h"
 #include "game_plugin/scenario/lifecycle/MapScriptManager.h"
+#include "game_plugin/scenario/messages/MessageNames.h"
 
 #include "em5/game/Game.h"
 #include "em5/gui/EmergencyGui.h"
@@ -18,8 +18,6 @@
 namespace script {
 
 namespace {
-
-constexpr const char* RELOAD_MESSAGE = "script::ForceHotReload_EditorOnly";
 
 Plugin* thePlugin = nullptr;
 
@@ -68,9 +66,9 @@ bool Plugin::onInstall() {
 bool Plugin::onStartup() {
   FiringLedger::clear();
   MapScriptManager::replace(true);
-  qsf::Qsf::instance()->getMessageSystem().addMessageName(RELOAD_MESSAGE);
-  qsf::Qsf::instance()->getMessageSystem().addMessageName(UseEquipmentAction::MESSAGE);
-  mReloadMessageProxy.registerAt(qsf::StringHash(RELOAD_MESSAGE),
+  for (const char* name : messages::ALL)
+    qsf::Qsf::instance()->getMessageSystem().addMessageName(name);
+  mReloadMessageProxy.registerAt(qsf::StringHash(messages::RELOAD_IN_EDITOR),
                                  [](const qsf::MessageParameters&) { reloadInEditor(); });
   return true;
 }

@@ -6,6 +6,7 @@
 #include "game_plugin/scenario/lifecycle/MapScriptManager.h"
 #include "game_plugin/scenario/lifecycle/ScriptFates.h"
 #include "game_plugin/scenario/loading/ProgramCache.h"
+#include "game_plugin/scenario/messages/MessageNames.h"
 #include "game_plugin/scenario/stores/JsonStore.h"
 
 #include "em5/game/Game.h"
@@ -185,6 +186,14 @@ public:
 
   std::vector<std::string> getUnreadableConfigurations() const override { return fates::unreadableFiles(); }
 
+  std::vector<CommandBidView> getCommandBids() const override {
+    std::vector<CommandBidView> views;
+    if (const MapScriptManager* manager = MapScriptManager::get())
+      for (const auto& row : manager->getScriptedCommands().rows())
+        views.push_back({row->commandName, row->mouseIcon, row->priority, row->armed});
+    return views;
+  }
+
   std::vector<DroppedLineView> getDroppedLines() const override {
     std::vector<DroppedLineView> views;
     if (const MapScriptManager* manager = MapScriptManager::get())
@@ -287,7 +296,7 @@ public:
     const bool hasGame = static_cast<bool>(qsf::UniqueInstance<em5::Game>());
     if (!hasGame && !qsf::UniqueInstance<em5::EmergencyGui>()) {
       if (const qsf::Qsf* host = qsf::Qsf::instance())
-        host->getMessageSystem().emitMessage(qsf::StringHash("script::ForceHotReload_EditorOnly"));
+        host->getMessageSystem().emitMessage(qsf::StringHash(messages::RELOAD_IN_EDITOR));
       return;
     }
     MapScriptManager& manager = MapScriptManager::replace(true);

@@ -87,6 +87,14 @@ struct DroppedLineView {
   std::string reason;
 };
 
+/// What a script bids for one of its mouse click commands.
+struct CommandBidView {
+  std::string name;
+  std::string icon;
+  float priority = 0; ///< 0: it is not offered
+  bool armed = false; ///< the conditions of its trigger held when they were tested last
+};
+
 enum class StoreKind { VARIABLES, STRINGS, LISTS, BOOLS, JSONS, STRING_LISTS };
 
 /// What tools may see and do. The object lives as long as the module is loaded. Scripts are addressed by their index in
@@ -105,6 +113,8 @@ public:
   /// What is wrong with each MapScript.json that can't be read.
   virtual std::vector<std::string> getUnreadableConfigurations() const = 0;
   virtual std::vector<DroppedLineView> getDroppedLines() const = 0;
+  /// The table of scripted commands, in the order in which they were named first.
+  virtual std::vector<CommandBidView> getCommandBids() const = 0;
 
   /// The line of a script that is being read, tested or run at this moment: what is logged now is about it. Nothing
   /// while no script is at work.

@@ -24,6 +24,8 @@ std::vector<LogPattern> TestPlan::namedLines() const { return collect(*this, &Ex
 
 std::vector<std::string> TestPlan::namedHints() const { return collect(*this, &Expectation::hints); }
 
+std::vector<std::string> TestPlan::watchedMessages() const { return collect(*this, &Expectation::messages); }
+
 std::uint64_t TestPlan::framesUntil(double seconds) const {
   return static_cast<std::uint64_t>(std::llround(seconds / tick));
 }

@@ -35,6 +35,8 @@ struct Expectation {
   std::vector<LogPattern> logs;
   /// Texts of hints that it names.
   std::vector<std::string> hints;
+  /// Names of messages whose filters it asks for.
+  std::vector<std::string> messages;
   enum class Moment { TIMED, END, AFTER_SHUTDOWN } moment = Moment::END;
 };
 
@@ -95,6 +97,7 @@ struct TestPlan {
   std::optional<qsf::GamepadModel> gamepad; ///< plugged in before the module loads
   std::string language = "en";
   std::string account;
+  unsigned int players = 1;
   std::uint64_t seed = 1;
   double tick = 0.05;    ///< seconds
   double duration = 1.0; ///< seconds
@@ -109,6 +112,8 @@ struct TestPlan {
   /// Log lines and texts of hints that expectations name, those with a time included.
   std::vector<LogPattern> namedLines() const;
   std::vector<std::string> namedHints() const;
+  /// Names of messages whose filters expectations ask for.
+  std::vector<std::string> watchedMessages() const;
   std::uint64_t framesUntil(double seconds) const;
   std::uint64_t numberOfFrames() const { return framesUntil(duration); }
 };

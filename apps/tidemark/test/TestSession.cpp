@@ -11,6 +11,7 @@
 #include "qsf/Qsf.h"
 #include "qsf/input/InputSystem.h"
 #include "qsf/map/Map.h"
+#include "qsf/message/MessageSystem.h"
 
 #include <fmt/format.h>
 
@@ -72,6 +73,7 @@ void TestSession::startHost() {
   options.language = mPlan.language;
   options.gameMode = mPlan.gameMode;
   options.account = mPlan.account;
+  options.players = mPlan.players;
   options.logThreshold = qsf::LogSystem::TRACE;
   mModule = std::make_unique<LoadedModule>();
   tooling().switchHints(true);
@@ -79,6 +81,11 @@ void TestSession::startHost() {
   limitHostWrites(mWritable);
   mHost->getQsf().getLogSystem().addListener([this](const qsf::LogSystem::Record& record) { keepLine(record); });
   if (mPlan.gamepad) mHost->getQsf().getInputSystem().getOisManager().plugIn(*mPlan.gamepad);
+  for (const std::string& message : mPlan.watchedMessages())
+    mMessages.watch(qsf::StringHash(message).getHash());
+  mHost->getQsf().getMessageSystem().addObserver([this](const qsf::MessageConfiguration& message) {
+    mMessages.add(message.getId().getHash(), message.getFilters());
+  });
   mHost->mountBaseProject(mBaseProject);
   for (const ProjectPlan& project : mPlan.projects)
     guard(project.line, "", [&] {

@@ -1,5 +1,6 @@
 #pragma once
 #include "apps/tidemark/test/LogBook.h"
+#include "apps/tidemark/test/MessageBook.h"
 #include "apps/tidemark/test/Notes.h"
 #include "apps/tidemark/test/TestPlan.h"
 #include "apps/tidemark/test/steps/Steps.h"
@@ -67,6 +68,7 @@ public:
 
   const TestPlan& plan() const { return mPlan; }
   const LogBook& log() const { return mLog; }
+  const MessageBook& messages() const { return mMessages; }
   em5::HostSession& host() const { return *mHost; }
   script::tooling::Tooling& tooling() const;
 
@@ -98,6 +100,7 @@ private:
   std::string mBaseProject;
   std::vector<std::string> mWritable;
   LogBook mLog;
+  MessageBook mMessages;
   std::function<void(const qsf::LogSystem::Record&)> mLogEcho;
   std::unique_ptr<LoadedModule> mModule; ///< outlives the host
   std::unique_ptr<em5::HostSession> mHost;

@@ -23,7 +23,25 @@ namespace script {
   ENTRY(DoorHasState)                                                                                                  \
   ENTRY(IsOpenHouse)                                                                                                   \
   ENTRY(Timer)                                                                                                         \
-  ENTRY(CompareValues)
+  ENTRY(CompareValues)                                                                                                 \
+  ENTRY(GetLocalPlayerId)                                                                                              \
+  ENTRY(IsHotkeyPressed)                                                                                               \
+  ENTRY(OnHotkeyPressed)                                                                                               \
+  ENTRY(MouseWheelIsMoving)                                                                                            \
+  ENTRY(ChangeMouseIconConditional)                                                                                    \
+  ENTRY(StartMouseClickCommand)                                                                                        \
+  ENTRY(EndMouseClickCommand)                                                                                          \
+  ENTRY(StringVarMatchsString)                                                                                         \
+  ENTRY(IsGameMode)                                                                                                    \
+  ENTRY(IsModActive)                                                                                                   \
+  ENTRY(IsPluginLoaded)                                                                                                \
+  ENTRY(GetLanguage)                                                                                                   \
+  ENTRY(PlayerHasName)                                                                                                 \
+  ENTRY(IsDocumentVisible)                                                                                             \
+  ENTRY(UnitSpawned)                                                                                                   \
+  ENTRY(UnitSelectionChanged)                                                                                          \
+  ENTRY(UseEquipmentActionMessageSend)                                                                                 \
+  ENTRY(ScenarioActivateTriggerMessageArrived)
 CONDITION_GROUP(ScenarioConditions_Brill, MANIFEST)
 
 }

@@ -40,13 +40,20 @@ bool textToFloat(const std::string& text, float& value) {
   return true;
 }
 
+bool textToId(const std::string& text, std::uint64_t& id) {
+  std::uint64_t value = 0;
+  if (!boost::conversion::try_lexical_convert(text, value)) return false;
+  id = value;
+  return true;
+}
+
 bool textToIds(const std::string& text, std::vector<std::uint64_t>& ids) {
   if (text.empty()) return false;
   const char first = text.front();
   if (!((first >= '0' && first <= '9') || first == '-' || first == '+')) return false;
   for (const std::string& piece : splitAtBlanks(text)) {
     std::uint64_t id = 0;
-    if (!boost::conversion::try_lexical_convert(piece, id)) return false;
+    if (!textToId(piece, id)) return false;
     ids.push_back(id);
   }
   return true;

@@ -6,6 +6,7 @@
 #include "game_plugin/scenario/lifecycle/PreCommandCheck.h"
 #include "game_plugin/scenario/lifecycle/ScriptFates.h"
 #include "game_plugin/scenario/loading/ProgramCache.h"
+#include "game_plugin/scenario/messages/ScenarioMessageReciever.h"
 
 #include "em5/base/Jobs.h"
 #include "em5/base/Messages.h"
@@ -83,19 +84,33 @@ void MapScriptManager::LoadConfiguration(bool /*writeDocumentation*/) {
     for (const auto& mod : game->getModSystem().getMods())
       if (mod->isMounted() && mod->isEnabled()) readMod(*mod);
 
-  if (!hasGame() || !hasGui()) // the editor
+  if (!hasGame() || !hasGui()) { // the editor
+    makeMessageReciever();
     mEditorJobProxy.registerAt(
         em5::Jobs::ANIMATION_VEHICLE, [this](const qsf::JobArguments& arguments) { editorJob(arguments); },
         qsf::jobs::JobConfiguration(2));
+  }
   parseScripts();
   if (hasGui()) startGameScript();
 }
 
 void MapScriptManager::parseScripts() {
   for (MapScriptEntry* entry : mScriptEntries) {
-    entry->document = std::make_shared<ScriptDocument>(mPrograms->load(entry->path, entry->globalNamePrefix));
+    entry->document = loadDocument(*entry);
     FiringLedger::restore(*entry);
   }
+}
+
+std::shared_ptr<ScriptDocument> MapScriptManager::loadDocument(const MapScriptEntry& entry) {
+  auto document = std::make_shared<ScriptDocument>(mPrograms->load(entry.path, entry.globalNamePrefix));
+  if (mMessageReciever)
+    for (const std::string& key : document->program->keys())
+      mMessageReciever->registerHotkey(key);
+  return document;
+}
+
+void MapScriptManager::makeMessageReciever() {
+  if (!mMessageReciever) mMessageReciever = std::make_unique<ScenarioMessageReciever>();
 }
 
 /// Only the first one ever runs: it is the game's one script, and starts once per manager.
@@ -117,6 +132,7 @@ void MapScriptManager::onGameStartupFinished() {
 }
 
 void MapScriptManager::StartMapScripts() {
+  makeMessageReciever();
   mBlockedEntityIds.clear();
   startScriptsOfMap(
       [](ScriptMode mode) { return mode == ScriptMode::MAP_STARTUP || mode == ScriptMode::MAP_STARTUP_SIMULATION; });
@@ -155,7 +171,7 @@ void MapScriptManager::StartTemporaryScript(const std::string& path) {
     entry->mode = ScriptMode::TEMPORARY;
     entry->path = path;
     entry->key = path;
-    entry->document = std::make_shared<ScriptDocument>(mPrograms->load(path, entry->globalNamePrefix));
+    entry->document = loadDocument(*entry);
     mScriptEntries.push_back(entry);
     startScript(*entry);
     logInfo("\tMapscriptManager: succesfully initialize new temproray Scenario " + path);
@@ -194,6 +210,7 @@ std::pair<ScenarioHandler*, const ScenarioTrigger*> MapScriptManager::findTrigge
 void MapScriptManager::DoShutdown() {
   logInfo("DoShutdown Started");
   mPreCommandMessageProxy.unregister();
+  mMessageReciever.reset();
   // Kept: the entry behind a forgotten temporary one is skipped, and its script goes on into the next map.
   for (std::size_t i = 0; i < mScriptEntries.size(); ++i) {
     ScenarioHandler::retire(std::exchange(mScriptEntries[i]->handler, nullptr));

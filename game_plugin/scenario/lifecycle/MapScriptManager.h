@@ -1,4 +1,5 @@
 #pragma once
+#include "game_plugin/scenario/lifecycle/ScriptedCommands.h"
 #include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include "qsf/job/JobProxy.h"
@@ -17,6 +18,7 @@ class Mod;
 namespace script {
 
 class ProgramCache;
+class ScenarioMessageReciever;
 
 /// When a script's handler is made.
 enum class ScriptMode : std::uint32_t {
@@ -79,6 +81,8 @@ public:
   const std::vector<MapScriptEntry*>& getScriptEntries() const { return mScriptEntries; }
   const std::shared_ptr<GlobalStores>& getGlobalStores() const { return mGlobalStores; }
   const ProgramCache& programs() const { return *mPrograms; }
+  ScriptedCommands& getScriptedCommands() { return mScriptedCommands; }
+  const ScriptedCommands& getScriptedCommands() const { return mScriptedCommands; }
   /// Entities that may not be extinguished; emptied at each start.
   std::vector<std::uint64_t>& getBlockedEntityIds() { return mBlockedEntityIds; }
 
@@ -91,6 +95,8 @@ private:
   void readScripts(const em5::Mod& mod, const boost::property_tree::ptree& root);
   bool readScript(const em5::Mod& mod, const boost::property_tree::ptree& root, MapScriptEntry& entry) const;
   void parseScripts();
+  std::shared_ptr<ScriptDocument> loadDocument(const MapScriptEntry& entry);
+  void makeMessageReciever();
   void startGameScript();
   void startScriptsOfMap(bool (*isStarted)(ScriptMode));
   void startScript(MapScriptEntry& entry);
@@ -107,6 +113,8 @@ private:
   /// Handlers that a shutdown has skipped and whose entry runs a new one since: they go on until the manager ends.
   std::vector<ScenarioHandler*> mLeftRunning;
   std::unique_ptr<ProgramCache> mPrograms;
+  ScriptedCommands mScriptedCommands;
+  std::unique_ptr<ScenarioMessageReciever> mMessageReciever; ///< while scripts of a map or of the editor run
   qsf::MessageProxy mGameStartupMessageProxy;
   qsf::MessageProxy mGameShutdownMessageProxy;
   std::vector<std::uint64_t> mBlockedEntityIds;

@@ -21,4 +21,12 @@ std::optional<GamepadLayout> RunningHost::gamepad() const {
   return GamepadLayout{joystick.getButtons().size(), joystick.getAxes().size()};
 }
 
+std::vector<KeyboardKey> RunningHost::keyboardKeys() const {
+  std::vector<KeyboardKey> keys;
+  if (const qsf::Qsf* host = qsf::Qsf::instance())
+    for (const qsf::InputButton* button : host->getInputSystem().getKeyboard().getButtons())
+      keys.push_back({button->getName(), button->getDescription()});
+  return keys;
+}
+
 }

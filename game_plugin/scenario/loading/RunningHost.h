@@ -8,6 +8,7 @@ class RunningHost : public ReadingHost {
 public:
   std::vector<std::string> mouseButtons() const override;
   std::optional<GamepadLayout> gamepad() const override;
+  std::vector<KeyboardKey> keyboardKeys() const override;
 };
 
 }

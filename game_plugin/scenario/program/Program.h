@@ -64,6 +64,8 @@ public:
   std::uint32_t numberOfStates() const { return mStates; }
   /// The file is UTF-8 and holds a multi-byte character.
   bool writesMarkAsUtf8() const { return mWritesMarkAsUtf8; }
+  /// Names of the keys that lines listen to.
+  const std::vector<std::string>& keys() const { return mKeys; }
   const std::vector<DroppedLine>& droppedLines() const { return mDroppedLines; }
   /// A fault of a line made the whole script unusable; the last dropped line is that one.
   bool hasFailed() const { return mFailed; }
@@ -77,6 +79,7 @@ private:
   ProgramMemory mMemory;
   ArgumentTexts mTexts;
   std::vector<const TriggerProgram*> mTriggers;
+  std::vector<std::string> mKeys;
   std::vector<DroppedLine> mDroppedLines;
   std::vector<Message> mMessages;
   std::uint32_t mStates = 0;

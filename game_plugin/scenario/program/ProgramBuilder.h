@@ -16,6 +16,12 @@ struct GamepadLayout {
   bool operator==(const GamepadLayout&) const = default;
 };
 
+/// A key of a keyboard.
+struct KeyboardKey {
+  std::string name;
+  std::string description; ///< what the player reads on it
+};
+
 /// What reading a line asks of the machine that the script will run on. The module answers for the running host, a tool
 /// for a machine that it imagines.
 class ReadingHost {
@@ -25,6 +31,8 @@ public:
   virtual std::vector<std::string> mouseButtons() const = 0;
   /// Nothing if no gamepad is plugged in, as on most machines.
   virtual std::optional<GamepadLayout> gamepad() const { return std::nullopt; }
+  /// The keyboard's keys, by their index; empty without a keyboard.
+  virtual std::vector<KeyboardKey> keyboardKeys() const { return {}; }
 };
 
 /// A program while it is being loaded. Used by ScriptParser for the time of one load.
@@ -34,6 +42,8 @@ public:
 
   ProgramMemory& memory() { return mProgram->mMemory; }
   const ArgumentText& intern(std::string_view text) { return mProgram->mTexts.intern(text); }
+  /// A line listens to the key of that name.
+  void useKey(std::string name) { mProgram->mKeys.push_back(std::move(name)); }
   std::uint32_t reserveState() { return mProgram->mStates++; }
   const ReadingHost& host() const { return mHost; }
   bool hasTriggers() const { return !mProgram->mTriggers.empty(); }

@@ -3,11 +3,14 @@
 #include "game_plugin/scenario/Log.h"
 #include "game_plugin/scenario/hints/ExecutionPoint.h"
 #include "game_plugin/scenario/hints/Hints.h"
+#include "game_plugin/scenario/messages/ScenarioMessageReciever.h"
 #include "game_plugin/scenario/stores/JsonStore.h"
 #include "game_plugin/scenario/tick/FaultyLine.h"
 #include "game_plugin/scenario/world/LocalPlayer.h"
 
 #include "em5/base/Jobs.h"
+#include "em5/game/Game.h"
+#include "em5/gui/EmergencyGui.h"
 #include "qsf/log/FaultCounter.h"
 
 #include <boost/bind/bind.hpp>
@@ -69,6 +72,8 @@ ScenarioHandler::ScenarioHandler(std::shared_ptr<GlobalStores> globalStores)
       mEffects(this) {}
 
 ScenarioHandler::~ScenarioHandler() {
+  // Another handler may come to lie where this one did.
+  if (ScenarioMessageReciever* reciever = ScenarioMessageReciever::get()) reciever->forgetHandler(this);
   if (!hints::isOn()) return;
   hints::forgetStore(&variables);
   hints::forgetStore(&stringVariables);
@@ -99,6 +104,7 @@ void ScenarioHandler::Start(StartKind kind) {
     trigger.looped = trigger.program->initialLooped;
     trigger.lastTimeActive = qsf::Time::ZERO;
   }
+  if (ScenarioMessageReciever* reciever = ScenarioMessageReciever::get()) reciever->registerHandler(this);
   mUpdateJobProxy.registerAt(jobManagerOf(kind), boost::bind(&ScenarioHandler::Update, this, boost::placeholders::_1),
                              qsf::jobs::JobConfiguration(2));
 }
@@ -124,6 +130,7 @@ void ScenarioHandler::Update(const qsf::JobArguments& arguments) {
     return;
   }
   const RunningScope scope(*mDocument);
+  advanceMessages();
   mDocument->time += arguments.getTimePassed();
   // What leaves an entry costs the rest of this script's tick and one line of the log; other scripts go on.
   qsf::callGuarded([this] { walkTriggers(); },
@@ -141,6 +148,17 @@ void ScenarioHandler::walkTriggers() {
     else if (tick(trigger))
       isClient = isLocalPlayerClient(); // effects may change whose machine this is
   }
+}
+
+/// What has arrived since the last tick is what the conditions of this one read. In the editor only triggers that are
+/// to be activated are heard of.
+void ScenarioHandler::advanceMessages() const {
+  ScenarioMessageReciever* reciever = ScenarioMessageReciever::get();
+  if (!reciever) return;
+  if (qsf::UniqueInstance<em5::Game>())
+    reciever->advanceHandler(this);
+  else if (!qsf::UniqueInstance<em5::EmergencyGui>())
+    reciever->advanceActivators(this);
 }
 
 /// Reads the trigger as it stands when its turn comes. Conditions can't change what is read here, so no copy is needed.

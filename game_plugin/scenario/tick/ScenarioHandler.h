@@ -180,6 +180,7 @@ private:
   enum class Access : unsigned char { READ, WRITE };
 
   void walkTriggers();
+  void advanceMessages() const;
   bool holds(const ScenarioTrigger& trigger, std::uint32_t& fulfilled) const;
   /// Returns whether the trigger fired.
   bool tick(ScenarioTrigger& trigger);

@@ -6,10 +6,12 @@ namespace script {
 
 bool hasLocalPlayer() { return static_cast<bool>(qsf::UniqueInstance<em5::Game>()); }
 
-bool isLocalPlayerClient() {
+unsigned int getLocalPlayerIndex() {
   const qsf::UniqueInstance<em5::Game> game;
-  return game && game->getPlayerManager()->getLocalPlayer()->getPlayerIndex() != 0;
+  return game ? game->getPlayerManager()->getLocalPlayer()->getPlayerIndex() : 0;
 }
+
+bool isLocalPlayerClient() { return getLocalPlayerIndex() != 0; }
 
 bool sendTriggerToHost(std::uint32_t /*triggerHash*/, const std::vector<std::uint64_t>& /*callers*/,
                        std::uint64_t /*target*/) {

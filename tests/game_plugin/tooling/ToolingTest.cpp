@@ -57,6 +57,24 @@ TEST_F(ToolingTest, ShowsScriptsAndTriggers) {
   EXPECT_EQ(triggers[1].line, 9u);
 }
 
+TEST_F(ToolingTest, ShowsTheBidsForScriptedCommands) {
+  EXPECT_TRUE(tooling.getCommandBids().empty());
+  addScript("main", "MAP_STARTUP",
+            "InitNewTrigger(\"t\",true,true);\nStartMouseClickCommand(\"heal\",\"cross\");\n"
+            "EndMouseClickCommand(\"heal\",\"5\");\n"
+            "InitNewTrigger(\"u\",true,true);\nStartMouseClickCommand(\"carry\",\"hand\");\n");
+  start();
+  run(0.05);
+  const std::vector<CommandBidView> bids = tooling.getCommandBids();
+  ASSERT_EQ(bids.size(), 2u);
+  EXPECT_EQ(bids[0].name + "|" + bids[0].icon, "heal|cross");
+  EXPECT_EQ(bids[0].priority, 5.0f);
+  EXPECT_TRUE(bids[0].armed);
+  EXPECT_EQ(bids[1].name + "|" + bids[1].icon, "carry|hand");
+  EXPECT_EQ(bids[1].priority, 0.0f);
+  EXPECT_FALSE(bids[1].armed);
+}
+
 TEST_F(ToolingTest, ReadingMakesNoEntry) {
   addScript("main", "MAP_STARTUP", "");
   start();

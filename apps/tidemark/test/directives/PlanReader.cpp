@@ -42,6 +42,13 @@ double takePositive(WordCursor& words, std::string_view what, double least, doub
   return value;
 }
 
+unsigned int takePlayers(WordCursor& words) {
+  constexpr std::uint64_t MOST = 4;
+  const std::uint64_t players = words.takeId("the number of players");
+  if (players < 1 || players > MOST) throw DirectiveError(fmt::format("a game has 1 to {} players", MOST));
+  return static_cast<unsigned int>(players);
+}
+
 // A line with a dollar sign anywhere is a comment to the language.
 bool isCode(std::string_view line) {
   return line.find('$') == std::string_view::npos && line.find_first_not_of(" \t\r\n") != std::string_view::npos;
@@ -259,6 +266,8 @@ bool PlanReader::readGameSetting(const Directive& directive, WordCursor& words) 
       throw DirectiveError(fmt::format("'{}' is no language; one is written as in en or pt-BR", plan.language));
   } else if (directive.name == "account") {
     plan.account = words.take("the account's name");
+  } else if (directive.name == "players") {
+    plan.players = takePlayers(words);
   } else if (directive.name == "seed") {
     plan.seed = words.takeId("the seed");
   } else if (directive.name == "tick") {

@@ -61,12 +61,6 @@ Verdict checkCalls(const TestSession& session, const std::string& operation, con
           {}};
 }
 
-// The words at the end that count: `never` or `N times`.
-bool atTimes(const WordCursor& words) {
-  return (words.peekKeyword("never") && words.remaining() == 1) ||
-         (words.peekKeyword("times", 1) && words.remaining() == 2);
-}
-
 Expectation countCalls(WordCursor& words, const std::string& operation) {
   std::vector<Argument> arguments;
   if (words.takeIf("with")) {

@@ -39,11 +39,18 @@ Expectation countLines(WordCursor& words) {
   return expectation;
 }
 
+// A text, or `containing` and a part of one.
+LogPattern takePattern(WordCursor& words, std::string_view what) {
+  LogPattern pattern;
+  if (words.takeIf("containing")) pattern.extent = LogPattern::Extent::PART;
+  pattern.text = words.take(what);
+  return pattern;
+}
+
 Expectation compareOrder(WordCursor& words) {
-  LogPattern first, second;
-  first.text = words.take("the first text");
+  const LogPattern first = takePattern(words, "the first text");
   words.require("before");
-  second.text = words.take("the second text");
+  const LogPattern second = takePattern(words, "the second text");
   Expectation expectation;
   expectation.logs = {first, second};
   expectation.check = [first, second](TestSession& session) {
@@ -94,7 +101,8 @@ std::optional<Expectation> readLogExpectation(WordCursor& words) {
   }
   if (words.peekKeyword("no") && words.peekKeyword("other", 1)) return noOtherLog(words);
   if (!words.takeIf("log")) return std::nullopt;
-  return words.peekKeyword("before", 1) ? compareOrder(words) : countLines(words);
+  const std::size_t before = words.peekKeyword("containing") ? 2 : 1;
+  return words.peekKeyword("before", before) ? compareOrder(words) : countLines(words);
 }
 
 }

@@ -14,6 +14,7 @@ namespace tidemark::test {
 #define ACTION_THEMES(THEME)                                                                                           \
   THEME(Store)                                                                                                         \
   THEME(World)                                                                                                         \
+  THEME(Message)                                                                                                       \
   THEME(Device)                                                                                                        \
   THEME(Gamepad)                                                                                                       \
   THEME(Lifecycle)
@@ -21,6 +22,8 @@ namespace tidemark::test {
   THEME(Log)                                                                                                           \
   THEME(Hint)                                                                                                          \
   THEME(File)                                                                                                          \
+  THEME(Command)                                                                                                       \
+  THEME(Message)                                                                                                       \
   THEME(Store)                                                                                                         \
   THEME(Trigger)                                                                                                       \
   THEME(World)                                                                                                         \
@@ -95,6 +98,11 @@ std::string takeJsonPath(WordCursor& words) {
   const Word* next = words.peek(1);
   const bool isSize = words.peekKeyword("size") && next && !next->quoted && parseId(next->text);
   return isSize ? std::string() : words.take("a path");
+}
+
+bool atTimes(const WordCursor& words) {
+  return (words.peekKeyword("never") && words.remaining() == 1) ||
+         (words.peekKeyword("times", 1) && words.remaining() == 2);
 }
 
 std::optional<double> takeWithin(WordCursor& words) {

@@ -25,6 +25,8 @@ struct Times {
   bool holds(std::uint64_t count) const { return exactly ? count == *exactly : count > 0; }
 };
 Times takeTimes(WordCursor& words);
+/// True if nothing but `never` or `N times` is left.
+bool atTimes(const WordCursor& words);
 
 /// `[vendor TEXT] [buttons N] [axes N]`.
 qsf::GamepadModel takeGamepadModel(WordCursor& words);

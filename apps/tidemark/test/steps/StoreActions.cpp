@@ -4,6 +4,8 @@
 #include "apps/tidemark/test/steps/Steps.h"
 #include "apps/tidemark/text/Encoding.h"
 
+#include "qsf/asset/AssetProxy.h"
+
 #include <fmt/format.h>
 
 namespace tidemark::test {
@@ -68,9 +70,21 @@ Action setList(WordCursor& words, const ScriptScope& scope, const std::string& n
                   });
 }
 
+// `assetid STRING NAME`: the asset's global id, as scripts find it in a property, into a string variable of main.
+Action setAssetId(WordCursor& words) {
+  const std::string name = words.take("the string variable's name");
+  const std::string asset = words.take("the asset's name");
+  return setEntry({}, StoreKind::STRINGS, name, [asset](TestSession& session, Holder holder, const std::string& entry) {
+    const qsf::AssetProxy proxy(asset);
+    if (!proxy.getAsset()) throw DirectiveError(fmt::format("there is no asset '{}'", asset));
+    return session.tooling().setString(holder, entry, fmt::format("{}", proxy.getGlobalAssetId()));
+  });
+}
+
 }
 
 std::optional<Action> readStoreAction(WordCursor& words) {
+  if (words.takeIf("assetid")) return setAssetId(words);
   using Reader = Action (*)(WordCursor&, const ScriptScope&, const std::string&);
   static const std::vector<std::pair<std::string_view, Reader>> READERS = {
       {"variable", setVariable}, {"string", setString}, {"bool", setBool}, {"list", setList}};

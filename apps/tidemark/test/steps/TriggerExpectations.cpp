@@ -4,7 +4,10 @@
 #include "apps/tidemark/test/steps/ScriptScope.h"
 #include "apps/tidemark/test/steps/Steps.h"
 
+#include "qsf/base/Ids.h"
+
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 
 #include <algorithm>
 #include <cmath>
@@ -14,7 +17,7 @@ namespace tidemark::test {
 namespace {
 
 using script::tooling::TriggerView;
-using TriggerTest = std::function<Verdict(const TriggerView&)>;
+using TriggerTest = std::function<Verdict(const TestSession&, const TriggerView&)>;
 
 // `NAME` or `NAME#2`. A trigger whose name itself ends so is found first.
 TriggerView findTrigger(const TestSession& session, const ScriptScope& scope, const std::string& name) {
@@ -38,21 +41,21 @@ TriggerView findTrigger(const TestSession& session, const ScriptScope& scope, co
 
 template <class Read> TriggerTest expectNumber(WordCursor& words, std::string_view what, Read read) {
   const std::int64_t expected = words.takeInteger(what);
-  return [expected, read](const TriggerView& trigger) {
+  return [expected, read](const TestSession&, const TriggerView& trigger) {
     const auto found = static_cast<std::int64_t>(read(trigger));
     return Verdict{found == expected, fmt::format("{}", found), {}};
   };
 }
 
 TriggerTest expectFlag(bool TriggerView::*flag, bool expected, std::string_view yes, std::string_view no) {
-  return [=](const TriggerView& trigger) {
+  return [=](const TestSession&, const TriggerView& trigger) {
     return Verdict{trigger.*flag == expected, std::string(trigger.*flag ? yes : no), {}};
   };
 }
 
 TriggerTest expectFired(WordCursor& words) {
   const Times times = takeTimes(words);
-  return [times](const TriggerView& trigger) {
+  return [times](const TestSession&, const TriggerView& trigger) {
     return Verdict{times.holds(trigger.timesFired), fmt::format("fired {} times", trigger.timesFired), {}};
   };
 }
@@ -60,10 +63,34 @@ TriggerTest expectFired(WordCursor& words) {
 TriggerTest expectLastTime(WordCursor& words) {
   const double seconds = words.takeNumber("a time in seconds");
   const std::optional<double> within = takeWithin(words);
-  return [=](const TriggerView& trigger) {
+  return [=](const TestSession&, const TriggerView& trigger) {
     // Times are whole microseconds.
     const double found = trigger.lastTimeActive.getSecondsAsDouble();
     return Verdict{std::abs(found - seconds) <= std::max(within.value_or(0), 1e-6), fmt::format("{}", found), {}};
+  };
+}
+
+// `callers == ID...`: whom a client sent along, in their order; nothing behind == means nobody. It ends the line.
+TriggerTest expectCallers(WordCursor& words) {
+  words.require("==");
+  const std::vector<EntityReference> references = takeEntityReferences(words);
+  return [references](const TestSession& session, const TriggerView& trigger) {
+    std::vector<std::uint64_t> wanted;
+    for (const EntityReference& reference : references)
+      wanted.push_back(session.resolve(reference));
+    return Verdict{trigger.callers == wanted,
+                   trigger.callers.empty() ? "no callers" : fmt::format("{}", fmt::join(trigger.callers, " ")),
+                   {}};
+  };
+}
+
+TriggerTest expectTarget(WordCursor& words) {
+  const bool none = words.takeIf("none");
+  const EntityReference reference = none ? EntityReference{qsf::UNINITIALIZED_ID, "", 0} : takeEntityReference(words);
+  return [reference](const TestSession& session, const TriggerView& trigger) {
+    return Verdict{trigger.target == session.resolve(reference),
+                   trigger.target == qsf::UNINITIALIZED_ID ? "no target" : fmt::format("{}", trigger.target),
+                   {}};
   };
 }
 
@@ -94,10 +121,12 @@ TriggerTest takeTriggerTest(WordCursor& words) {
   if (words.takeIf("looped")) return expectFlag(&TriggerView::looped, true, "looped", "single");
   if (words.takeIf("single")) return expectFlag(&TriggerView::looped, false, "looped", "single");
   if (words.takeIf("fired")) return expectFired(words);
+  if (words.takeIf("callers")) return expectCallers(words);
+  if (words.takeIf("target")) return expectTarget(words);
   if (words.takeIf("lastTimeActive")) return expectLastTime(words);
   if (words.takeIf("global")) {
     const std::string expected = words.take("the global name");
-    return [expected](const TriggerView& trigger) {
+    return [expected](const TestSession&, const TriggerView& trigger) {
       return Verdict{textMatches(expected, trigger.globalName), fmt::format("\"{}\"", trigger.globalName), {}};
     };
   }
@@ -119,7 +148,7 @@ Expectation expectTrigger(WordCursor& words) {
     const TriggerView trigger = findTrigger(session, scope, name);
     Verdict verdict;
     for (const TriggerTest& test : tests)
-      if (verdict = test(trigger); !verdict.holds) break;
+      if (verdict = test(session, trigger); !verdict.holds) break;
     return verdict;
   };
   return expectation;

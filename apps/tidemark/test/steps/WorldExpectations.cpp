@@ -1,6 +1,5 @@
-// Expectations on entities, the selection, messages and assets.
+// Expectations on entities, the selection and assets.
 #include "apps/tidemark/test/TestSession.h"
-#include "apps/tidemark/test/steps/KnownNames.h"
 #include "apps/tidemark/test/steps/Reflection.h"
 #include "apps/tidemark/test/steps/Selection.h"
 #include "apps/tidemark/test/steps/Steps.h"
@@ -13,7 +12,6 @@
 #include "qsf/component/MeshAnimationComponent.h"
 #include "qsf/map/Map.h"
 #include "qsf/math/Heading.h"
-#include "qsf/message/MessageSystem.h"
 #include "qsf/reflection/PropertyText.h"
 
 #include <fmt/format.h>
@@ -29,29 +27,6 @@ namespace {
 
 constexpr double DEFAULT_DISTANCE = 0.01;
 constexpr double DEFAULT_ANGLE = 1;
-
-// A message that nobody could send is a slip of the keyboard, and `never` would hide it.
-void requireMessage(const TestSession& session, const std::string& name) {
-  const qsf::MessageSystem& messages = session.host().getQsf().getMessageSystem();
-  const std::set<std::string>& known = messages.getMessageNames();
-  if (known.contains(name) || messages.getEmittedCount(qsf::StringHash(name)) > 0 ||
-      isWordOfActions(session.plan(), "emit", 1, name) || isWrittenInScripts(session.plan(), name))
-    return;
-  throw DirectiveError(fmt::format("nobody knows a message '{}'{}", name,
-                                   qsf::nearNamesHint(name, std::vector<std::string>(known.begin(), known.end()))));
-}
-
-Expectation expectMessage(WordCursor& words) {
-  const std::string name = words.take("the message's name");
-  const Times times = takeTimes(words);
-  Expectation expectation;
-  expectation.check = [=](TestSession& session) {
-    requireMessage(session, name);
-    const std::uint64_t count = session.host().getQsf().getMessageSystem().getEmittedCount(qsf::StringHash(name));
-    return Verdict{times.holds(count), fmt::format("emitted {} times", count), {}};
-  };
-  return expectation;
-}
 
 Expectation expectEntity(WordCursor& words) {
   const EntityReference reference = takeEntityReference(words);
@@ -221,7 +196,6 @@ Expectation readEntityExpectation(WordCursor& words) {
 }
 
 std::optional<Expectation> readWorldExpectation(WordCursor& words) {
-  if (words.takeIf("message")) return expectMessage(words);
   if (words.takeIf("entity")) return expectEntity(words);
   if (words.takeIf("entities")) return expectNumberOfEntities(words);
   if (words.takeIf("selection")) return expectSelection(words);

@@ -31,7 +31,8 @@ public:
     std::string language = "en";
     GameModeType gameMode = GameModeType::FREEPLAY_ENDLESS;
     std::string account;
-    int logThreshold = 2; ///< severity from which lines are logged, 0 to 5
+    unsigned int players = 1; ///< who play on this machine; the local player is the first
+    int logThreshold = 2;     ///< severity from which lines are logged, 0 to 5
   };
 
   explicit HostSession(const Options& options);

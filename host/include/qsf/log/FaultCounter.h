@@ -1,5 +1,6 @@
 #pragma once
 #include "qsf/Export.h"
+#include "qsf/log/ErrorHandling.h"
 
 #include <cstdint>
 #include <exception>
@@ -23,6 +24,8 @@ private:
 
 /// Logs "Fault in <source>: <what>" at severity 4 and counts it at the running host.
 QSF_API void reportFault(const std::string& source, const std::string& what);
+/// The same for a fault that stands in the log already: counts it and tells its source at severity 1.
+QSF_API void noteReportedFault(const std::string& source, const std::string& what);
 
 /// Makes the call. Whatever it throws is reported with the text that `source()` gives, and costs this call only.
 /// Returns whether the call came back without a fault. `source` is asked only in case of a fault.
@@ -30,6 +33,8 @@ template <class Call, class Source> bool callGuarded(Call&& call, Source&& sourc
   try {
     call();
     return true;
+  } catch (const ReportedError& reported) {
+    noteReportedFault(source(), reported.what());
   } catch (const std::exception& exception) {
     reportFault(source(), exception.what());
   } catch (...) {

@@ -32,6 +32,8 @@ public:
 
   void emitMessage(const MessageConfiguration& message);
   void emitMessage(const MessageParameters& parameters);
+  /// Hears every message before its listeners do: for tools that keep a book of them. It lives as long as the host.
+  void addObserver(std::function<void(const MessageConfiguration&)> observer);
   /// Number of emitted messages of that id since the host's start; tests and tools read it.
   std::uint64_t getEmittedCount(StringHash id) const;
   /// All counts, by the text of the id where the string hash manager knows it and else by its number.
@@ -51,6 +53,7 @@ private:
   std::unordered_map<StringHash, std::uint64_t> mEmitted;
   std::set<StringHash> mIdsWithEndedListeners;
   std::set<std::string> mNames;
+  std::vector<std::function<void(const MessageConfiguration&)>> mObservers;
   int mDepth = 0;
   bool mTooDeep = false;
 };

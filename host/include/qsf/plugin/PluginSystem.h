@@ -36,7 +36,7 @@ public:
   void setKeepLibraries(bool keep) { mKeepLibraries = keep; }
 
   /// The plug-ins that run, in the order of loading.
-  std::vector<Plugin*> getPlugins() const;
+  const std::vector<Plugin*>& getPlugins() const { return mPlugins; }
 
 private:
   struct Entry;
@@ -45,6 +45,7 @@ private:
   void release(std::unique_ptr<Entry> entry) const;
 
   std::vector<std::unique_ptr<Entry>> mEntries;
+  std::vector<Plugin*> mPlugins; ///< those of the entries
   bool mKeepLibraries = false;
 };
 

@@ -126,6 +126,8 @@ void HostSession::Internals::renewGame() {
   if (!isGame()) return;
   game.reset();
   game = std::make_unique<Game>();
+  for (unsigned int index = 1; index < options.players; ++index)
+    game->getPlayerManager()->addPlayer(index);
 }
 
 void HostSession::Internals::dropGame() {

@@ -15,4 +15,9 @@ void reportFault(const std::string& source, const std::string& what) {
   logMessage(LogSystem::ERROR, text);
 }
 
+void noteReportedFault(const std::string& source, const std::string& what) {
+  if (const Qsf* host = Qsf::instance()) host->getFaultCounter().add("Fault in " + source + ": " + what);
+  logMessage(LogSystem::DEBUG, "The fault above has ended " + source);
+}
+
 }

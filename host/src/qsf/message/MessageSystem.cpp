@@ -55,6 +55,8 @@ void MessageSystem::emitMessage(const MessageParameters& parameters) {
     return;
   }
   ++mEmitted[message.getId()];
+  for (const auto& observer : mObservers)
+    observer(message);
   const auto found = mListeners.find(message.getId());
   if (found == mListeners.end()) return;
 
@@ -73,6 +75,10 @@ void MessageSystem::emitMessage(const MessageParameters& parameters) {
     mTooDeep = false;
     removeEndedListeners();
   }
+}
+
+void MessageSystem::addObserver(std::function<void(const MessageConfiguration&)> observer) {
+  mObservers.push_back(std::move(observer));
 }
 
 std::uint64_t MessageSystem::getEmittedCount(StringHash id) const {

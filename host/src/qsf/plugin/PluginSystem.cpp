@@ -59,6 +59,7 @@ Plugin* PluginSystem::start(std::unique_ptr<Entry> entry) {
   if (installed)
     callGuarded([&] { started = plugin.onStartup(); }, [&] { return "the start of plug-in '" + name + "'"; });
   if (started) {
+    mPlugins.push_back(&plugin);
     mEntries.push_back(std::move(entry));
     return &plugin;
   }
@@ -89,15 +90,9 @@ void PluginSystem::unloadPlugins() {
     end(*mEntries.back());
     std::unique_ptr<Entry> entry = std::move(mEntries.back());
     mEntries.pop_back();
+    mPlugins.pop_back();
     release(std::move(entry));
   }
-}
-
-std::vector<Plugin*> PluginSystem::getPlugins() const {
-  std::vector<Plugin*> plugins;
-  for (const auto& entry : mEntries)
-    plugins.push_back(entry->plugin.get());
-  return plugins;
 }
 
 }

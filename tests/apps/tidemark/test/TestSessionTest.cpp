@@ -9,18 +9,19 @@ namespace {
 
 TEST(TestSession, SettingsReachTheHost) {
   bool looked = false;
-  const auto failures =
-      runWith("$ @language de\n$ @account Ada\n$ @game campaign\n$ @seed 7\n$ @for 0\n$ @expect triggers 0\n",
-              [&](TestSession& session) {
-                const em5::HostSession::Options& options = session.host().getOptions();
-                EXPECT_EQ(options.language, "de");
-                EXPECT_EQ(options.account, "Ada");
-                EXPECT_EQ(options.gameMode, em5::GameModeType::CAMPAIGN);
-                EXPECT_EQ(options.seed, 7u);
-                EXPECT_EQ(options.kind, em5::HostSession::Kind::GAME);
-                EXPECT_EQ(options.logThreshold, 0);
-                looked = true;
-              });
+  const auto failures = runWith(
+      "$ @language de\n$ @account Ada\n$ @game campaign\n$ @players 3\n$ @seed 7\n$ @for 0\n$ @expect triggers 0\n",
+      [&](TestSession& session) {
+        const em5::HostSession::Options& options = session.host().getOptions();
+        EXPECT_EQ(options.language, "de");
+        EXPECT_EQ(options.account, "Ada");
+        EXPECT_EQ(options.gameMode, em5::GameModeType::CAMPAIGN);
+        EXPECT_EQ(options.seed, 7u);
+        EXPECT_EQ(options.players, 3u);
+        EXPECT_EQ(options.kind, em5::HostSession::Kind::GAME);
+        EXPECT_EQ(options.logThreshold, 0);
+        looked = true;
+      });
   EXPECT_TRUE(looked);
   EXPECT_TRUE(failures.empty());
 }

@@ -210,7 +210,9 @@ TEST(ScriptParser, MessagesOfALoadAreKeptWithTheirLines) {
 struct MouseOf : ReadingHost {
   explicit MouseOf(std::vector<std::string> descriptions) : buttons(std::move(descriptions)) {}
   std::vector<std::string> mouseButtons() const override { return buttons; }
+  std::vector<KeyboardKey> keyboardKeys() const override { return keys; }
   std::vector<std::string> buttons;
+  std::vector<KeyboardKey> keys;
 };
 
 TEST(ScriptParser, ReadsForTheMachineThatItIsTold) {
@@ -219,6 +221,22 @@ TEST(ScriptParser, ReadsForTheMachineThatItIsTold) {
   EXPECT_TRUE(parser.parseText(text, "f", "p")->triggers()[0]->conditions.empty()) << "no host, no mouse";
   EXPECT_EQ(parser.parseText(text, "f", "p", MouseOf({"Left", "Right"}))->triggers()[0]->conditions.size(), 1u);
   EXPECT_TRUE(parser.parseText(text, "f", "p", MouseOf({"Left"}))->triggers()[0]->conditions.empty());
+}
+
+TEST(ScriptParser, AKeyIsTheFirstThatHasTheTextAsDescriptionOrName) {
+  MouseOf host({});
+  host.keys = {{"Alpha", "A"}, {"A", "B"}, {"B", "C"}};
+  const auto keyOf = [&](const std::string& hotkey) {
+    const auto program =
+        ScriptParser().parseText("InitNewTrigger();\nIsHotkeyPressed(\"" + hotkey + "\");", "f", "p", host);
+    EXPECT_EQ(program->triggers()[0]->conditions.size(), program->keys().size());
+    return program->keys().empty() ? "" : program->keys()[0];
+  };
+  EXPECT_EQ(keyOf("A"), "Alpha") << "of two keys with that text the lower index";
+  EXPECT_EQ(keyOf("B"), "A");
+  EXPECT_EQ(keyOf("C"), "B");
+  EXPECT_EQ(keyOf("Alpha"), "Alpha");
+  EXPECT_EQ(keyOf("D"), "");
 }
 
 TEST(ScriptParser, TheTriggerOfALine) {

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <span>
 #include <stdexcept>
 
 namespace {
@@ -72,8 +73,7 @@ TEST_F(MessageSystemTest, HandsOverParametersAndTakesAResponse) {
     EXPECT_FALSE(parameters.getParameter("number", wrongType));
     EXPECT_FALSE(parameters.getParameter("missing", number));
     EXPECT_EQ(parameters.getFilter(1), 5u);
-    EXPECT_EQ(parameters.getFilter(2), qsf::UNINITIALIZED_ID);
-    EXPECT_EQ(parameters.getFilter(9), qsf::UNINITIALIZED_ID);
+    EXPECT_EQ(parameters.getMessage().getFilters().size(), 1u);
     parameters.setResponse(MessageParameters::RESPONSE_BLOCK);
   });
   MessageParameters parameters(MessageConfiguration(ID, 5));
@@ -83,6 +83,84 @@ TEST_F(MessageSystemTest, HandsOverParametersAndTakesAResponse) {
   EXPECT_EQ(number, 12);
   EXPECT_EQ(wrongType, "unchanged");
   EXPECT_EQ(parameters.getResponse(), MessageParameters::RESPONSE_BLOCK);
+}
+
+TEST_F(MessageSystemTest, AFilterThatWasNotGivenIsToldInOneLineAndCostsThatCallback) {
+  for (const unsigned int number : {0u, 2u, 3u, 4u}) {
+    lines.clear();
+    calls.clear();
+    MessageProxy proxy, behind;
+    proxy.registerAt(ID, [&](const MessageParameters& parameters) {
+      parameters.getFilter(number);
+      calls += "never ";
+    });
+    behind.registerAt(ID, note("behind"));
+    emit(MessageConfiguration(ID, 5));
+    EXPECT_EQ(calls, "behind") << number;
+    ASSERT_EQ(lines.size(), 1u) << number;
+    EXPECT_EQ(lines[0], "4 Invalid index for MessageConfiguration::getFilter()");
+  }
+  EXPECT_EQ(host.getFaultCounter().getCount(), 4u);
+  EXPECT_EQ(host.getFaultCounter().getLastFault(), "Fault in a listener to message " + std::to_string(ID.getHash()) +
+                                                       ": Invalid index for MessageConfiguration::getFilter()");
+}
+
+TEST_F(MessageSystemTest, AFilterMayBeGivenAsUninitialised) {
+  const MessageConfiguration message(ID, 5, qsf::UNINITIALIZED_ID);
+  EXPECT_EQ(message.getFilter(2), qsf::UNINITIALIZED_ID);
+  EXPECT_THROW(message.getFilter(3), std::runtime_error);
+}
+
+TEST_F(MessageSystemTest, FiltersOfAListAreThoseThatAreGivenOneByOne) {
+  const std::uint64_t filters[] = {1, 2, 3, 4};
+  EXPECT_TRUE(MessageConfiguration(ID, std::span(filters, 0)).getFilters().empty());
+  EXPECT_THROW(MessageConfiguration(ID, std::span(filters, 1)).getFilter(2), std::runtime_error);
+  const MessageConfiguration all(ID, filters);
+  EXPECT_EQ(all.getFilters().size(), 3u);
+  EXPECT_EQ(all.getFilter(3), 3u);
+}
+
+TEST_F(MessageSystemTest, AParameterFromATextIsReadAsTheTypeThatIsAskedFor) {
+  MessageParameters parameters{MessageConfiguration(ID)};
+  parameters.setParameterFromText("text", "12 engines");
+  parameters.setParameterFromText("number", "300");
+  parameters.setParameterFromText("negative", "-2");
+  parameters.setParameterFromText("flag", "true");
+  std::string text;
+  std::uint64_t id = 7;
+  int number = 0;
+  float decimal = 0;
+  unsigned char small = 7;
+  bool flag = false;
+  EXPECT_TRUE(parameters.getParameter("text", text));
+  EXPECT_EQ(text, "12 engines");
+  EXPECT_FALSE(parameters.getParameter("text", id));
+  EXPECT_FALSE(parameters.getParameter("negative", id));
+  EXPECT_EQ(id, 7u);
+  EXPECT_TRUE(parameters.getParameter("number", id));
+  EXPECT_EQ(id, 300u);
+  EXPECT_TRUE(parameters.getParameter("negative", number));
+  EXPECT_EQ(number, -2);
+  EXPECT_TRUE(parameters.getParameter("number", decimal));
+  EXPECT_EQ(decimal, 300.0f);
+  EXPECT_FALSE(parameters.getParameter("number", small)) << "it can't hold it";
+  EXPECT_EQ(small, 7);
+  EXPECT_FALSE(parameters.getParameter("number", flag));
+  EXPECT_TRUE(parameters.getParameter("flag", flag));
+  EXPECT_TRUE(flag);
+  const void* pointer = nullptr;
+  EXPECT_FALSE(parameters.getParameter("number", pointer));
+}
+
+TEST_F(MessageSystemTest, AnObserverHearsEveryMessageBeforeItsListeners) {
+  host.getMessageSystem().addObserver([this](const MessageConfiguration& message) {
+    calls += "[" + std::to_string(message.getFilters().size()) + "]";
+  });
+  MessageProxy proxy;
+  proxy.registerAt(ID, note("heard"));
+  emit(MessageConfiguration(ID, 1, 2));
+  emit(StringHash("test::Other"));
+  EXPECT_EQ(calls, "[2]heard[0]");
 }
 
 TEST_F(MessageSystemTest, AListenerRegisteredInsideHearsTheNextMessage) {

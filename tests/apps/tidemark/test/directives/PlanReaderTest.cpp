@@ -104,7 +104,7 @@ TEST(PlanReader, SectionsBelongToTheModificationBeforeThem) {
 TEST(PlanReader, SettingsAreRead) {
   const TestPlan plan = readGood(EXPECTATION + "$ @mode MAP_STARTUP\n$ @maps a b\n$ @encoding cp1252\n$ @eol crlf\n$ "
                                                "@map m\n$ @game campaign\n$ @editor\n$ @language de\n"
-                                               "$ @account Ada\n$ @seed 7\n$ @tick 0.1\n$ @for 3.2\n");
+                                               "$ @account Ada\n$ @players 2\n$ @seed 7\n$ @tick 0.1\n$ @for 3.2\n");
   EXPECT_EQ(plan.projects[0].scripts[0].mode, "MAP_STARTUP");
   EXPECT_EQ(plan.mainMaps, (std::vector<std::string>{"a", "b"}));
   EXPECT_EQ(plan.encoding, TestPlan::Encoding::CODE_PAGE_1252);
@@ -114,6 +114,7 @@ TEST(PlanReader, SettingsAreRead) {
   EXPECT_TRUE(plan.editor);
   EXPECT_EQ(plan.language, "de");
   EXPECT_EQ(plan.account, "Ada");
+  EXPECT_EQ(plan.players, 2u);
   EXPECT_EQ(plan.seed, 7u);
   EXPECT_EQ(plan.numberOfFrames(), 32u);
 }
@@ -244,6 +245,22 @@ INSTANTIATE_TEST_SUITE_P(
         Fault{"$ @at 0 push 100 a first", "unexpected word 'first'"},
         Fault{"$ @expect element doc e text == x", "not available yet"},
         Fault{"$ @at 0 click doc e", "not available yet"}, Fault{"$ @at 0 emit m 1 2 3 4", "up to three filters"},
+        Fault{"$ @at 0 emit m with x", "'x' is no PARAMETER=VALUE"},
+        Fault{"$ @at 0 emit m with =x", "is no PARAMETER=VALUE"},
+        Fault{"$ @at 0 emit m with", "PARAMETER=VALUE behind 'with' is missing"},
+        Fault{"$ @at 0 emit m with a=1 5", "unexpected word '5'"},
+        Fault{"$ @at 0 say", "the text of the log line is missing"},
+        Fault{"$ @at 0 assetid s", "the asset's name is missing"}, Fault{"$ @players 0", "1 to 4 players"},
+        Fault{"$ @players 5", "1 to 4 players"}, Fault{"$ @players", "the number of players is missing"},
+        Fault{"$ @expect message m with never", "behind 'with' stands a filter"},
+        Fault{"$ @expect message m with", "behind 'with' stands a filter"},
+        Fault{"$ @expect log containing a before", "the second text is missing"},
+        Fault{"$ @expect bid heal", "'priority' is missing"},
+        Fault{"$ @expect bid heal priority 5", "'unarmed' is missing"},
+        Fault{"$ @expect bid heal priority high armed", "is no number"},
+        Fault{"$ @expect no bid", "the command's name is missing"},
+        Fault{"$ @expect trigger T callers 100", "where '==' stands"},
+        Fault{"$ @expect trigger T target", "an entity's id is missing"},
         Fault{"$ @at 0 variable x 1", "where '=' stands"}, Fault{"$ @at 0 mouse jump", "behind 'mouse'"},
         Fault{"$ @entity x", "is no id"}, Fault{"$ @entity 100 blue", "unexpected word 'blue'"},
         Fault{"$ @entity 100 at 1 2", "the z value is missing"}, Fault{"$ @set 100 X 1", "is no COMPONENT.PROPERTY"},
