@@ -44,7 +44,14 @@ namespace script {
   ENTRY(PlayLocalSoundWithCustomVolume)                                                                                \
   ENTRY(PushWaitUntilPropertyIsValueAction)                                                                            \
   ENTRY(PushSetCampPropertyAction)                                                                                     \
-  ENTRY(WriteActionPlanToStringVar)
+  ENTRY(WriteActionPlanToStringVar)                                                                                    \
+  ENTRY(FlagPersonAsDrunk)                                                                                             \
+  ENTRY(SetSirenState)                                                                                                 \
+  ENTRY(OpenDoor)                                                                                                      \
+  ENTRY(SetRenderQueueId)                                                                                              \
+  ENTRY(ForceHelicopterFlying)                                                                                         \
+  ENTRY(SendCarTowed)                                                                                                  \
+  ENTRY(AddEntityToComponentArray)
 EFFECT_GROUP(ScenarioEffects_Brill, MANIFEST)
 
 }

@@ -38,7 +38,11 @@ namespace script {
   ENTRY(AddValueListToRoot)                                                                                            \
   ENTRY(AddValueToValueList)                                                                                           \
   ENTRY(ReadJson)                                                                                                      \
-  ENTRY(GetValueFromJson)
+  ENTRY(GetValueFromJson)                                                                                              \
+  ENTRY(LightOnOff)                                                                                                    \
+  ENTRY(ToggleLight)                                                                                                   \
+  ENTRY(SetStatusIcon)                                                                                                 \
+  ENTRY(SetStatusBar)
 EFFECT_GROUP(ScenarioEffects_Tarn, MANIFEST)
 
 }

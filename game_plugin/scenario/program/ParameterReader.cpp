@@ -5,6 +5,7 @@
 #include "game_plugin/scenario/language/CompareValues.h"
 #include "game_plugin/scenario/program/ProgramBuilder.h"
 
+#include <boost/algorithm/string/case_conv.hpp>
 #include <boost/lexical_cast.hpp>
 
 #include <algorithm>
@@ -109,14 +110,31 @@ ParameterText ParameterReader::comparison(int i, Text def, Text name, Text text)
 
 ParameterText ParameterReader::words(int i, Text def, Text name, Text text, WordList accepted) {
   const ParameterText result = read(ParameterRole::WORDS, i, def, name, text);
-  if (mDocumentation) {
-    mDocumentation->back().words.assign(accepted.begin(), accepted.end());
-  } else if (hints::isOn() && result != def && !result.starts_with("svar(") &&
-             std::ranges::find(accepted, Text(result)) == accepted.end()) {
-    hints::tell(HintKind::WORD, "\"" + std::string(result) + "\" is no word that " + std::string(name) + " knows",
-                hints::nearest(result, accepted));
-  }
+  if (mDocumentation)
+    documentWords(accepted);
+  else if (hints::isOn())
+    hintUnknownWord(result, result, def, name, accepted);
   return result;
+}
+
+ParameterText ParameterReader::wordsInAnyCase(int i, Text def, Text name, Text text, WordList accepted) {
+  const ParameterText result = read(ParameterRole::WORDS, i, def, name, text);
+  if (mDocumentation)
+    documentWords(accepted);
+  else if (hints::isOn())
+    hintUnknownWord(result, boost::algorithm::to_upper_copy(std::string(result)), def, name, accepted);
+  return result;
+}
+
+void ParameterReader::documentWords(WordList accepted) {
+  mDocumentation->back().words.assign(accepted.begin(), accepted.end());
+}
+
+void ParameterReader::hintUnknownWord(Text word, Text compared, Text defaultValue, Text name, WordList accepted) const {
+  if (word == defaultValue || word.starts_with("svar(") || std::ranges::find(accepted, compared) != accepted.end())
+    return;
+  hints::tell(HintKind::WORD, "\"" + std::string(word) + "\" is no word that " + std::string(name) + " knows",
+              hints::nearest(compared, accepted));
 }
 
 bool ParameterReader::flag(int i, bool def, Text name, Text text) {

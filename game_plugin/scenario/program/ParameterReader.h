@@ -114,6 +114,8 @@ public:
   ParameterText comparison(int i, Text def, Text name, Text text);
   /// One of some words, which stand in the table that the entry looks it up in.
   ParameterText words(int i, Text def, Text name, Text text, WordList accepted);
+  /// The same for an entry that turns the text into capitals before it looks it up; the table holds capitals.
+  ParameterText wordsInAnyCase(int i, Text def, Text name, Text text, WordList accepted);
   /// A text of one of the seldom roles.
   ParameterText of(ParameterRole role, int i, Text def, Text name, Text text) { return read(role, i, def, name, text); }
 
@@ -127,6 +129,8 @@ public:
 
 private:
   ParameterText read(ParameterRole role, int index, Text defaultValue, Text name, Text description);
+  void documentWords(WordList accepted);
+  void hintUnknownWord(Text word, Text compared, Text defaultValue, Text name, WordList accepted) const;
   /// The token at that position; null if it is missing and the default stands in for it.
   const syntax::Token* find(int index, Text name) const;
   template <class T> T convert(ParameterRole role, int index, T defaultValue, Text name, Text description);

@@ -9,6 +9,8 @@
 ///   `const em5::CommandContext*`. A response of RESPONSE_BLOCK forbids the command.
 /// - EM5_CHANGE_SELECTION: the player's selection, or what is shown of it, is another.
 /// - EM5_SPAWN_ENTITY: filter 1 an entity that has come to be in a running game; the map's own ones are not told.
+/// - EM5_SPAWN_UNIT: filter 1 a player's new unit, filter 2 where it came from, filter 3 what its maker says of it.
+/// - EM5_ACTION_CAR_PICKED_UP_BY_TOWCAR: filter 1 a vehicle that was towed away.
 /// - EM5_ACTION_ENTER_VEHICLE: filter 1 a person, filter 2 the vehicle that it is in now.
 /// - EM5_ACTION_GET_EQUIPMENT: filter 1 a person, filter 2 the equipment that it holds now.
 /// - EM5_ACTION_SPEAK_TO_PERSON: filter 1 and parameter "PolicemanId" who has spoken, filter 2 and parameter "PersonId"
@@ -19,6 +21,8 @@
   MESSAGE(EM5_PRE_COMMAND_EXECUTE)                                                                                     \
   MESSAGE(EM5_CHANGE_SELECTION)                                                                                        \
   MESSAGE(EM5_SPAWN_ENTITY)                                                                                            \
+  MESSAGE(EM5_SPAWN_UNIT)                                                                                              \
+  MESSAGE(EM5_ACTION_CAR_PICKED_UP_BY_TOWCAR)                                                                          \
   MESSAGE(EM5_ACTION_ENTER_VEHICLE)                                                                                    \
   MESSAGE(EM5_ACTION_GET_EQUIPMENT)                                                                                    \
   MESSAGE(EM5_ACTION_SPEAK_TO_PERSON)

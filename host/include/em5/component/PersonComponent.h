@@ -5,7 +5,7 @@
 namespace em5 {
 
 /// A person. Properties "EquipmentId" (the entity held as active equipment), "ContainerId" (the vehicle or building
-/// that the person is in), "Gangster", "Drunken", "Masked" (wears its breathing
+/// that the person is in), "Gangster", "Drunk", "Masked" (wears its breathing
 /// mask and suit).
 class QSF_API PersonComponent : public qsf::Component {
   CAMP_RTTI()
@@ -26,6 +26,9 @@ public:
   void setGangsterFlag(bool gangster) { mGangster = gangster; }
   bool isDrunken() const { return mDrunken; }
   void setDrunken(bool drunken) { mDrunken = drunken; }
+  enum PersonFlag { PERSON_FLAG_DRUNK = 0 };
+  /// Sets or clears a flag by its number; one that isn't in PersonFlag does nothing.
+  void setPersonFlags(int flag, bool set);
   bool isMasked() const { return mMasked; }
   void setMasked(bool masked) { mMasked = masked; }
 

@@ -8,8 +8,8 @@
 
 namespace em5 {
 
-/// The icons and bars that the player sees over an entity. What shows stays until it is hidden. Numbers beyond the
-/// enumerations are kept as they are.
+/// The icons and bars that the player sees over an entity. What shows stays until it is hidden. Numbers that no
+/// icon or bar has, the counts of the enumerations among them, show nothing.
 class QSF_API StatusOverlayComponent : public qsf::Component {
   CAMP_RTTI()
 public:

@@ -1,5 +1,4 @@
 #pragma once
-#include "qsf/asset/AssetProxy.h"
 #include "qsf/component/Component.h"
 
 #include <glm/glm.hpp>
@@ -54,27 +53,8 @@ private:
   float mRadius = 10;
 };
 
-/// Smoke, sparks, spray. Properties "Particles" (local asset name), "Playing".
-class QSF_API ParticlesComponent : public Component {
-  CAMP_RTTI()
-public:
-  static constexpr StringHash COMPONENT_ID{"qsf::ParticlesComponent"};
-  explicit ParticlesComponent(Prototype* prototype) : Component(prototype) {}
-  static void declareCamp();
-
-  const AssetProxy& getParticles() const { return mParticles; }
-  void setParticles(const AssetProxy& particles) { mParticles = particles; }
-  bool isPlaying() const { return mPlaying; }
-  void setPlaying(bool playing) { mPlaying = playing; }
-
-private:
-  AssetProxy mParticles;
-  bool mPlaying = true;
-};
-
 }
 CAMP_TYPE_NONCOPYABLE(qsf::TerrainComponent)
 CAMP_TYPE_NONCOPYABLE(qsf::StreetCrossingComponent)
 CAMP_TYPE_NONCOPYABLE(qsf::StreetSectionComponent)
 CAMP_TYPE_NONCOPYABLE(qsf::LightComponent)
-CAMP_TYPE_NONCOPYABLE(qsf::ParticlesComponent)

@@ -16,8 +16,12 @@ void PersonComponent::declareCamp() {
       .property("ContainerId", &PersonComponent::getContainerId, &PersonComponent::setContainerId)
       .tag(qsf::UNSIGNED_TAG)
       .property("Gangster", &PersonComponent::isGangster, &PersonComponent::setGangsterFlag)
-      .property("Drunken", &PersonComponent::isDrunken, &PersonComponent::setDrunken)
+      .property("Drunk", &PersonComponent::isDrunken, &PersonComponent::setDrunken)
       .property("Masked", &PersonComponent::isMasked, &PersonComponent::setMasked);
+}
+
+void PersonComponent::setPersonFlags(int flag, bool set) {
+  if (flag == PERSON_FLAG_DRUNK) setDrunken(set);
 }
 
 }

@@ -14,6 +14,7 @@ void StatusOverlayComponent::declareCamp() {
 }
 
 void StatusOverlayComponent::showIcon(qsf::Entity& entity, int icon, bool visible) {
+  if (icon < 0 || icon >= STATUS_ICON_COUNT) return;
   if (visible)
     entity.getOrCreateComponent<StatusOverlayComponent>()->mIcons.insert(icon);
   else if (auto* overlay = entity.getComponent<StatusOverlayComponent>())
@@ -21,6 +22,7 @@ void StatusOverlayComponent::showIcon(qsf::Entity& entity, int icon, bool visibl
 }
 
 void StatusOverlayComponent::showBarOverlay(qsf::Entity& entity, int bar, float progress) {
+  if (bar < 0 || bar >= BAR_COUNT) return;
   entity.getOrCreateComponent<StatusOverlayComponent>()->mBars[bar] = progress;
 }
 

@@ -36,12 +36,4 @@ void LightComponent::declareCamp() {
       .property("Radius", &LightComponent::getRadius, &LightComponent::setRadius);
 }
 
-static const DeclaredClass<ParticlesComponent> particlesComponentClass;
-
-void ParticlesComponent::declareCamp() {
-  declare<ParticlesComponent>("qsf::ParticlesComponent")
-      .property("Particles", &ParticlesComponent::getParticles, &ParticlesComponent::setParticles)
-      .property("Playing", &ParticlesComponent::isPlaying, &ParticlesComponent::setPlaying);
-}
-
 }

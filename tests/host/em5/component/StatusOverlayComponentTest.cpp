@@ -33,6 +33,14 @@ TEST_F(StatusOverlayComponentTest, ABarShowsItsProgressUntilItIsHidden) {
   EXPECT_TRUE(overlay->getVisibleBars().empty());
 }
 
+TEST_F(StatusOverlayComponentTest, NumbersBeyondTheEnumerationsShowNothing) {
+  for (const int icon : {-1, static_cast<int>(em5::STATUS_ICON_COUNT), 1000})
+    StatusOverlayComponent::showIcon(entity, icon, true);
+  for (const int bar : {-1, static_cast<int>(em5::BAR_COUNT), 1000})
+    StatusOverlayComponent::showBarOverlay(entity, bar, 1);
+  EXPECT_EQ(nullptr, entity.getComponent<StatusOverlayComponent>());
+}
+
 TEST_F(StatusOverlayComponentTest, HidingWhatNeverShowedMakesNoComponent) {
   StatusOverlayComponent::hideBarOverlay(entity, em5::BAR_TYPE_PROGRESS);
   StatusOverlayComponent::showIcon(entity, em5::STATUS_ICON_TREE, false);
