@@ -4,9 +4,14 @@
 #include "game_plugin/action/SetCampPropertyAction.h"
 #include "game_plugin/action/UseEquipmentAction.h"
 #include "game_plugin/action/WaitUntilPropertyIsValue.h"
+#include "game_plugin/component/EventTargetComponent.h"
 #include "game_plugin/component/MP_LOG_COMPONENT.h"
+#include "game_plugin/component/MeshAnimationComponent.h"
+#include "game_plugin/component/NewDoorComponent.h"
 #include "game_plugin/component/OpenHouseComponent.h"
 #include "game_plugin/component/ScenarioCommandableComponent.h"
+#include "game_plugin/event/ScenarioEvent.h"
+#include "game_plugin/event/ScenarioEventFactory.h"
 
 namespace script {
 
@@ -26,9 +31,14 @@ std::vector<const camp::Class*> declareCampClasses() {
       declareOnce<SetCampPropertyAction>(),
       declareOnce<WaitUntilPropertyIsValue>(),
       declareOnce<PlayLocalSoundWithCustomVolume>(),
+      declareOnce<ScenarioEventFactory>(),
+      declareOnce<ScenarioEvent>(),
       declareOnce<ScenarioCommandableComponent>(),
+      declareOnce<EventTargetComponent>(),
+      declareOnce<bt::NewDoorComponent>(),
       declareOnce<OpenHouseComponent>(),
       declareOnce<MP_LOG_COMPONENT>(),
+      declareOnce<scenario::MeshAnimationComponent>(),
   };
 }
 

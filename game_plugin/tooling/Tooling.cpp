@@ -1,6 +1,8 @@
 #include "game_plugin/tooling/Tooling.h"
 
+#include "game_plugin/component/EventTargetComponent.h"
 #include "game_plugin/component/MP_LOG_COMPONENT.h"
+#include "game_plugin/event/ScenarioEvent.h"
 #include "game_plugin/scenario/hints/ExecutionPoint.h"
 #include "game_plugin/scenario/hints/Hints.h"
 #include "game_plugin/scenario/lifecycle/MapScriptManager.h"
@@ -8,6 +10,7 @@
 #include "game_plugin/scenario/loading/ProgramCache.h"
 #include "game_plugin/scenario/messages/MessageNames.h"
 #include "game_plugin/scenario/stores/JsonStore.h"
+#include "game_plugin/scenario/world/EntityAccess.h"
 
 #include "em5/game/Game.h"
 #include "em5/gui/EmergencyGui.h"
@@ -291,6 +294,19 @@ public:
   }
 
   void setPlayerLogFolder(const std::string& folder) override { MP_LOG_COMPONENT::setFolder(folder); }
+
+  std::vector<ScenarioEventView> getScenarioEvents() const override {
+    std::vector<ScenarioEventView> views;
+    for (const ScenarioEvent* event : getCurrentScenarioEvents())
+      views.push_back({event->uniqueId, event->getId(), event->getEventType(), event->allowedToFinish});
+    return views;
+  }
+
+  std::vector<std::string> getEventTargets(std::uint64_t entityId) const override {
+    const qsf::Entity* entity = findEntity(entityId);
+    const auto* target = entity ? entity->getComponent<EventTargetComponent>() : nullptr;
+    return target ? target->getObjectiveIds() : std::vector<std::string>();
+  }
 
   void reload() override {
     const bool hasGame = static_cast<bool>(qsf::UniqueInstance<em5::Game>());

@@ -95,6 +95,14 @@ struct CommandBidView {
   bool armed = false; ///< the conditions of its trigger held when they were tested last
 };
 
+/// An event that scripts drive.
+struct ScenarioEventView {
+  std::int32_t uniqueId = -1;
+  std::uint64_t eventId = 0; ///< the host's
+  std::string eventType;
+  bool allowedToFinish = false;
+};
+
 enum class StoreKind { VARIABLES, STRINGS, LISTS, BOOLS, JSONS, STRING_LISTS };
 
 /// What tools may see and do. The object lives as long as the module is loaded. Scripts are addressed by their index in
@@ -147,6 +155,11 @@ public:
   virtual bool setBool(std::size_t script, const std::string& name, bool value) = 0;
   virtual bool setList(std::optional<std::size_t> script, const std::string& name,
                        const std::vector<std::uint64_t>& ids) = 0;
+
+  /// Those that run, oldest first.
+  virtual std::vector<ScenarioEventView> getScenarioEvents() const = 0;
+  /// Text ids of the objectives that wait for an entity, in order.
+  virtual std::vector<std::string> getEventTargets(std::uint64_t entityId) const = 0;
 
   /// What the debugger's reload button does: a new manager reads all files anew and starts the scripts of the running
   /// map.

@@ -11,6 +11,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -69,6 +70,8 @@ public:
   const TestPlan& plan() const { return mPlan; }
   const LogBook& log() const { return mLog; }
   const MessageBook& messages() const { return mMessages; }
+  /// The running events as they were saved last; nothing if they never were.
+  std::optional<std::string>& savedEvents() { return mSavedEvents; }
   em5::HostSession& host() const { return *mHost; }
   script::tooling::Tooling& tooling() const;
 
@@ -107,6 +110,7 @@ private:
   std::size_t mNextStep = 0;
   std::uint64_t mFrame = 0; ///< the one that runs, or ran last; 0 before the first
   bool mCompleted = false;
+  std::optional<std::string> mSavedEvents;
   Outcome mOutcome;
 };
 

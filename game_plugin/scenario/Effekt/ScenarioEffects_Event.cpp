@@ -3,6 +3,23 @@
 
 namespace script {
 
-EMPTY_EFFECT_GROUP(ScenarioEffects_Event)
+// The entries in the order in which they are asked; each stands in a file of its name.
+#define MANIFEST(ENTRY)                                                                                                \
+  ENTRY(StartScriptedEvent)                                                                                            \
+  ENTRY(AllowScriptedEventToFinish)                                                                                    \
+  ENTRY(SetUniqueIdofNewEvent)                                                                                         \
+  ENTRY(SetScriptedScenarioName)                                                                                       \
+  ENTRY(CreateObjective)                                                                                               \
+  ENTRY(ObjectiveSetCurrentNumber)                                                                                     \
+  ENTRY(ObjectiveSetRequiredNumber)                                                                                    \
+  ENTRY(DecreaseRequiredNumber)                                                                                        \
+  ENTRY(AddEventFailConditionBurningObjects)                                                                           \
+  ENTRY(AddEventFailConditionDiedPersons)                                                                              \
+  ENTRY(AddEntitiesToEventObjective)                                                                                   \
+  ENTRY(EntityOperationIsDone)                                                                                         \
+  ENTRY(AddEntitiesByEventTagToEntityList)                                                                             \
+  ENTRY(ObjectStartBurning)                                                                                            \
+  ENTRY(ObjectInjure)
+EFFECT_GROUP(ScenarioEffects_Event, MANIFEST)
 
 }

@@ -1,7 +1,16 @@
+#include "game_plugin/scenario/program/EntryGroup.h"
 #include "game_plugin/scenario/tick/ScenarioConditions.h"
 
 namespace script {
 
-EMPTY_CONDITION_GROUP(ScenarioConditions_Event)
+// The entries in the order in which they are asked; each stands in a file of its name.
+#define MANIFEST(ENTRY)                                                                                                \
+  ENTRY(NumberOfActiveEvents)                                                                                          \
+  ENTRY(ScenarioEventIsRunning)                                                                                        \
+  ENTRY(NewScenarioEventWasTriggered)                                                                                  \
+  ENTRY(ScenarioEventIsOfEventtype)                                                                                    \
+  ENTRY(HasEntityEventObjective)                                                                                       \
+  ENTRY(IsEboxRepaired)
+CONDITION_GROUP(ScenarioConditions_Event, MANIFEST)
 
 }

@@ -17,6 +17,7 @@ namespace tidemark::test {
   THEME(Message)                                                                                                       \
   THEME(Device)                                                                                                        \
   THEME(Gamepad)                                                                                                       \
+  THEME(Event)                                                                                                         \
   THEME(Lifecycle)
 #define EXPECTATION_THEMES(THEME)                                                                                      \
   THEME(Log)                                                                                                           \
@@ -31,6 +32,7 @@ namespace tidemark::test {
   THEME(Plan)                                                                                                          \
   THEME(Overlay)                                                                                                       \
   THEME(Bone)                                                                                                          \
+  THEME(Event)                                                                                                         \
   THEME(Property) // the last: it takes whatever else stands behind an entity
 
 #define DECLARE_ACTIONS(NAME) std::optional<Action> read##NAME##Action(WordCursor& words);

@@ -15,6 +15,10 @@
 /// - EM5_ACTION_GET_EQUIPMENT: filter 1 a person, filter 2 the equipment that it holds now.
 /// - EM5_ACTION_SPEAK_TO_PERSON: filter 1 and parameter "PolicemanId" who has spoken, filter 2 and parameter "PersonId"
 ///   to whom; both parameters are std::uint64_t.
+/// - EM5_ACTION_LOAD_PERSON_ON_DLK: filter 1 a person that the ladder vehicle has fetched.
+/// - EM5_ACTION_JUMPEDOUTOFWINDOW_PERSON: filter 1 a person that has jumped.
+/// - EM5_ACTION_REPAIRED_OR_USED: filter 1 what an engineer has repaired or used.
+/// - EM5_ACTION_FIND_ENTITY_FROM_DIVINGSPOT: filter 1 a diving spot, filter 2 what a diver has found there.
 #define EM5_MESSAGES(MESSAGE)                                                                                          \
   MESSAGE(GAME_STARTUP_FINISHED)                                                                                       \
   MESSAGE(GAME_SHUTDOWN_STARTING)                                                                                      \
@@ -25,7 +29,11 @@
   MESSAGE(EM5_ACTION_CAR_PICKED_UP_BY_TOWCAR)                                                                          \
   MESSAGE(EM5_ACTION_ENTER_VEHICLE)                                                                                    \
   MESSAGE(EM5_ACTION_GET_EQUIPMENT)                                                                                    \
-  MESSAGE(EM5_ACTION_SPEAK_TO_PERSON)
+  MESSAGE(EM5_ACTION_SPEAK_TO_PERSON)                                                                                  \
+  MESSAGE(EM5_ACTION_LOAD_PERSON_ON_DLK)                                                                               \
+  MESSAGE(EM5_ACTION_JUMPEDOUTOFWINDOW_PERSON)                                                                         \
+  MESSAGE(EM5_ACTION_REPAIRED_OR_USED)                                                                                 \
+  MESSAGE(EM5_ACTION_FIND_ENTITY_FROM_DIVINGSPOT)
 
 namespace em5 {
 

@@ -1,10 +1,12 @@
 #pragma once
+#include "em5/audio/AudioProxy.h"
 #include "qsf/component/Component.h"
 #include "qsf/job/JobProxy.h"
 
 namespace em5 {
 
-/// A door, closed at first. Opening and closing take time. Properties "DoorState", "OpeningTime" (seconds, 2 at first).
+/// A door, closed at first. Opening and closing take time. Properties "DoorState", "OpeningTime" (seconds, 2 at first),
+/// "Sound" (local asset name of what is played once when it begins to move, to its end; empty at first).
 /// Derived doors declare their own class; the enum is declared with this one.
 class QSF_API DoorComponent : public qsf::Component {
   CAMP_RTTI()
@@ -28,15 +30,23 @@ public:
   float getOpeningTime() const { return static_cast<float>(mOpeningTime.getSecondsAsDouble()); }
   void setOpeningTime(float seconds);
 
+  const std::string& getSound() const { return mAudioProxy.getSettings().sourceFile; }
+  /// Holds from the next movement on.
+  void setSound(const std::string& sourceFile) { mAudioProxy.setSourceFile(sourceFile); }
+
 protected:
   bool onStartup() override;
   void onShutdown() override;
+  /// Plays the door's sound.
+  AudioProxy& getAudioProxy() { return mAudioProxy; }
 
 private:
   void updateJob();
+  void playSound();
   void move(const qsf::JobArguments& arguments);
 
   qsf::JobProxy mMoveJobProxy;
+  AudioProxy mAudioProxy;
   qsf::Time mOpeningTime = qsf::Time::fromMicroseconds(2'000'000);
   qsf::Time mRemaining; ///< until the movement ends
   DoorState mDoorState = DOOR_CLOSED;

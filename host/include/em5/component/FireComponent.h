@@ -2,7 +2,11 @@
 #include "qsf/component/Component.h"
 #include "qsf/job/JobProxy.h"
 
+#include <cstdint>
+
 namespace em5 {
+
+class FreeplayEvent;
 
 /// Lets its entity burn. A fire burns until it is put out; it hurts persons near it and damages the vehicle that it is
 /// on. Fires do not spread by themselves. Properties "Burning", "Burnable". See docs/host-game.md for the rates.
@@ -16,8 +20,9 @@ public:
   bool isBurning() const { return mBurning; }
   /// True starts the fire if the entity can burn, false puts it out.
   void setBurning(bool burning);
-  /// Returns whether it burns now.
-  bool startFire();
+  /// Returns whether it burns now. With an event, a fire that belongs to none yet is one of that event: its entity is
+  /// put into it (reason 1), and it has to be put out for the event to succeed.
+  bool startFire(FreeplayEvent* event = nullptr);
   void stopFire() { setBurning(false); }
 
   /// Whether it can burn, which it can while it burns, too.
@@ -31,9 +36,12 @@ protected:
 
 private:
   void updateJob();
+  void joinEvent(FreeplayEvent& event);
+  void leaveEvent();
   void burn(const qsf::JobArguments& arguments);
 
   qsf::JobProxy mFireJobProxy;
+  std::uint64_t mEventId = 0; ///< of the fire; 0 for none
   bool mBurning = false;
   bool mBurnable = true;
 };

@@ -4,8 +4,11 @@
 
 namespace em5 {
 
+class FreeplayEvent;
+
 /// How a person is. Health falls through heat; at 0 an injury sets in, the person collapses and its life falls until it
 /// is healed or dead. Properties "Injured" (setting it injures with a wound, clearing it heals), "Injury" (its name),
+/// "Dead" (setting it kills; the dead stay dead), "Collapsed" (lies on the ground),
 /// "LifeEnergy", "HealthEnergy", "MaximumLifeEnergy", "MaximumHealthEnergy". See docs/host-game.md for the rates.
 class QSF_API HealthComponent : public qsf::Component {
   CAMP_RTTI()
@@ -22,7 +25,12 @@ public:
   qsf::StringHash getInjuryId() const { return mInjuryId; }
   /// A person that is injured already or dead keeps what it has. Returns whether the injury set in.
   bool injurePersonById(qsf::StringHash injuryId);
-  void killPerson();
+  /// The same with an event, which may be null: the person is put into it (reason 1). Without `collapse` it stays on
+  /// its feet. An uninitialised injury injures nobody.
+  bool injurePersonByEventById(qsf::StringHash injuryId, FreeplayEvent* event, bool collapse = true);
+  /// With an event, the person is put into it (reason 1).
+  void killPerson(FreeplayEvent* event = nullptr);
+  bool isCollapsed() const { return mCollapsed; }
 
   float getLifeEnergy() const;
   float getHealthEnergy() const;
@@ -43,6 +51,7 @@ protected:
   void onShutdown() override;
 
 private:
+  void setDeadByReflection(bool dead);
   void setInjuryByReflection(qsf::StringHash injuryId);
   void updateJob();
   void loseLife(const qsf::JobArguments& arguments);
@@ -54,6 +63,7 @@ private:
   float mMaximumLifeEnergy = 100.0f;
   float mMaximumHealthEnergy = 100.0f;
   bool mInjured = false;
+  bool mCollapsed = false;
 };
 
 }

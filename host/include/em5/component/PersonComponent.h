@@ -2,11 +2,14 @@
 #include "qsf/base/Ids.h"
 #include "qsf/component/Component.h"
 
+#include <string>
+
 namespace em5 {
 
 /// A person. Properties "EquipmentId" (the entity held as active equipment), "ContainerId" (the vehicle or building
 /// that the person is in), "Gangster", "Drunk", "Masked" (wears its breathing
-/// mask and suit).
+/// mask and suit), "Animation" (local asset name of what it shows over and over, empty for nothing; it is played on the
+/// person's qsf::MeshAnimationComponent if it has one).
 class QSF_API PersonComponent : public qsf::Component {
   CAMP_RTTI()
 public:
@@ -29,12 +32,17 @@ public:
   enum PersonFlag { PERSON_FLAG_DRUNK = 0 };
   /// Sets or clears a flag by its number; one that isn't in PersonFlag does nothing.
   void setPersonFlags(int flag, bool set);
+  const std::string& getAnimation() const { return mAnimation; }
+  void setAnimation(const std::string& localAssetName);
+  void clearAnimation() { setAnimation(""); }
+
   bool isMasked() const { return mMasked; }
   void setMasked(bool masked) { mMasked = masked; }
 
 private:
   std::uint64_t mEquipmentId = qsf::UNINITIALIZED_ID;
   std::uint64_t mContainerId = qsf::UNINITIALIZED_ID;
+  std::string mAnimation;
   bool mGangster = false;
   bool mDrunken = false;
   bool mMasked = false;

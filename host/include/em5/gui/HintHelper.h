@@ -32,7 +32,8 @@ public:
   /// Messages that are up, oldest first.
   static const std::deque<SupervisorMessage>& getCurrentSupervisorMessages();
 
-  /// One of the text ids of a list with commas, drawn from the game's random source; a single one is drawn without it.
+  /// The localised text of an id; of one that holds several texts with `|` between, one is drawn from the game's random
+  /// source. A text that is no id comes back as it is.
   static std::string getRandomStringOfIdString(const std::string& idString);
 
   /// For the host: lets real time pass for both.

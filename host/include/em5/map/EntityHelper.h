@@ -7,6 +7,7 @@
 
 namespace em5 {
 
+class FreeplayEvent;
 class OrderInfo;
 
 /// What kind of unit an entity is and how it is, asked in the game's words. Made on the spot; lives no longer than the
@@ -37,6 +38,8 @@ public:
 
   /// Null while unlinked.
   qsf::Entity* getParentEntity() const { return getParent(); }
+  /// The event that the entity belongs to; null without one.
+  FreeplayEvent* getFreeplayEvent() const;
   void unlinkFromParent() const;
   /// Puts a person into a vehicle or building: linked to it and hidden. Unlinking lets it out again.
   void enterContainer(qsf::Entity& container) const;
@@ -49,8 +52,9 @@ public:
   /// within the map; the first of equally near ones. Null if there is none or this is no player's unit.
   qsf::Entity* getReachableRoadVehicleWithEquipment(const std::string& equipmentName) const;
 
-  /// Makes the entity burn, if it can.
-  bool startFire() const;
+  /// Makes the entity burn, if it can, as a part of the event if one is given (see FireComponent). Returns whether it
+  /// burns.
+  bool startFire(FreeplayEvent* event = nullptr) const;
   void stopFire() const;
 
 private:

@@ -43,6 +43,14 @@ protected:
   virtual bool onStartup() { return true; }
   virtual void onShutdown() {}
   virtual void onSetActive(bool /*active*/) {}
+  /// True: while it runs, onComponentPropertyChange is called, at once, for what components of its entity promote.
+  virtual bool implementsOnComponentPropertyChange() const { return false; }
+  /// `propertyId` is the hash of the property's name, which has its new value already.
+  virtual void onComponentPropertyChange(const Component& /*component*/, StringHash /*propertyId*/) {}
+  /// Whether anybody would hear promotePropertyChange.
+  bool isPropertyChangeHeard() const;
+  /// Tells the entity's components that a property of this one was set.
+  void promotePropertyChange(StringHash propertyId);
 
 private:
   friend class Prototype;

@@ -29,6 +29,9 @@ public:
   float getOffset() const;
   /// Clamped to 0 to 1; one that isn't a number counts as 0.
   void setOffset(float offset);
+  /// Factor of its pace, at least 0: at 0 it stands still where it is and goes on playing. One that isn't a number
+  /// counts as 0.
+  void setSpeed(float speed) { mSpeed = speed > 0 ? speed : 0.0f; }
   /// A looped one never is by itself.
   bool isFinished() const { return mFinished; }
   void stop() { mFinished = true; }

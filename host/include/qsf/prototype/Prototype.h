@@ -50,6 +50,7 @@ private:
   std::vector<Component*> mView;
   std::vector<StringHash> mIds; // of the components, so that a look-up touches one small array
   std::uint32_t mChanges = 0;
+  std::uint32_t mPropertyListeners = 0; // components that hear of changed properties
 };
 
 }

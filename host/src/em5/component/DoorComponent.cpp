@@ -20,13 +20,15 @@ void DoorComponent::declareCamp() {
       .base<Component>()
       .constructor1<qsf::Prototype*>()
       .property("DoorState", &DoorComponent::getDoorState, &DoorComponent::setDoorState)
-      .property("OpeningTime", &DoorComponent::getOpeningTime, &DoorComponent::setOpeningTime);
+      .property("OpeningTime", &DoorComponent::getOpeningTime, &DoorComponent::setOpeningTime)
+      .property("Sound", &DoorComponent::getSound, &DoorComponent::setSound);
 }
 
 void DoorComponent::setDoorState(DoorState state) {
   if (state < DOOR_CLOSED || state > DOOR_OPENING || state == mDoorState) return;
   mDoorState = state;
   mRemaining = mOpeningTime;
+  playSound();
   updateJob();
 }
 
@@ -53,7 +55,18 @@ bool DoorComponent::onStartup() {
   return true;
 }
 
-void DoorComponent::onShutdown() { mMoveJobProxy.unregister(); }
+void DoorComponent::onShutdown() {
+  mMoveJobProxy.unregister();
+  if (mAudioProxy.isPlaying()) mAudioProxy.stop();
+}
+
+void DoorComponent::playSound() {
+  const bool moves = mDoorState == DOOR_OPENING || mDoorState == DOOR_CLOSING;
+  if (!isRunning() || !moves || getSound().empty()) return;
+  mAudioProxy.setContextEntity(findEntity());
+  mAudioProxy.setSpatial(true);
+  mAudioProxy.play();
+}
 
 void DoorComponent::updateJob() {
   const bool moves = isRunning() && (mDoorState == DOOR_OPENING || mDoorState == DOOR_CLOSING);

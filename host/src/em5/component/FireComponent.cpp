@@ -3,11 +3,16 @@
 #include "em5/base/Jobs.h"
 #include "em5/component/HealthComponent.h"
 #include "em5/component/VehicleComponent.h"
+#include "em5/freeplay/FreeplaySystem.h"
+#include "em5/freeplay/ObjectiveHelper.h"
 #include "em5/health/Injury.h"
+#include "em5/plugin/Plugin.h"
 #include "qsf/map/ComponentMapQuery.h"
 #include "qsf/map/EntityHelper.h"
 #include "qsf/reflection/CampTypes.h"
 #include "qsf/reflection/ClassRegistry.h"
+
+#include <utility>
 
 namespace em5 {
 
@@ -19,6 +24,14 @@ constexpr float HEAT_RADIUS = 5.0f;
 constexpr float HEALTH_LOSS_PER_SECOND = 5.0f;
 /// A vehicle that burns is destroyed after two minutes.
 constexpr float VEHICLE_DAMAGE_PER_SECOND = 1.0f / 120.0f;
+/// Reason in em5::EventIdComponent.
+constexpr int PART_OF_EVENT = 1;
+
+/// Null if it has ended, and for 0.
+FreeplayEvent* findEvent(std::uint64_t id) {
+  const Plugin* game = id != 0 ? Plugin::getInstance() : nullptr;
+  return game ? game->getFreeplaySystem().getEventManager().getEventById(id) : nullptr;
+}
 
 }
 
@@ -34,12 +47,27 @@ void FireComponent::declareCamp() {
 
 void FireComponent::setBurning(bool burning) {
   mBurning = burning && mBurnable;
+  if (!mBurning) leaveEvent();
   updateJob();
 }
 
-bool FireComponent::startFire() {
+bool FireComponent::startFire(FreeplayEvent* event) {
   setBurning(true);
+  if (mBurning && event) joinEvent(*event);
   return mBurning;
+}
+
+void FireComponent::joinEvent(FreeplayEvent& event) {
+  qsf::Entity* entity = findEntity();
+  if (!entity || findEvent(mEventId)) return; // it counts for one event only
+  mEventId = event.getId();
+  event.addEntityToEvent(*entity, PART_OF_EVENT);
+  ObjectiveHelper(event).addFire(*entity);
+}
+
+void FireComponent::leaveEvent() {
+  if (FreeplayEvent* event = findEvent(std::exchange(mEventId, 0)))
+    ObjectiveHelper(*event).countExtinguishedFire(getEntity());
 }
 
 void FireComponent::setBurnable(bool burnable) {
@@ -52,7 +80,10 @@ bool FireComponent::onStartup() {
   return true;
 }
 
-void FireComponent::onShutdown() { mFireJobProxy.unregister(); }
+void FireComponent::onShutdown() {
+  leaveEvent(); // what is gone burns no more
+  mFireJobProxy.unregister();
+}
 
 void FireComponent::updateJob() {
   const bool burns = isRunning() && mBurning;

@@ -1,6 +1,7 @@
 #include "em5/component/HealthComponent.h"
 
 #include "em5/base/Jobs.h"
+#include "em5/freeplay/FreeplayEvent.h"
 #include "em5/health/Injury.h"
 #include "qsf/reflection/CampTypes.h"
 #include "qsf/reflection/ClassRegistry.h"
@@ -14,6 +15,8 @@ namespace {
 
 /// Life that an injured person loses in a second: with full life it is dead after 200 seconds.
 constexpr float LIFE_LOSS_PER_SECOND = 0.5f;
+/// Reason in em5::EventIdComponent.
+constexpr int PART_OF_EVENT = 1;
 
 }
 
@@ -25,6 +28,8 @@ void HealthComponent::declareCamp() {
       .constructor1<qsf::Prototype*>()
       .property("Injured", &HealthComponent::isInjured, &HealthComponent::setInjured)
       .property("Injury", &HealthComponent::getInjuryId, &HealthComponent::setInjuryByReflection)
+      .property("Dead", &HealthComponent::isDead, &HealthComponent::setDeadByReflection)
+      .property("Collapsed", &HealthComponent::isCollapsed)
       .property("LifeEnergy", &HealthComponent::getLifeEnergy, &HealthComponent::setLifeEnergy)
       .property("HealthEnergy", &HealthComponent::getHealthEnergy, &HealthComponent::setHealthEnergy)
       .property("MaximumLifeEnergy", &HealthComponent::getMaximumLifeEnergy, &HealthComponent::setMaximumLifeEnergy)
@@ -37,6 +42,7 @@ void HealthComponent::setInjured(bool injured) {
     injurePersonById(injury::HEAD_BODY_LACERATION);
   } else if (mInjured && !isDead()) {
     mInjured = false;
+    mCollapsed = false;
     mInjuryId = qsf::StringHash();
     mHealthEnergy = mMaximumHealthEnergy;
     updateJob();
@@ -50,17 +56,26 @@ void HealthComponent::setInjuryByReflection(qsf::StringHash injuryId) {
     mInjuryId = injuryId;
 }
 
-bool HealthComponent::injurePersonById(qsf::StringHash injuryId) {
-  if (mInjured || isDead()) return false;
+bool HealthComponent::injurePersonById(qsf::StringHash injuryId) { return injurePersonByEventById(injuryId, nullptr); }
+
+bool HealthComponent::injurePersonByEventById(qsf::StringHash injuryId, FreeplayEvent* event, bool collapse) {
+  if (mInjured || isDead() || !injuryId.isInitialized()) return false;
   mInjured = true;
+  mCollapsed = collapse;
+  if (event) event->addEntityToEvent(getEntity(), PART_OF_EVENT);
   mInjuryId = injuryId;
   mHealthEnergy = 0.0f;
   updateJob();
   return true;
 }
 
-void HealthComponent::killPerson() {
+void HealthComponent::setDeadByReflection(bool dead) {
+  if (dead) killPerson();
+}
+
+void HealthComponent::killPerson(FreeplayEvent* event) {
   mLifeEnergy = 0.0f;
+  if (event) event->addEntityToEvent(getEntity(), PART_OF_EVENT);
   updateJob();
 }
 

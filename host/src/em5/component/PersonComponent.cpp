@@ -1,5 +1,7 @@
 #include "em5/component/PersonComponent.h"
 
+#include "qsf/component/MeshAnimationComponent.h"
+#include "qsf/map/Entity.h"
 #include "qsf/reflection/CampTypes.h"
 #include "qsf/reflection/ClassRegistry.h"
 
@@ -17,11 +19,23 @@ void PersonComponent::declareCamp() {
       .tag(qsf::UNSIGNED_TAG)
       .property("Gangster", &PersonComponent::isGangster, &PersonComponent::setGangsterFlag)
       .property("Drunk", &PersonComponent::isDrunken, &PersonComponent::setDrunken)
+      .property("Animation", &PersonComponent::getAnimation, &PersonComponent::setAnimation)
       .property("Masked", &PersonComponent::isMasked, &PersonComponent::setMasked);
 }
 
 void PersonComponent::setPersonFlags(int flag, bool set) {
   if (flag == PERSON_FLAG_DRUNK) setDrunken(set);
+}
+
+void PersonComponent::setAnimation(const std::string& localAssetName) {
+  mAnimation = localAssetName;
+  const qsf::Entity* entity = findEntity();
+  auto* meshAnimation = entity ? entity->getComponent<qsf::MeshAnimationComponent>() : nullptr;
+  if (!meshAnimation) return;
+  if (mAnimation.empty())
+    meshAnimation->clearAnimation();
+  else
+    meshAnimation->playAnimation(qsf::AssetProxy(mAnimation), true);
 }
 
 }

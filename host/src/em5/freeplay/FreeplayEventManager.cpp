@@ -1,8 +1,13 @@
 #include "em5/freeplay/FreeplayEventManager.h"
 
+#include "em5/freeplay/EventArchive.h"
+#include "em5/freeplay/ObjectiveHelper.h"
 #include "qsf/log/FaultCounter.h"
+#include "qsf/log/LogSystem.h"
+#include "qsf/reflection/ClassRegistry.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 namespace em5 {
 
@@ -42,13 +47,22 @@ FreeplayEvent* FreeplayEventManager::getEventById(std::uint64_t id) const {
   return nullptr;
 }
 
-FreeplayEvent& FreeplayEventManager::startEvent(std::unique_ptr<FreeplayEvent> event) {
+FreeplayEvent* FreeplayEventManager::startEvent(std::unique_ptr<FreeplayEvent> event) {
   event->mId = mNextId++;
+  return start(std::move(event));
+}
+
+FreeplayEvent* FreeplayEventManager::start(std::unique_ptr<FreeplayEvent> event) {
+  FreeplayEvent& started = *event;
   mEvents.push_back(std::move(event));
-  FreeplayEvent& started = *mEvents.back();
-  guarded(started, [&] { started.onStartup(); });
-  guarded(started, [&] { started.setRunning(); });
-  return started;
+  bool wanted = false;
+  guarded(started, [&] { wanted = started.onStartup(); });
+  if (wanted) {
+    guarded(started, [&] { started.onRun(); });
+    return &started;
+  }
+  std::erase_if(mEvents, [&](const auto& candidate) { return candidate.get() == &started; });
+  return nullptr;
 }
 
 void FreeplayEventManager::update(qsf::Time timePassed) {
@@ -58,6 +72,7 @@ void FreeplayEventManager::update(qsf::Time timePassed) {
     FreeplayEvent& event = *mEvents[i];
     if (!event.isRunning()) continue;
     event.mRunningTime += timePassed;
+    ObjectiveHelper(event).updateFailConditions();
     guarded(event, [&] { event.updateFreeplayEvent(timePassed); });
   }
   removeFinishedEvents();
@@ -68,15 +83,60 @@ void FreeplayEventManager::removeFinishedEvents() {
   for (auto& event : mEvents)
     if (event->isFinished()) finished.push_back(std::move(event));
   mEvents.erase(std::remove(mEvents.begin(), mEvents.end(), nullptr), mEvents.end());
-  for (const auto& event : finished)
+  for (const auto& event : finished) {
+    ++(event->getState() == FreeplayEvent::State::SUCCEEDED ? mNumberOfSucceeded : mNumberOfFailed);
     guarded(*event, [&] { event->onShutdown(); });
+  }
 }
 
-void FreeplayEventManager::shutdownAllEvents() {
+void FreeplayEventManager::endAllEvents() {
   while (!mEvents.empty()) {
     const std::unique_ptr<FreeplayEvent> event = std::move(mEvents.back());
     mEvents.pop_back();
     guarded(*event, [&] { event->onShutdown(); });
+  }
+}
+
+void FreeplayEventManager::shutdownAllEvents() {
+  endAllEvents();
+  mNumberOfSucceeded = 0;
+  mNumberOfFailed = 0;
+}
+
+std::string FreeplayEventManager::saveEvents() const {
+  qsf::Json saved = qsf::Json::object();
+  saved["events"] = qsf::Json::array();
+  for (FreeplayEvent* event : getCurrentEvents()) {
+    qsf::Json& object = saved["events"].emplace_back(qsf::Json::object());
+    object["class"] = event->getCampClassName();
+    EventArchive archive(object, EventArchive::Direction::WRITING);
+    event->serialize(archive);
+  }
+  return saved.dump();
+}
+
+void FreeplayEventManager::loadEvents(const std::string& saved) {
+  std::vector<std::unique_ptr<FreeplayEvent>> loaded;
+  try {
+    qsf::Json document = qsf::Json::parse(saved);
+    for (qsf::Json& object : document.at("events")) {
+      const auto className = object.at("class").get<std::string>();
+      auto event = qsf::ClassRegistry::createObject<FreeplayEvent>(qsf::StringHash(className));
+      if (!event) {
+        qsf::logMessage(qsf::LogSystem::ERROR, "A saved event is left out: there is no class " + className);
+        continue;
+      }
+      EventArchive archive(object, EventArchive::Direction::READING);
+      event->serialize(archive);
+      loaded.push_back(std::move(event));
+    }
+  } catch (const qsf::Json::exception& fault) {
+    throw std::runtime_error(std::string("this is no text of saved events: ") + fault.what());
+  }
+  endAllEvents();
+  for (auto& event : loaded) {
+    mNextId = std::max(mNextId, event->getId() + 1);
+    start(std::move(event));
   }
 }
 

@@ -2,26 +2,20 @@
 
 #include "em5/base/Jobs.h"
 #include "em5/base/JsonMembers.h"
+#include "em5/freeplay/EventDefinition.h"
 #include "em5/settings/GameDebugGroup.h"
 #include "qsf/Qsf.h"
 #include "qsf/asset/Project.h"
 #include "qsf/base/Random.h"
 #include "qsf/log/LogSystem.h"
+#include "qsf/reflection/ClassRegistry.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 namespace em5 {
 
 namespace {
-
-constexpr double LONGEST_TIME = 1'000'000; // seconds; a week and a half of play
-
-/// `<project>/<type>/<category>/<name>` with that type, in a mounted project.
-const qsf::BaseAsset* findAssetOfType(const std::string& localAssetName, const std::string& type) {
-  const std::size_t slash = localAssetName.find('/');
-  if (slash == std::string::npos || localAssetName.compare(slash + 1, type.size() + 1, type + "/") != 0) return nullptr;
-  return qsf::AssetProxy(localAssetName).getAsset();
-}
 
 const qsf::BaseAsset* findEventDefinition(const std::string& definition) {
   if (const qsf::BaseAsset* asset = findAssetOfType(definition, "em5_event")) return asset;
@@ -36,8 +30,13 @@ const qsf::BaseAsset* findEventDefinition(const std::string& definition) {
 
 /// Event definitions that are started in the course of a game, one at a time after a drawn time.
 struct FreeplaySystem::EventPool {
+  struct Entry {
+    std::string definition;
+    EventProperties properties;
+  };
+
   std::string name;
-  std::vector<std::string> events;
+  std::vector<Entry> events;
   float shortestInterval = 120; ///< seconds
   float longestInterval = 300;
   std::size_t maximumActive = 3; ///< with so many running events none is added
@@ -65,8 +64,20 @@ bool FreeplaySystem::addEventPoolsByName(const std::string& localAssetName) {
     root.expectObject({"events", "shortestInterval", "longestInterval", "maximumActive"});
     auto pool = std::make_unique<EventPool>();
     pool->name = localAssetName;
-    pool->events = asTexts(root.member("events"));
-    const NumberRange intervals{0.1, LONGEST_TIME};
+    const qsf::JsonPlace events = root.member("events");
+    events.expectArray();
+    for (std::size_t i = 0; i < events.size(); ++i) {
+      const qsf::JsonPlace entry = events.element(i);
+      if (!entry.getValue().is_object()) {
+        pool->events.push_back({entry.asText(), {}});
+        continue;
+      }
+      entry.expectObject({"event", "properties"});
+      pool->events.push_back({requiredText(entry, "event"), entry.has("properties")
+                                                                ? asEventProperties(entry.member("properties"))
+                                                                : EventProperties()});
+    }
+    const NumberRange intervals{0.1, LONGEST_EVENT_TIME};
     pool->shortestInterval = static_cast<float>(numberOr(root, "shortestInterval", intervals, 120));
     pool->longestInterval =
         static_cast<float>(numberOr(root, "longestInterval", intervals, std::max(300.0f, pool->shortestInterval)));
@@ -89,26 +100,47 @@ std::vector<std::string> FreeplaySystem::getEventPoolNames() const {
   return names;
 }
 
-FreeplayEvent* FreeplaySystem::triggerEventByPath(const FreeplayEventTriggerInfo&, const std::string& definition) {
-  const qsf::BaseAsset* asset = mGameRunning ? findEventDefinition(definition) : nullptr;
-  if (!asset) return nullptr;
+FreeplayEvent* FreeplaySystem::triggerEventByPath(const FreeplayEventTriggerInfo& triggerInfo,
+                                                  const std::string& definition) {
+  if (!mGameRunning || !findEventDefinition(definition)) return nullptr;
   try {
-    const qsf::Json json = qsf::readJsonFile(asset->getFile());
-    const qsf::JsonPlace root(json, asset->getFile());
-    root.expectObject({"name", "succeedsAfter", "failsAfter", "canWin", "canLose"});
-    const NumberRange times{0, LONGEST_TIME};
-    auto event = std::make_unique<FreeplayEvent>();
-    event->mDefinition = asset->getName();
-    event->mEventName = textOr(root, "name", asset->getName().substr(asset->getName().rfind('/') + 1));
-    event->mSucceedsAfter = qsf::Time::fromSeconds(numberOr(root, "succeedsAfter", times, 0));
-    event->mFailsAfter = qsf::Time::fromSeconds(numberOr(root, "failsAfter", times, 0));
-    event->mCanWinEvent = boolOr(root, "canWin", true);
-    event->mCanLoseEvent = boolOr(root, "canLose", true);
-    return &mEventManager.startEvent(std::move(event));
+    return trigger(triggerInfo, definition);
   } catch (const std::exception& exception) {
     qsf::logMessage(qsf::LogSystem::ERROR, exception.what());
     return nullptr;
   }
+}
+
+FreeplayEvent* FreeplaySystem::triggerPoolEvent(const std::string& definition, const EventProperties& properties) {
+  FreeplayEvent* event = trigger(FreeplayEventTriggerInfo(0, properties), definition);
+  if (event && !event->getHintParameters().supervisorMessage.empty())
+    event->showEventStartHint(event->getHintParameters());
+  return event;
+}
+
+FreeplayEvent* FreeplaySystem::trigger(const FreeplayEventTriggerInfo& triggerInfo, const std::string& definition) {
+  std::unique_ptr<FreeplayEvent> event = getFactory(definition).tryTriggerEvent(triggerInfo);
+  return event ? mEventManager.startEvent(std::move(event)) : nullptr;
+}
+
+FreeplayEventFactory& FreeplaySystem::getFactory(const std::string& definition) {
+  const qsf::BaseAsset* asset = mGameRunning ? findEventDefinition(definition) : nullptr;
+  if (!asset)
+    throw std::runtime_error(mGameRunning ? "there is no event definition \"" + definition + "\"" : "no game runs");
+  std::unique_ptr<FreeplayEventFactory>& factory = mFactories[asset->getName()];
+  if (factory) return *factory;
+  auto read = std::make_unique<EventDefinition>(readEventDefinition(*asset));
+  auto made = qsf::ClassRegistry::createObject<FreeplayEventFactory>(read->factory);
+  if (!made) throw std::runtime_error(asset->getFile() + ": \"factory\" names a class that makes no events");
+  made->mDefinition = std::move(read);
+  factory = std::move(made);
+  return *factory;
+}
+
+const FreeplayEventFactory* FreeplaySystem::findFactory(const std::string& definition) const {
+  const qsf::BaseAsset* asset = findEventDefinition(definition);
+  const auto found = asset ? mFactories.find(asset->getName()) : mFactories.end();
+  return found == mFactories.end() ? nullptr : found->second.get();
 }
 
 void FreeplaySystem::startGame() {
@@ -121,6 +153,7 @@ void FreeplaySystem::stopGame() {
   mUpdateJobProxy.unregister();
   mEventManager.shutdownAllEvents();
   mPools.clear();
+  mFactories.clear();
 }
 
 void FreeplaySystem::update(const qsf::JobArguments& arguments) {
@@ -137,9 +170,18 @@ void FreeplaySystem::updatePool(EventPool& pool, qsf::Time timePassed) {
   pool.drawInterval();
   if (pool.events.empty() || mEventManager.getNumberOfActiveEvents() >= pool.maximumActive) return;
   const auto drawn = qsf::Random::getRandomUint(0, static_cast<std::uint32_t>(pool.events.size() - 1));
-  if (!triggerEventByPath(FreeplayEventTriggerInfo(0), pool.events[drawn]))
+  const std::string& definition = pool.events[drawn].definition;
+  const auto warn = [&](const std::string& reason) {
     qsf::logMessage(qsf::LogSystem::WARNING,
-                    "Event pool " + pool.name + ": the event " + pool.events[drawn] + " cannot be started");
+                    "Event pool " + pool.name + ": the event " + definition + " cannot be started: " + reason);
+  };
+  try {
+    if (triggerPoolEvent(definition, pool.events[drawn].properties)) return;
+    const FreeplayEventFactory* factory = findFactory(definition);
+    warn(factory ? factory->getTriggerFailReason() : "it is refused");
+  } catch (const std::exception& exception) {
+    warn(exception.what());
+  }
 }
 
 }

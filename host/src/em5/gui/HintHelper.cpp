@@ -1,7 +1,9 @@
 #include "em5/gui/HintHelper.h"
 
+#include "qsf/Qsf.h"
 #include "qsf/base/Random.h"
 #include "qsf/base/RecordedOperation.h"
+#include "qsf/localization/LocalizationSystem.h"
 
 #include <boost/algorithm/string.hpp>
 
@@ -35,10 +37,6 @@ std::string secondsToText(qsf::Time time) {
   return text.str();
 }
 
-bool isTextId(const std::string& text) {
-  return !text.empty() && text.find_first_not_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_") == std::string::npos;
-}
-
 template <class Entry> void add(std::deque<Entry>& entries, Entry entry) {
   entries.push_back(std::move(entry));
   if (entries.size() > MAXIMUM_HINTS) entries.pop_front();
@@ -69,13 +67,13 @@ const std::deque<HintHelper::SupervisorMessage>& HintHelper::getCurrentSuperviso
 }
 
 std::string HintHelper::getRandomStringOfIdString(const std::string& idString) {
-  std::vector<std::string> ids;
-  boost::algorithm::split(ids, idString, [](char character) { return character == ','; });
-  for (std::string& id : ids)
-    boost::algorithm::trim(id);
-  // A text that merely holds a comma is no list.
-  if (ids.size() == 1 || !std::all_of(ids.begin(), ids.end(), isTextId)) return idString;
-  return ids[qsf::Random::getRandomUint(0, static_cast<std::uint32_t>(ids.size() - 1))];
+  const qsf::Qsf* host = qsf::Qsf::instance();
+  const std::string* localised = host ? host->getLocalizationSystem().findText(idString) : nullptr;
+  if (!localised) return idString;
+  std::vector<std::string> texts;
+  boost::algorithm::split(texts, *localised, [](char character) { return character == '|'; });
+  if (texts.size() == 1) return texts.front();
+  return texts[qsf::Random::getRandomUint(0, static_cast<std::uint32_t>(texts.size() - 1))];
 }
 
 void HintHelper::update(qsf::Time timePassed) {

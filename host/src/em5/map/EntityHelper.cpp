@@ -2,6 +2,7 @@
 
 #include "em5/component/BuildingComponent.h"
 #include "em5/component/CommandableComponent.h"
+#include "em5/component/EventIdComponent.h"
 #include "em5/component/FireComponent.h"
 #include "em5/component/HealthComponent.h"
 #include "em5/component/HelicopterComponent.h"
@@ -125,9 +126,14 @@ qsf::Entity* EntityHelper::getReachableRoadVehicleWithEquipment(const std::strin
   return nearest;
 }
 
-bool EntityHelper::startFire() const {
+FreeplayEvent* EntityHelper::getFreeplayEvent() const {
+  const EventIdComponent* membership = getEntity().getComponent<EventIdComponent>();
+  return membership ? membership->getFreeplayEvent() : nullptr;
+}
+
+bool EntityHelper::startFire(FreeplayEvent* event) const {
   FireComponent* fire = getEntity().getComponent<FireComponent>();
-  return fire && fire->startFire();
+  return fire && fire->startFire(event);
 }
 
 void EntityHelper::stopFire() const {

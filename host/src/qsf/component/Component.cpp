@@ -48,6 +48,18 @@ void Component::shutdown() {
   callGuarded([&] { onShutdown(); }, [&] { return "the shutdown of " + describe(); });
 }
 
+bool Component::isPropertyChangeHeard() const { return mPrototype->mPropertyListeners != 0; }
+
+void Component::promotePropertyChange(StringHash propertyId) {
+  if (!isPropertyChangeHeard()) return;
+  // A copy: whoever hears it may make and destroy components, whose memory stays until the end of the frame.
+  const std::vector<Component*> components = mPrototype->getComponents();
+  for (Component* listener : components)
+    if (listener->isRunning() && listener->implementsOnComponentPropertyChange())
+      callGuarded([&] { listener->onComponentPropertyChange(*this, propertyId); },
+                  [&] { return "a property change heard by " + listener->describe(); });
+}
+
 std::string Component::describe() const {
   return "component " + getCampClass().name() + " of entity " + std::to_string(getEntityId());
 }

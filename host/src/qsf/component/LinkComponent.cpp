@@ -6,9 +6,14 @@
 #include "qsf/reflection/CampTypes.h"
 #include "qsf/reflection/ClassRegistry.h"
 
+#include <utility>
+
 namespace qsf {
 
 namespace {
+
+constexpr StringHash LOCAL_POSITION{"LocalPosition"};
+constexpr StringHash LOCAL_ROTATION{"LocalRotation"};
 
 TransformComponent* transformOf(const LinkComponent& link) {
   Entity* entity = link.findEntity();
@@ -54,11 +59,13 @@ void LinkComponent::unlinkFromParent() { leaveParent(); }
 void LinkComponent::setLocalPosition(const glm::vec3& position) {
   mLocalPosition = position;
   updateWorldTransform();
+  promotePropertyChange(LOCAL_POSITION);
 }
 
 void LinkComponent::setLocalRotation(const glm::quat& rotation) {
   mLocalRotation = rotation;
   updateWorldTransform();
+  promotePropertyChange(LOCAL_ROTATION);
 }
 
 void LinkComponent::onOwnerMoved() {
@@ -115,7 +122,8 @@ void LinkComponent::updateLocalTransform() {
   if (!own || !parent) return;
   const glm::quat inverse = glm::conjugate(parent->getRotation());
   mLocalPosition = inverse * (own->getPosition() - parent->getPosition());
-  mLocalRotation = inverse * own->getRotation();
+  const glm::quat before = std::exchange(mLocalRotation, inverse * own->getRotation());
+  if (isPropertyChangeHeard() && mLocalRotation != before) promotePropertyChange(LOCAL_ROTATION);
 }
 
 void LinkComponent::updateWorldTransform() {

@@ -59,7 +59,7 @@ void MeshAnimationChannel::setOffset(float offset) {
 }
 
 void MeshAnimationChannel::advance(Time timePassed) {
-  if (mFinished) return;
+  if (mFinished || mSpeed == 0.0f) return;
   const Time step = Time::fromSeconds(timePassed.getSecondsAsDouble() * static_cast<double>(mSpeed));
   const Time way = mDirection == Direction::FORWARD ? mLength - mPosition : mPosition;
   if (step < way) {

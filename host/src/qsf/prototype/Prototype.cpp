@@ -48,6 +48,7 @@ Component* Prototype::getOrCreateComponentById(StringHash componentId, bool star
   mView.push_back(&component);
   mIds.push_back(componentId);
   ++mChanges;
+  mPropertyListeners += component.implementsOnComponentPropertyChange();
   onComponentAdded(component);
   if (startup) component.startup();
   return &component;
@@ -67,6 +68,7 @@ void Prototype::destroyComponentById(StringHash componentId) {
   mView.erase(mView.begin() + index);
   mIds.erase(mIds.begin() + index);
   ++mChanges;
+  mPropertyListeners -= component->implementsOnComponentPropertyChange();
   releaseComponent(std::move(owned));
 }
 
