@@ -2,7 +2,9 @@
 
 #include "em5/base/Jobs.h"
 #include "em5/base/Messages.h"
+#include "em5/health/Injury.h"
 #include "qsf/Qsf.h"
+#include "qsf/base/StringHashManager.h"
 #include "qsf/job/JobManagers.h"
 #include "qsf/message/MessageSystem.h"
 
@@ -16,6 +18,9 @@ void addGameLayer(qsf::Qsf& host) {
 #define EM5_NAME_MESSAGE(NAME) host.getMessageSystem().addMessageName("em5::Messages::" #NAME);
   EM5_MESSAGES(EM5_NAME_MESSAGE)
 #undef EM5_NAME_MESSAGE
+#define EM5_NAME_INJURY(NAME) host.getStringHashManager().registerStringHash(injury::NAME, #NAME);
+  EM5_INJURIES(EM5_NAME_INJURY)
+#undef EM5_NAME_INJURY
 }
 
 }

@@ -106,6 +106,54 @@ TEST_F(FreeplaySystemTest, AMalformedDefinitionIsLoggedWithItsPlace) {
   EXPECT_TRUE(freeplay().getEventPoolNames().empty());
 }
 
+TEST_F(FreeplaySystemTest, ADefinitionThatNamesWhatIsNotThereIsLogged) {
+  const std::string project = writeProject("mine");
+  write("mine", "em5_event/test/factory.json", "{\"factory\": \"mine::Factory\"}");
+  write("mine", "em5_event/test/component.json", "{\"factory\": \"em5::FireComponent\"}");
+  write("mine", "em5_event/test/property.json", "{\"properties\": {\"Mood\": \"grim\"}}");
+  write("mine", "em5_event/test/variant.json", "{\"variants\": [{\"Mood\": 1}, {\"Mood\": true}]}");
+  write("mine", "em5_eventpool/test/bad.json", "{\"events\": [{\"properties\": {}}]}");
+  open().mountMod(project);
+  session->startGame(EMPTY_MAP);
+  EXPECT_EQ(trigger("mine/em5_event/test/factory"), nullptr);
+  EXPECT_TRUE(logged(qsf::LogSystem::ERROR, "/factory: there is no event factory \"mine::Factory\""));
+  EXPECT_EQ(trigger("mine/em5_event/test/component"), nullptr);
+  EXPECT_TRUE(logged(qsf::LogSystem::ERROR, "makes no events"));
+  EXPECT_EQ(trigger("mine/em5_event/test/property"), nullptr);
+  EXPECT_TRUE(logged(qsf::LogSystem::ERROR, "has a property \"Mood\""));
+  EXPECT_EQ(trigger("mine/em5_event/test/variant"), nullptr);
+  EXPECT_FALSE(freeplay().addEventPoolsByName("mine/em5_eventpool/test/bad"));
+  EXPECT_THROW(freeplay().triggerPoolEvent("mine/em5_event/test/property"), std::exception);
+  EXPECT_THROW(freeplay().triggerPoolEvent("mine/em5_event/test/nothing"), std::exception);
+}
+
+TEST_F(FreeplaySystemTest, PoolsTellThePlayerOfTheStart) {
+  const std::string project = writeProject("mine");
+  write("mine", "em5_event/test/told.json", "{\"supervisorMessage\": \"The mill burns\"}");
+  open().mountMod(project);
+  session->startGame(EMPTY_MAP);
+  const auto& calls = session->getQsf().getCallRecorder().getCalls();
+  EXPECT_NE(trigger("test/told"), nullptr);
+  EXPECT_NE(freeplay().triggerPoolEvent("test/open_end"), nullptr);
+  EXPECT_TRUE(calls.empty());
+  EXPECT_NE(freeplay().triggerPoolEvent("test/told"), nullptr);
+  ASSERT_EQ(calls.size(), 1u);
+  EXPECT_EQ(calls[0].operation, "em5::HintHelper::showSupervisorMessage");
+  EXPECT_EQ(calls[0].arguments[0], "The mill burns");
+}
+
+TEST_F(FreeplaySystemTest, FactoriesLiveAsLongAsTheGame) {
+  play();
+  EXPECT_EQ(freeplay().findFactory("test/open_end"), nullptr);
+  trigger("test/open_end");
+  const em5::FreeplayEventFactory* factory = freeplay().findFactory("em5/em5_event/test/open_end");
+  ASSERT_NE(factory, nullptr);
+  EXPECT_EQ(factory->getTriggerFailReason(), "");
+  EXPECT_EQ(freeplay().findFactory("test/open_end"), factory);
+  session->requestRestart();
+  EXPECT_EQ(freeplay().findFactory("test/open_end"), nullptr);
+}
+
 TEST_F(FreeplaySystemTest, AddsPoolsByNameOnce) {
   open().startup();
   EXPECT_FALSE(freeplay().addEventPoolsByName("em5/em5_eventpool/worldevents/MY_CUSTOM_WORLDEVENTPOOL"));

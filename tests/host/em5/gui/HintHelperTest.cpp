@@ -2,6 +2,9 @@
 #include "host/qsf/TestWorld.h"
 #include "qsf/base/CallRecorder.h"
 #include "qsf/base/Random.h"
+#include "qsf/localization/LocalizationSystem.h"
+
+#include <set>
 
 using em5::HintHelper;
 
@@ -33,17 +36,22 @@ TEST_F(HintHelperTest, MessagesOfTheSupervisorAreRecorded) {
   EXPECT_EQ((std::vector<std::string>{"ID_A", "1"}), host.getCallRecorder().getCalls()[0].arguments);
 }
 
-TEST_F(HintHelperTest, OneOfAListOfTextIdsIsDrawn) {
+TEST_F(HintHelperTest, OneOfTheTextsOfALocalisedIdIsDrawn) {
+  project.write("text/en/a.json", R"({"ID_A": "One|Two|Three and a half", "ID_B": "Only"})");
+  mountProject();
+  host.getLocalizationSystem().reload();
   qsf::Random::setSeed(1);
   std::set<std::string> drawn;
   for (int i = 0; i < 50; ++i)
-    drawn.insert(HintHelper::getRandomStringOfIdString("ID_A, ID_B,ID_C"));
-  EXPECT_EQ((std::set<std::string>{"ID_A", "ID_B", "ID_C"}), drawn);
+    drawn.insert(HintHelper::getRandomStringOfIdString("ID_A"));
+  EXPECT_EQ((std::set<std::string>{"One", "Two", "Three and a half"}), drawn);
+  EXPECT_EQ("Only", HintHelper::getRandomStringOfIdString("ID_B"));
 }
 
-TEST_F(HintHelperTest, ASingleIdAndATextWithCommasStayAsTheyAre) {
+TEST_F(HintHelperTest, ATextThatIsNoIdStaysAsItIs) {
   EXPECT_EQ("ID_A", HintHelper::getRandomStringOfIdString("ID_A"));
-  EXPECT_EQ("Smoke, then fire", HintHelper::getRandomStringOfIdString("Smoke, then fire"));
+  EXPECT_EQ("ID_A,ID_B", HintHelper::getRandomStringOfIdString("ID_A,ID_B"));
+  EXPECT_EQ("Smoke | fire", HintHelper::getRandomStringOfIdString("Smoke | fire"));
   EXPECT_EQ("", HintHelper::getRandomStringOfIdString(""));
 }
 

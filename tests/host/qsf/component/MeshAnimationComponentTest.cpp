@@ -49,6 +49,21 @@ TEST_F(MeshAnimationComponentTest, AnotherAnimationTakesThePlaceAndTheWatcherSee
   EXPECT_EQ(1, second->getOffset());
 }
 
+TEST_F(MeshAnimationComponentTest, AChannelThatStandsStillGoesOnPlaying) {
+  const auto channel = component.playAnimation(shortOne);
+  channel->setSpeed(0);
+  channel->setOffset(1);
+  runSeconds(5);
+  EXPECT_TRUE(component.isAnimationPlaying(shortOne));
+  EXPECT_EQ(1, channel->getOffset());
+  channel->setOffset(0.25f);
+  runSeconds(1);
+  EXPECT_NEAR(0.25, channel->getOffset(), 1e-6);
+  channel->setSpeed(1);
+  runSeconds(0.25);
+  EXPECT_NEAR(0.75, channel->getOffset(), 1e-6);
+}
+
 TEST_F(MeshAnimationComponentTest, AnUnknownAnimationLeavesWhatPlays) {
   component.playAnimation(longOne);
   EXPECT_EQ(nullptr, component.playAnimation(qsf::AssetProxy(std::string("test/animation/test/none"))));
