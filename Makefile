@@ -43,8 +43,8 @@ bench: setup ## Measure ticking and loading, and print the ratios to a hand-writ
 	@tools/build.sh release
 	@tools/bench.sh release $(BENCH_ARGS)
 
-fuzz: setup ## Fuzz the script parser for 60 seconds under sanitizers (FUZZ_SECONDS=...)
-	@tools/build.sh fuzz fuzz_parser
+fuzz: setup ## Fuzz what reads scripts for 60 seconds under sanitizers (FUZZ_SECONDS=...)
+	@tools/build.sh fuzz fuzz_targets
 	@tools/fuzz.sh fuzz $(FUZZ_SECONDS) $(JOBS)
 
 format: setup ## Format all sources in place

@@ -1,13 +1,32 @@
 #!/bin/bash
-# Fuzzes the script parser: tools/fuzz.sh PRESET SECONDS JOBS. Our own scripts are the seeds; what it learns stays in the
-# build folder. Children are replaced when they grow, since records of scripts live as long as their process.
-set -euo pipefail
+# Fuzzes what reads texts of strangers: tools/fuzz.sh PRESET SECONDS JOBS. All targets run side by side, on as many
+# processes as JOBS allows and one each at least. Our own scripts are the seeds; what is learned stays in the build folder.
+set -uo pipefail
 cd "$(dirname "$0")/.."
 build=build/${1:?usage: tools/fuzz.sh PRESET SECONDS JOBS}
 seconds=${2:-60}
 jobs=${3:-2}
-mkdir -p "$build/corpus" "$build/crashes"
 export ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
-"$build/bin/fuzz_parser" "$build/corpus" tests/scripts examples -fork="$jobs" -max_total_time="$seconds" -max_len=4096 \
-  -rss_limit_mb=2048 -dict=fuzz/script.dict -artifact_prefix="$build/crashes/" 2>&1 |
-  grep --line-buffered -vE '^ *NEW_FUNC'
+mkdir -p "$build/crashes"
+trap 'kill $(jobs -p) 2>/dev/null' EXIT
+
+# start TARGET LONGEST-INPUT SEEDS...
+start() {
+  local target=$1 longest=$2
+  shift 2
+  mkdir -p "$build/corpus/$target"
+  "$build/bin/$target" "$build/corpus/$target" "$@" -max_total_time="$seconds" -max_len="$longest" -rss_limit_mb=2048 \
+    -entropic=0 -dict=fuzz/script.dict -artifact_prefix="$build/crashes/" -print_final_stats=1 2>&1 |
+    grep --line-buffered -vE 'NEW_FUNC|NEW  |REDUCE|RELOAD|###|DE: ' | sed -u "s/^/$target: /" &
+}
+
+processes=$(((jobs + 1) / 2))
+for ((i = 0; i < processes; ++i)); do
+  start fuzz_parser 1024 tests/scripts examples
+  start fuzz_tokenizer 256 tests/scripts
+done
+failed=0
+for job in $(jobs -p); do
+  wait "$job" || failed=1
+done
+exit $failed
