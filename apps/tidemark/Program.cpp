@@ -16,11 +16,12 @@ namespace tidemark {
 Subcommand runCommand();
 Subcommand testCommand();
 Subcommand catalogueCommand();
+Subcommand docsCommand();
 Subcommand singleTestCommand();
 
 namespace {
 
-constexpr Subcommand (*SUBCOMMANDS[])() = {runCommand, testCommand, catalogueCommand, singleTestCommand};
+constexpr Subcommand (*SUBCOMMANDS[])() = {runCommand, testCommand, catalogueCommand, docsCommand, singleTestCommand};
 
 int fail(const std::string& command, const std::exception& fault, ExitCode code) {
   fmt::print(stderr, "tidemark {}: {}\n", command, fault.what());

@@ -29,6 +29,12 @@ struct CatalogueEntry {
   std::vector<CatalogueParameter> parameters;
 };
 
+/// A file of the reference that the game gives authors.
+struct ReferenceFile {
+  std::string name;
+  std::string text;
+};
+
 /// The whole catalogue, conditions first, in the order of groups and chains. Made from the code that reads the
 /// parameters; needs no host.
 std::vector<CatalogueEntry> describeCatalogue();

@@ -3,6 +3,7 @@
 #include "game_plugin/component/EventTargetComponent.h"
 #include "game_plugin/component/MP_LOG_COMPONENT.h"
 #include "game_plugin/event/ScenarioEvent.h"
+#include "game_plugin/scenario/documentation/ReferenceFiles.h"
 #include "game_plugin/scenario/hints/ExecutionPoint.h"
 #include "game_plugin/scenario/hints/Hints.h"
 #include "game_plugin/scenario/lifecycle/MapScriptManager.h"
@@ -163,6 +164,15 @@ const boost::property_tree::ptree* findJson(std::size_t script, const std::strin
 class ManagerTooling : public Tooling {
 public:
   std::vector<CatalogueEntry> getCatalogue() const override { return describeCatalogue(); }
+
+  std::vector<ReferenceFile> getReferenceFiles() const override {
+    std::vector<ReferenceFile> files;
+    for (documentation::ReferenceFile& file : documentation::makeReferenceFiles())
+      files.push_back({std::string(file.name), std::move(file.text)});
+    return files;
+  }
+
+  void switchReferenceFiles(bool on) override { documentation::wantReferenceFiles(on); }
 
   std::vector<ScriptView> getScripts() const override {
     std::vector<ScriptView> views;

@@ -113,6 +113,10 @@ public:
 
   /// All conditions and effects; needs no host.
   virtual std::vector<CatalogueEntry> getCatalogue() const = 0;
+  /// The files that the module leaves in the working directory when it starts; needs no host.
+  virtual std::vector<ReferenceFile> getReferenceFiles() const = 0;
+  /// Whether starts and reloads leave them. They do at first; a tool that doesn't want them says so before the start.
+  virtual void switchReferenceFiles(bool on) = 0;
 
   virtual std::vector<ScriptView> getScripts() const = 0;
   virtual std::vector<TriggerView> getTriggers(std::size_t script) const = 0;

@@ -1,14 +1,19 @@
 #pragma once
 #include "game_plugin/plugin/Plugin.h"
+#include "game_plugin/scenario/documentation/ReferenceFiles.h"
 #include "game_plugin/scenario/lifecycle/MapScriptManager.h"
 #include "host/em5/SessionFixture.h"
 
 #include "qsf/message/MessageSystem.h"
 #include "qsf/plugin/PluginSystem.h"
 
-/// A session whose one mod, "mod", has scripts, with the module as a plug-in of the program.
+/// A session whose one mod, "mod", has scripts, with the module as a plug-in of the program. Its starts leave no
+/// reference files.
 class ModuleTest : public SessionTest {
 protected:
+  ModuleTest() { script::documentation::wantReferenceFiles(false); }
+  ~ModuleTest() override { script::documentation::wantReferenceFiles(true); }
+
   /// Lists a script of the mod; its text is the file's.
   void addScript(const std::string& key, const std::string& mode, const std::string& text,
                  const std::string& maps = "\"All\"") {

@@ -14,14 +14,6 @@ namespace {
 
 std::string_view kindOf(const Entry& entry) { return entry.kind == Entry::Kind::CONDITION ? "condition" : "effect"; }
 
-/// "SetVariable("var","0");", the line with all defaults.
-std::string exampleOf(const Entry& entry) {
-  std::vector<std::string> arguments;
-  for (const Parameter& parameter : entry.parameters)
-    arguments.push_back(parameter.type == "bool" ? parameter.defaultValue : '"' + parameter.defaultValue + '"');
-  return fmt::format("{}({});", entry.name, fmt::join(arguments, ","));
-}
-
 /// Descriptions are written for the reference, whose line breaks are a browser's.
 std::string plain(std::string text) {
   for (const std::string_view lineBreak : {"<br>", "\n"})
@@ -65,7 +57,7 @@ std::string describe(const Parameter& parameter) {
 std::string describe(const Entry& entry) {
   std::string text = fmt::format("{}  ({}, {})\n", entry.name, kindOf(entry), entry.category);
   text += wrap(plain(entry.description), "  ");
-  text += fmt::format("\n  {}\n", exampleOf(entry));
+  text += fmt::format("\n  {}\n", toLine(entry));
   if (!entry.parameters.empty()) text += "\n";
   for (const Parameter& parameter : entry.parameters)
     text += describe(parameter);
@@ -88,10 +80,17 @@ Json toJson(const Parameter& parameter) {
 
 }
 
+std::string toLine(const Entry& entry) {
+  std::vector<std::string> arguments;
+  for (const Parameter& parameter : entry.parameters)
+    arguments.push_back(parameter.type == "bool" ? parameter.defaultValue : '"' + parameter.defaultValue + '"');
+  return fmt::format("{}({});", entry.name, fmt::join(arguments, ","));
+}
+
 std::string toList(const Entries& entries) {
   std::string text;
   for (const Entry& entry : entries)
-    text += fmt::format("{:9}  {}\n", kindOf(entry), exampleOf(entry));
+    text += fmt::format("{:9}  {}\n", kindOf(entry), toLine(entry));
   return text;
 }
 

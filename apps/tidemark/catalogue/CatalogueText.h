@@ -10,6 +10,8 @@ using Entry = script::tooling::CatalogueEntry;
 using Parameter = script::tooling::CatalogueParameter;
 using Entries = std::vector<Entry>;
 
+/// The line of a script that uses the entry with all its defaults: `SetVariable("var","0");`
+std::string toLine(const Entry& entry);
 /// One line for each entry: its name, and the line of a script that uses it.
 std::string toList(const Entries& entries);
 /// All of each entry, as a person likes to read it.

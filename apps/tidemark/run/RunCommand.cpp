@@ -71,6 +71,9 @@ void addOptions(CLI::App& command, RunOptions& options) {
           "--strict", [&options] { options.strict = true; }, "Hints count as faults")
       ->excludes(noHints);
   addAllowWrite(command, options.allowWrite);
+  command.add_flag_callback(
+      "--write-docs", [&options] { options.writeDocs = true; },
+      "Leave the module's reference files in the working directory, as the game does at each start");
   command
       .add_option("--report", options.report,
                   "Write the final table to this file, as JSON; - is standard output, which then has no other table")

@@ -20,8 +20,9 @@ struct RunOptions {
   std::uint64_t seed = 1;
   int logLevel = 2;
   enum class LogFormat { TEXT, JSON_LINES } logFormat = LogFormat::TEXT;
-  bool hints = true;                   ///< tell what the language passes over without a word
-  bool strict = false;                 ///< hints count as faults
+  bool hints = true;      ///< tell what the language passes over without a word
+  bool strict = false;    ///< hints count as faults
+  bool writeDocs = false; ///< the module leaves its reference files in the working directory, as in the game
   std::vector<std::string> allowWrite; ///< folders in which scripts may write beside the working directory; absolute
   std::string report;                  ///< file, or - for standard output; empty: none
 };

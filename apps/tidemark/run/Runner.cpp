@@ -101,6 +101,7 @@ void requireConfigurations(const script::tooling::Tooling& tooling) {
 RunReport play(const RunOptions& options, const std::vector<std::string>& writable) {
   const LoadedModule module;
   module.tooling().switchHints(options.hints);
+  module.tooling().switchReferenceFiles(options.writeDocs);
   em5::HostSession session(toHostOptions(options));
   limitHostWrites(writable);
   const auto format =

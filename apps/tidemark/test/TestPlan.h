@@ -95,6 +95,7 @@ struct TestPlan {
   em5::GameModeType gameMode = em5::GameModeType::FREEPLAY_ENDLESS;
   bool editor = false;
   std::optional<qsf::GamepadModel> gamepad; ///< plugged in before the module loads
+  bool docs = false; ///< the module leaves its reference files in the working directory, as in the game
   std::string language = "en";
   std::string account;
   unsigned int players = 1;

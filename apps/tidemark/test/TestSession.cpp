@@ -77,6 +77,7 @@ void TestSession::startHost() {
   options.logThreshold = qsf::LogSystem::TRACE;
   mModule = std::make_unique<LoadedModule>();
   tooling().switchHints(true);
+  tooling().switchReferenceFiles(mPlan.docs);
   mHost = std::make_unique<em5::HostSession>(options);
   limitHostWrites(mWritable);
   mHost->getQsf().getLogSystem().addListener([this](const qsf::LogSystem::Record& record) { keepLine(record); });

@@ -1,6 +1,7 @@
 #include "game_plugin/scenario/lifecycle/MapScriptManager.h"
 
 #include "game_plugin/scenario/Log.h"
+#include "game_plugin/scenario/documentation/ReferenceFiles.h"
 #include "game_plugin/scenario/hints/ExecutionPoint.h"
 #include "game_plugin/scenario/lifecycle/FiringLedger.h"
 #include "game_plugin/scenario/lifecycle/PreCommandCheck.h"
@@ -75,7 +76,8 @@ MapScriptManager& MapScriptManager::replace(bool writeDocumentation) {
   return *new MapScriptManager(writeDocumentation);
 }
 
-void MapScriptManager::LoadConfiguration(bool /*writeDocumentation*/) {
+void MapScriptManager::LoadConfiguration(bool writeDocumentation) {
+  if (writeDocumentation) documentation::leaveReferenceFiles();
   logInfo("***** MapscriptManager started succesfully *****");
   logInfo("");
   forgetScripts();

@@ -52,7 +52,7 @@ struct MapScriptEntry {
 /// plug-in. It may be destroyed while one of its scripts ticks; that script's effects then end.
 class MapScriptManager : public ScriptDirectory {
 public:
-  /// Reads all configurations; also writes the reference documentation.
+  /// Reads all configurations; also leaves the reference files in the working directory.
   MapScriptManager();
   explicit MapScriptManager(bool writeDocumentation);
   /// Runs DoShutdown, stops what it has left running, and lets documents and stores go.
@@ -62,7 +62,8 @@ public:
 
   /// The living manager, or null.
   static MapScriptManager* get();
-  /// A reload: destroys the living manager, if there is one, and makes a new one, which reads all files anew.
+  /// A reload: destroys the living manager, if there is one, and makes a new one, which reads all files anew and leaves
+  /// the reference files if told to.
   static MapScriptManager& replace(bool writeDocumentation);
 
   void LoadConfiguration(bool writeDocumentation);

@@ -260,6 +260,8 @@ bool PlanReader::readGameSetting(const Directive& directive, WordCursor& words) 
     plan.editor = true;
   } else if (directive.name == "gamepad") {
     plan.gamepad = takeGamepadModel(words);
+  } else if (directive.name == "docs") {
+    plan.docs = true;
   } else if (directive.name == "language") {
     plan.language = words.take("a language");
     if (!isLanguageCode(plan.language))
