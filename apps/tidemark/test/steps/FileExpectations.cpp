@@ -83,7 +83,13 @@ Expectation expectPart(WordCursor& words, const std::string& path) {
   });
 }
 
-// The value at the path; what fails is told as NotThere.
+JsonValue sizeOf(const JsonValue& value) {
+  JsonValue size;
+  size.text = fmt::format("{}", value.children.size());
+  return size;
+}
+
+// The value at the path, whose last key may be `size` where no member is called so; what fails is told as NotThere.
 Verdict judgeJson(const std::string& path, const std::string& keys,
                   const std::function<Verdict(const JsonValue&)>& judge) {
   const std::string text = readFile(path);
@@ -91,6 +97,8 @@ Verdict judgeJson(const std::string& path, const std::string& keys,
     // A script in a code page writes a file in that code page.
     const JsonValue root = parseJson(toUtf8(text));
     const JsonValue* value = root.find(keys);
+    if (const auto parent = jsonPathBeforeSize(keys); !value && parent)
+      if (const JsonValue* list = root.find(*parent)) return judge(sizeOf(*list));
     if (!value) throw NotThere(fmt::format("nothing at '{}' of {}", keys, shown(text)));
     return judge(*value);
   } catch (const NotThere&) {

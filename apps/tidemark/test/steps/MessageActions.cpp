@@ -38,8 +38,11 @@ Action emitMessage(WordCursor& words) {
   if (filters.size() > qsf::MessageConfiguration::MAXIMUM_FILTERS)
     throw DirectiveError("a message has up to three filters");
   std::vector<Parameter> parameters;
-  while (words.takeIf("with"))
-    parameters.push_back(takeParameter(words));
+  if (words.takeIf("with")) {
+    do
+      parameters.push_back(takeParameter(words));
+    while (words.takeIf("with") || !words.atEnd()); // one `with` for all, or one for each
+  }
   return [=](TestSession& session) {
     requireGameMessage(session, message);
     qsf::MessageParameters sent(qsf::MessageConfiguration(qsf::StringHash(message), resolveFilters(session, filters)));

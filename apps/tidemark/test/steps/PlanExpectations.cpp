@@ -166,7 +166,7 @@ Expectation expectAction(WordCursor& words, const EntityReference& reference) {
   if (words.takeIf("with")) {
     do
       givens.push_back(takeGiven(words));
-    while (!words.atEnd());
+    while (words.takeIf("with") || !words.atEnd()); // one `with` for all, or one for each
   }
   Expectation expectation;
   expectation.check = [=](TestSession& session) {

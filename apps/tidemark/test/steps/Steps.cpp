@@ -102,6 +102,13 @@ std::string takeJsonPath(WordCursor& words) {
   return isSize ? std::string() : words.take("a path");
 }
 
+std::optional<std::string> jsonPathBeforeSize(const std::string& path) {
+  constexpr std::string_view SIZE = "size";
+  if (path == SIZE) return std::string();
+  if (!path.ends_with(".size")) return std::nullopt;
+  return path.substr(0, path.size() - SIZE.size() - 1);
+}
+
 bool atTimes(const WordCursor& words) {
   return (words.peekKeyword("never") && words.remaining() == 1) ||
          (words.peekKeyword("times", 1) && words.remaining() == 2);

@@ -33,6 +33,8 @@ qsf::GamepadModel takeGamepadModel(WordCursor& words);
 
 /// A path in JSON; none in front of `size N` is the empty one.
 std::string takeJsonPath(WordCursor& words);
+/// The path whose number of children `PATH.size` or `size` asks for; nothing if it doesn't.
+std::optional<std::string> jsonPathBeforeSize(const std::string& path);
 
 /// `within EPS` if it is next. Throws for a negative one.
 std::optional<double> takeWithin(WordCursor& words);

@@ -25,8 +25,9 @@ void PlayAudioAction::init(const std::string& file, const qsf::Entity* contextEn
 
 qsf::action::Description PlayAudioAction::describe() const {
   const qsf::AudioSettings& settings = mAudioProxy.getSettings();
+  const bool isSomewhere = settings.contextEntityId != qsf::UNINITIALIZED_ID;
   qsf::action::Description description{{"file", settings.sourceFile},
-                                       {"target", std::to_string(settings.contextEntityId)},
+                                       {"target", isSomewhere ? std::to_string(settings.contextEntityId) : "null"},
                                        {"spatial", settings.spatial ? "1" : "0"},
                                        {"loop", settings.loop ? "1" : "0"},
                                        {"wait", mWaitForFinish ? "1" : "0"}};

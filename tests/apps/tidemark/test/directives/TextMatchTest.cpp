@@ -41,6 +41,14 @@ TEST(TextMatch, CountsPartsThatDoNotOverlap) {
   EXPECT_EQ(countOccurrences("", "a"), 0u);
 }
 
+TEST(TextMatch, CharactersMatchTheirBytesInTheCodePage) {
+  EXPECT_TRUE(textMatches("gr\xC3\xBCn \xE2\x82\xAC", "gr\xFCn \x80"));
+  EXPECT_TRUE(textContained("\xC3\xBC", "gr\xFCn"));
+  EXPECT_EQ(countOccurrences("\xC3\xBC", "\xFC \xFC"), 2u);
+  EXPECT_FALSE(textMatches("gr\xC3\xBCn", "gr\xC3\xBC\xFCn"));
+  EXPECT_FALSE(textMatches("gr\xFCn", "gr\xC3\xBCn"));
+}
+
 TEST(TextMatch, TheMarkIsAByte) {
   EXPECT_TRUE(holdsGlobalMark("x§"));
   EXPECT_TRUE(holdsGlobalMark("\xA7"));
