@@ -153,8 +153,9 @@ void ScenarioEvent::countDownJumps(qsf::Time timePassed) {
     return;
   }
   // Kept: the walk goes on behind the place of one that is erased, so the one that moves there waits for the next call.
-  for (std::size_t i = 0; i < mPendingJumps.size(); ++i) {
-    PendingJump& jump = mPendingJumps[i];
+  std::size_t next = 0;
+  while (next < mPendingJumps.size()) {
+    PendingJump& jump = mPendingJumps[next++];
     jump.secondsLeft -= timePassed.getSeconds();
     if (jump.secondsLeft > 0) continue;
     qsf::Entity* person = findEntity(jump.personId);
