@@ -41,6 +41,9 @@ grep -qF "Good night: the harbour closes." "$work/output" || fail "the harbour d
 hidden "$tidemark" test "$work/once.script" >"$work/output" 2>&1 || fail "the script test fails"
 grep -qxF "1 passed, 0 failed" "$work/output" || fail "the script test did not run"
 
+hidden "$tidemark" docs "$work/reference" >"$work/output" 2>&1 || fail "the reference is not written"
+grep -qF '<article id="Timer"' "$work/reference/reference.html" || fail "the reference has no Timer"
+
 # Each of these has one place only.
 for part in share/tidemark/data/em5 lib/tidemark/libtidemark.so lib/tidemark/libqsf_host.so; do
   mv "$work/moved/$part" "$work/taken"
