@@ -38,9 +38,12 @@ Expectation expectControl(const BoneReference& reference, bool manual) {
   return expectation;
 }
 
+/// Degrees. An angle is taken from a quaternion of floats, which costs the last digits.
+constexpr double ANGLE_TOLERANCE = 0.01;
+
 Expectation expectTurn(WordCursor& words, const BoneReference& reference) {
   const double degrees = words.takeNumber("the degrees");
-  const std::optional<double> within = takeWithin(words);
+  const double within = takeWithin(words).value_or(ANGLE_TOLERANCE);
   Expectation expectation;
   expectation.check = [=](TestSession& session) {
     const float found = findBone(session, reference).turnedBy;

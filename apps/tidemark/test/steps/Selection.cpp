@@ -2,8 +2,11 @@
 
 #include "apps/tidemark/test/TestSession.h"
 
+#include "em5/base/Messages.h"
 #include "em5/game/Game.h"
+#include "qsf/Qsf.h"
 #include "qsf/editor/EditorApplication.h"
+#include "qsf/message/MessageSystem.h"
 
 namespace tidemark::test {
 
@@ -26,7 +29,12 @@ std::set<std::uint64_t> getSelection() {
 void setSelection(const std::set<std::uint64_t>& ids) {
   auto* manager = findManager();
   if (!manager) throw NotThere("nothing can be selected while no game runs");
+  const bool isTheOldOne = manager->getSelectedIdSet() == ids;
   manager->setSelection(ids);
+  // A click on what is selected already is told, too; the manager itself tells of changes only.
+  if (isTheOldOne && !qsf::UniqueInstance<qsf::editor::EditorApplication>())
+    qsf::Qsf::instance()->getMessageSystem().emitMessage(
+        qsf::MessageConfiguration(em5::Messages::EM5_CHANGE_SELECTION));
 }
 
 }
