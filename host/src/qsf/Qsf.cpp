@@ -7,6 +7,7 @@
 #include "qsf/base/StringHashManager.h"
 #include "qsf/base/WritePermission.h"
 #include "qsf/component/BaseClasses.h"
+#include "qsf/game/Plugin.h"
 #include "qsf/input/InputSystem.h"
 #include "qsf/job/JobManagers.h"
 #include "qsf/localization/LocalizationSystem.h"
@@ -53,7 +54,7 @@ private:
 struct Qsf::Systems
     : SystemList<LogSystem, FaultCounter, StringHashManager, CallRecorder, WritePermission, MessageSystem, JobManagers,
                  ProjectManager, PrototypeManager, LocalizationSystem, InputSystem, WindowApplication, LayerManager,
-                 AudioSystem, SkeletonManager, Map, PluginSystem> {};
+                 AudioSystem, SkeletonManager, game::Plugin, Map, PluginSystem> {};
 
 Qsf::Qsf() : mSystems(std::make_unique<Systems>()) {
   assert(!sInstance);

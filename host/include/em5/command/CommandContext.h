@@ -1,18 +1,18 @@
 #pragma once
-#include "qsf/Export.h"
+#include "qsf/game/CommandContext.h"
 
-namespace qsf {
-class Entity;
-}
+#include <cstdint>
 
 namespace em5 {
 
-/// Who does what to whom when a command is about to be executed. Lives for the call that carries it.
-struct QSF_API CommandContext {
-  qsf::Entity* mCaller = nullptr;
-  qsf::Entity* mTargetEntity = nullptr;
+/// A command's context in the game. Lives for the call that carries it.
+struct QSF_API CommandContext : qsf::game::CommandContext {
   /// The unit minds smoke; false for orders that are given regardless of it.
   bool mConsiderSmoke = true;
+
+  /// What became of the question whether the unit may obey.
+  enum Permission : std::uint32_t { PERMISSION_OPEN = 0, PERMISSION_GRANTED = 1, PERMISSION_REFUSED = 2 };
+  Permission mPermission = PERMISSION_OPEN;
 };
 
 }

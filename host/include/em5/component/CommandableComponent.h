@@ -5,7 +5,7 @@
 
 namespace em5 {
 
-/// Makes its entity a player's unit. Properties "PlayerId", "OrderInfo" (name), "CommandIds".
+/// Makes its entity a player's unit. Properties "PlayerId", "OrderInfo" (name), "Commands" (ids).
 class QSF_API CommandableComponent : public qsf::Component {
   CAMP_RTTI()
 public:
@@ -14,21 +14,21 @@ public:
   static void declareCamp();
 
   /// Index of the owning player, 0 for the host of a session and in single player.
-  unsigned int getPlayerId() const { return mPlayerId; }
-  void setPlayerId(unsigned int playerId) { mPlayerId = playerId; }
+  int getPlayerId() const { return mPlayerId; }
+  void setPlayerId(int playerId) { mPlayerId = playerId; }
 
   /// Name of the order info that the unit was made from; empty without one.
   const std::string& getOrderInfo() const { return mOrderInfo; }
   void setOrderInfo(const std::string& name) { mOrderInfo = name; }
 
-  /// Commands that the unit understands, in the order of their buttons.
+  /// Commands that the unit understands, in the order of their buttons. An id may be of no command.
   const std::vector<std::uint32_t>& getCommandIds() const { return mCommandIds; }
   std::vector<std::uint32_t>& getCommandIdsForWriting() { return mCommandIds; }
 
 private:
   std::string mOrderInfo;
   std::vector<std::uint32_t> mCommandIds;
-  unsigned int mPlayerId = 0;
+  int mPlayerId = 0;
 };
 
 }

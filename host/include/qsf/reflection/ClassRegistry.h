@@ -31,6 +31,7 @@ public:
   static void removeClass(const camp::Class& campClass);
   /// Null if there is none. Declared classes that were never added are not found.
   static const camp::Class* findClass(StringHash id);
+  static bool isOrDerivesFrom(const camp::Class& metaclass, const camp::Class& base);
   /// All classes, by name.
   static const std::vector<const camp::Class*>& getClasses();
 

@@ -1,6 +1,8 @@
 #include "em5/action/GetEquipmentAction.h"
 
 #include "em5/base/Messages.h"
+#include "em5/command/EquipmentCommands.h"
+#include "em5/component/CommandableComponent.h"
 #include "em5/component/PersonComponent.h"
 #include "em5/map/EntityHelper.h"
 #include "qsf/Qsf.h"
@@ -15,6 +17,26 @@
 #include "qsf/reflection/ClassRegistry.h"
 
 namespace em5 {
+
+namespace {
+
+/// Whoever holds new equipment understands the command that goes with it, and no longer that of what it held.
+void exchangeCommands(const qsf::Entity& person, const std::string& formerName, const std::string& name) {
+  auto* commandable = person.getComponent<CommandableComponent>();
+  if (!commandable) return;
+  std::vector<std::uint32_t>& ids = commandable->getCommandIdsForWriting();
+  const qsf::StringHash former = EquipmentCommand::findByEquipmentName(formerName);
+  const qsf::StringHash id = EquipmentCommand::findByEquipmentName(name);
+  if (former.isInitialized()) std::erase(ids, former.getHash());
+  if (id.isInitialized() && std::ranges::find(ids, id.getHash()) == ids.end()) ids.push_back(id.getHash());
+}
+
+std::string equipmentNameOf(const qsf::Entity* entity) {
+  const auto* equipment = entity ? entity->getComponent<qsf::game::EquipmentComponent>() : nullptr;
+  return equipment ? equipment->getEquipmentName() : std::string();
+}
+
+}
 
 static const qsf::DeclaredClass<GetEquipmentAction> declared;
 
@@ -47,9 +69,8 @@ bool GetEquipmentAction::onStartup() {
 }
 
 qsf::action::Result GetEquipmentAction::updateAction(const qsf::Clock&) {
-  const qsf::Entity* held = EntityHelper(getEntity()).getActiveEquipmentEntity();
-  const auto* heldEquipment = held ? held->getComponent<qsf::game::EquipmentComponent>() : nullptr;
-  if (heldEquipment && heldEquipment->getEquipmentName() == mEquipmentName) return qsf::action::RESULT_DONE;
+  if (equipmentNameOf(EntityHelper(getEntity()).getActiveEquipmentEntity()) == mEquipmentName)
+    return qsf::action::RESULT_DONE;
   if (qsf::Entity* equipment = makeEquipment()) putInHand(*equipment);
   return qsf::action::RESULT_DONE;
 }
@@ -76,6 +97,8 @@ qsf::Entity* GetEquipmentAction::makeBareEquipment() const {
 
 void GetEquipmentAction::putInHand(qsf::Entity& equipment) const {
   auto& person = *getEntity().getComponent<PersonComponent>();
+  exchangeCommands(getEntity(), equipmentNameOf(EntityHelper(getEntity()).getActiveEquipmentEntity()),
+                   equipmentNameOf(&equipment));
   getMap().destroyObjectById(person.getEquipmentId());
   if (auto* transform = equipment.getComponent<qsf::TransformComponent>())
     transform->setPosition(EntityHelper(getEntity()).getPosition());

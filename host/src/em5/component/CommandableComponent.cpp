@@ -12,9 +12,8 @@ void CommandableComponent::declareCamp() {
       .base<Component>()
       .constructor1<qsf::Prototype*>()
       .property("PlayerId", &CommandableComponent::getPlayerId, &CommandableComponent::setPlayerId)
-      .tag(qsf::UNSIGNED_TAG)
       .property("OrderInfo", &CommandableComponent::getOrderInfo, &CommandableComponent::setOrderInfo)
-      .property("CommandIds", &CommandableComponent::mCommandIds)
+      .property("Commands", &CommandableComponent::mCommandIds)
       .tag(qsf::UNSIGNED_TAG);
 }
 

@@ -1,5 +1,6 @@
 #include "qsf/plugin/PluginSystem.h"
 #include "qsf/base/LoadError.h"
+#include "qsf/game/Plugin.h"
 #include "qsf/log/FaultCounter.h"
 #include "qsf/log/LogSystem.h"
 #include "qsf/plugin/DynamicLibrary.h"
@@ -79,8 +80,11 @@ void PluginSystem::end(Entry& entry) {
 void PluginSystem::release(std::unique_ptr<Entry> entry) const {
   const auto& classes = entry->plugin->getCampClasses();
   if (entry->library && (mKeepLibraries || !classes.empty())) entry->library->keep();
-  for (const camp::Class* campClass : classes)
+  for (const camp::Class* campClass : classes) {
+    if (auto* game = game::Plugin::getInstance())
+      game->getCommandSystem().getCommandManager().forgetCommand(StringHash(campClass->name()));
     ClassRegistry::removeClass(*campClass);
+  }
   // Members go in reverse order: the plug-in while its library is still there.
 }
 

@@ -32,13 +32,13 @@ void rememberName(const std::string& name) {
   if (const Qsf* host = Qsf::instance()) host->getStringHashManager().registerStringHash(StringHash(name), name);
 }
 
-bool isOrDerivesFrom(const camp::Class& metaclass, const camp::Class& base) {
+}
+
+bool ClassRegistry::isOrDerivesFrom(const camp::Class& metaclass, const camp::Class& base) {
   if (&metaclass == &base) return true;
   for (std::size_t i = 0; i < metaclass.baseCount(); ++i)
     if (isOrDerivesFrom(metaclass.base(i), base)) return true;
   return false;
-}
-
 }
 
 void ClassRegistry::addDeclaration(void (*declare)()) { declarations().push_back(declare); }

@@ -282,9 +282,9 @@ TEST_F(ComponentsTest, StateIsReadAndWrittenByReflection) {
   person.setPropertyByString("EquipmentId", "100");
   EXPECT_EQ(person.getEquipmentId(), 100u);
   auto& commandable = add<em5::CommandableComponent>(101);
-  commandable.setPropertyByString("CommandIds", "1 4294967295");
+  commandable.setPropertyByString("Commands", "1 4294967295");
   EXPECT_EQ(commandable.getCommandIds(), (std::vector<std::uint32_t>{1, 4294967295u}));
-  EXPECT_EQ(text(commandable, "CommandIds"), "1 4294967295");
+  EXPECT_EQ(text(commandable, "Commands"), "1 4294967295");
   auto& building = add<em5::BuildingComponent>(102);
   building.setPropertyByString("EntityIds", "18446744073709551615 7");
   EXPECT_EQ(building.getEntityIds(), (std::vector<std::uint64_t>{qsf::UNINITIALIZED_ID, 7}));
