@@ -4,6 +4,7 @@
 #include "game_plugin/action/SetCampPropertyAction.h"
 #include "game_plugin/action/UseEquipmentAction.h"
 #include "game_plugin/action/WaitUntilPropertyIsValue.h"
+#include "game_plugin/command/ScriptedCommand.h"
 #include "game_plugin/component/EventTargetComponent.h"
 #include "game_plugin/component/MP_LOG_COMPONENT.h"
 #include "game_plugin/component/MeshAnimationComponent.h"
@@ -33,6 +34,8 @@ std::vector<const camp::Class*> declareCampClasses() {
       declareOnce<PlayLocalSoundWithCustomVolume>(),
       declareOnce<ScenarioEventFactory>(),
       declareOnce<ScenarioEvent>(),
+      declareOnce<CommandbarButton1>(),
+      declareOnce<MouseClickDummyCommand>(),
       declareOnce<ScenarioCommandableComponent>(),
       declareOnce<EventTargetComponent>(),
       declareOnce<bt::NewDoorComponent>(),

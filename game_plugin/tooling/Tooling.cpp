@@ -207,6 +207,10 @@ public:
     return views;
   }
 
+  void blockExtinguishing(std::uint64_t entityId) override {
+    if (MapScriptManager* manager = MapScriptManager::get()) manager->getBlockedEntityIds().push_back(entityId);
+  }
+
   std::vector<DroppedLineView> getDroppedLines() const override {
     std::vector<DroppedLineView> views;
     if (const MapScriptManager* manager = MapScriptManager::get())

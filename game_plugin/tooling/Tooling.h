@@ -127,6 +127,8 @@ public:
   virtual std::vector<DroppedLineView> getDroppedLines() const = 0;
   /// The table of scripted commands, in the order in which they were named first.
   virtual std::vector<CommandBidView> getCommandBids() const = 0;
+  /// Puts an entity on the list of those that may not be extinguished.
+  virtual void blockExtinguishing(std::uint64_t entityId) = 0;
 
   /// The line of a script that is being read, tested or run at this moment: what is logged now is about it. Nothing
   /// while no script is at work.

@@ -51,7 +51,19 @@ namespace script {
   ENTRY(SetRenderQueueId)                                                                                              \
   ENTRY(ForceHelicopterFlying)                                                                                         \
   ENTRY(SendCarTowed)                                                                                                  \
-  ENTRY(AddEntityToComponentArray)
+  ENTRY(AddEntityToComponentArray)                                                                                     \
+  ENTRY(SpawnPlayerVehicle)                                                                                            \
+  ENTRY(RegisterUnit)                                                                                                  \
+  ENTRY(UnregisterUnit)                                                                                                \
+  ENTRY(ChangeUnitDepartment)                                                                                          \
+  ENTRY(ModifyVehicleStartPersonal)                                                                                    \
+  ENTRY(SetUnitPool)                                                                                                   \
+  ENTRY(SetMaximumUnitAmount)                                                                                          \
+  ENTRY(AddCommand)                                                                                                    \
+  ENTRY(RemoveCommand)                                                                                                 \
+  ENTRY(LogCommands)                                                                                                   \
+  ENTRY(ExecuteCommand)                                                                                                \
+  ENTRY(SelectUnits)
 EFFECT_GROUP(ScenarioEffects_Brill, MANIFEST)
 
 }

@@ -42,7 +42,8 @@ namespace script {
   ENTRY(LightOnOff)                                                                                                    \
   ENTRY(ToggleLight)                                                                                                   \
   ENTRY(SetStatusIcon)                                                                                                 \
-  ENTRY(SetStatusBar)
+  ENTRY(SetStatusBar)                                                                                                  \
+  ENTRY(SetPlayerId)
 EFFECT_GROUP(ScenarioEffects_Tarn, MANIFEST)
 
 }

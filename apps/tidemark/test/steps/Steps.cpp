@@ -15,6 +15,7 @@ namespace tidemark::test {
   THEME(Store)                                                                                                         \
   THEME(World)                                                                                                         \
   THEME(Message)                                                                                                       \
+  THEME(Command)                                                                                                       \
   THEME(Device)                                                                                                        \
   THEME(Gamepad)                                                                                                       \
   THEME(Event)                                                                                                         \
@@ -24,6 +25,7 @@ namespace tidemark::test {
   THEME(Hint)                                                                                                          \
   THEME(File)                                                                                                          \
   THEME(Command)                                                                                                       \
+  THEME(Unit)                                                                                                          \
   THEME(Message)                                                                                                       \
   THEME(Store)                                                                                                         \
   THEME(Trigger)                                                                                                       \

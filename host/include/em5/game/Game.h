@@ -7,6 +7,7 @@
 
 namespace em5 {
 
+class MiniMapIconRegistrationLogic;
 class OrderInfoManager;
 
 /// What is played. A game program has one from its setup on, renewed when a map ends; the editor has none.
@@ -19,6 +20,7 @@ public:
   PlayerManager* getPlayerManager() { return &mPlayerManager; }
   SelectionManager* getSelectionManager() { return &mSelectionManager; }
   OrderInfoManager& getOrderInfoManager() const { return *mOrderInfoManager; }
+  MiniMapIconRegistrationLogic& getMiniMapIconRegistrationLogic() const { return *mMiniMapIconRegistrationLogic; }
 
   /// A paused game rests its simulation from the next frame on; GUI and message-driven work go on.
   void setPaused(bool paused);
@@ -28,6 +30,7 @@ private:
   PlayerManager mPlayerManager;
   SelectionManager mSelectionManager;
   std::unique_ptr<OrderInfoManager> mOrderInfoManager;
+  std::unique_ptr<MiniMapIconRegistrationLogic> mMiniMapIconRegistrationLogic;
 };
 
 }

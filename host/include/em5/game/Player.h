@@ -1,5 +1,5 @@
 #pragma once
-#include "qsf/Export.h"
+#include "em5/game/UnitPool.h"
 
 #include <string>
 
@@ -18,7 +18,12 @@ public:
   const std::string& getName() const { return mName; }
   void setName(const std::string& name) { mName = name; }
 
+  /// The units that the player may have and has; that of the game's start is "default_unitpool".
+  UnitPool& getUnitPool() { return mUnitPool; }
+  const UnitPool& getUnitPool() const { return mUnitPool; }
+
 private:
+  UnitPool mUnitPool;
   std::string mName;
   unsigned int mPlayerIndex;
 };

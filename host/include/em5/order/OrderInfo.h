@@ -22,12 +22,15 @@ public:
   qsf::StringHash getId() const { return qsf::StringHash(mName); }
   qsf::AssetProxy getPrefab() const { return qsf::AssetProxy(mPrefab); }
   void setPrefab(const std::string& localAssetName) { mPrefab = localAssetName; }
-  const std::string& getDepartment() const { return mDepartment; }
-  void setDepartment(const std::string& department) { mDepartment = department; }
+  enum Department { NO_DEPARTMENT = 0, FIRE = 1, AMBULANCE = 2, POLICE = 3, TECH = 4 };
+  int getDepartment() const { return mDepartment; }
+  void setDepartment(int department) { mDepartment = department; }
+  /// A name of MiniMapIconRegistrationLogic; empty for none.
   const std::string& getMiniMapIconType() const { return mMiniMapIconType; }
   void setMiniMapIconType(const std::string& type) { mMiniMapIconType = type; }
-  std::uint32_t getPersonnelSpace() const { return mPersonnelSpace; }
-  void setPersonnelSpace(std::uint32_t space) { mPersonnelSpace = space; }
+  /// Seats.
+  int getPersonnelSpace() const { return mPersonnelSpace; }
+  void setPersonnelSpace(int space) { mPersonnelSpace = space; }
   bool isTagSet(const std::string& tag) const { return mTags.count(tag) != 0; }
   void setTag(const std::string& tag) { mTags.insert(tag); }
   const std::vector<StartPersonnel>& getStartPersonnelList() const { return mStartPersonnel; }
@@ -36,11 +39,11 @@ public:
 private:
   std::string mName;
   std::string mPrefab;
-  std::string mDepartment;
   std::string mMiniMapIconType;
   std::set<std::string> mTags;
   std::vector<StartPersonnel> mStartPersonnel;
-  std::uint32_t mPersonnelSpace = 0;
+  int mDepartment = NO_DEPARTMENT;
+  int mPersonnelSpace = 0;
 };
 
 }

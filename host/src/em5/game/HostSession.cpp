@@ -79,6 +79,12 @@ private:
   bool mBefore;
 };
 
+void loadUnits(Game& game) {
+  game.getOrderInfoManager().load();
+  for (Player* player : game.getPlayerManager()->getAllPlayers())
+    player->getUnitPool().load("default_unitpool");
+}
+
 bool isMapAsset(const std::string& localAssetName) {
   const std::size_t slash = localAssetName.find('/');
   return slash != std::string::npos && localAssetName.compare(slash + 1, 4, "map/") == 0 &&
@@ -91,7 +97,7 @@ void HostSession::Internals::start(const std::string& map) {
   BusyScope scope(busy);
   try {
     qsf.getJobManagers().setPaused(false);
-    if (game) game->getOrderInfoManager().load();
+    if (game) loadUnits(*game);
     qsf.getMainMap().load(map);
     if (mapPreparation) mapPreparation(qsf.getMainMap());
     qsf.getMainMap().startup();

@@ -26,15 +26,22 @@ void readStartPersonnel(const qsf::JsonPlace& list, OrderInfo& info) {
   }
 }
 
+int readDepartment(const qsf::JsonPlace& place) {
+  static constexpr std::string_view DEPARTMENTS[] = {"", "fire", "ambulance", "police", "tech"};
+  const auto* found = std::ranges::find(DEPARTMENTS, place.asText());
+  if (found == std::end(DEPARTMENTS)) place.fail("\"fire\", \"ambulance\", \"police\" or \"tech\" is expected here");
+  return static_cast<int>(found - std::begin(DEPARTMENTS));
+}
+
 std::unique_ptr<OrderInfo> readOrderInfo(const std::string& file) {
   const qsf::Json json = qsf::readJsonFile(file);
   const qsf::JsonPlace root(json, file);
   root.expectObject({"name", "prefab", "department", "miniMapIcon", "personnelSpace", "tags", "startPersonnel"});
   auto info = std::make_unique<OrderInfo>(requiredText(root, "name"));
   info->setPrefab(textOr(root, "prefab", ""));
-  info->setDepartment(textOr(root, "department", ""));
+  if (root.has("department")) info->setDepartment(readDepartment(root.member("department")));
   info->setMiniMapIconType(textOr(root, "miniMapIcon", ""));
-  info->setPersonnelSpace(static_cast<std::uint32_t>(numberOr(root, "personnelSpace", {0, 1000}, 0)));
+  info->setPersonnelSpace(static_cast<int>(numberOr(root, "personnelSpace", {0, 1000}, 0)));
   if (root.has("tags"))
     for (const std::string& tag : asTexts(root.member("tags")))
       info->setTag(tag);

@@ -2,6 +2,7 @@
 
 #include "qsf/action/Action.h"
 #include "qsf/component/Component.h"
+#include "qsf/game/CommandManager.h"
 
 #include <camp/classbuilder.hpp>
 
@@ -14,6 +15,8 @@ void declare() {
   camp::Class::declare<Prototype>("qsf::Prototype");
   Component::declareCamp();
   Action::declareCamp();
+  game::CommandManager::declareCamp();
+  game::Command::declareCamp();
 }
 
 }

@@ -18,10 +18,7 @@ const camp::Class* findCommandClass(StringHash id) {
 
 }
 
-CommandManager::CommandManager() {
-  static const bool declared = (declareCamp(), Command::declareCamp(), true);
-  static_cast<void>(declared);
-}
+CommandManager::CommandManager() = default;
 
 CommandManager::~CommandManager() = default;
 

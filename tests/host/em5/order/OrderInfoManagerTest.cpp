@@ -22,24 +22,31 @@ TEST_F(OrderInfoManagerTest, ReadsTheOrderInfosOfAllProjects) {
   const em5::OrderInfo* info = manager.getOrderInfoById("Ladder");
   ASSERT_TRUE(info);
   EXPECT_EQ(info->getPrefab().getLocalAssetId(), qsf::StringHash("em5/prefab/test/fire_engine"));
-  EXPECT_EQ(info->getDepartment(), "fire");
-  EXPECT_EQ(info->getPersonnelSpace(), 6u);
+  EXPECT_EQ(info->getDepartment(), em5::OrderInfo::FIRE);
+  EXPECT_EQ(info->getPersonnelSpace(), 6);
   EXPECT_TRUE(info->isTagSet("IgnoreSmoke"));
   ASSERT_EQ(info->getStartPersonnelList().size(), 1u);
   EXPECT_EQ(info->getStartPersonnelList()[0].orderInfo, "Firefighter");
   EXPECT_EQ(info->getStartPersonnelList()[0].count, 2);
   EXPECT_EQ(manager.getOrderInfoById("Nothing"), nullptr);
 
-  manager.getOrderInfoByIdForWriting("Ladder")->setDepartment("police");
+  manager.getOrderInfoByIdForWriting("Ladder")->setDepartment(em5::OrderInfo::POLICE);
   session->requestRestart();
   EXPECT_EQ(qsf::UniqueInstance<em5::Game>()->getOrderInfoManager().getOrderInfoById("Ladder")->getDepartment(),
-            "fire");
+            em5::OrderInfo::FIRE);
 
   qsf::Entity* unit = qsf::getMainMap().createEntity(100);
   EXPECT_EQ(em5::EntityHelper(*unit).getOrderInfo(), nullptr);
   unit->getOrCreateComponent<em5::CommandableComponent>()->setOrderInfo("Ladder");
   ASSERT_TRUE(em5::EntityHelper(*unit).getOrderInfo());
   EXPECT_EQ(em5::EntityHelper(*unit).getOrderInfo()->getName(), "Ladder");
+}
+
+TEST_F(OrderInfoManagerTest, ADepartmentThatNobodyKnowsIsAFault) {
+  const std::string project = writeProject("mine");
+  write("mine", "order_info/fire/ladder.json", R"({"name": "Ladder", "department": "Fire"})");
+  open().mountMod(project);
+  EXPECT_THROW(session->startGame(EMPTY_MAP), qsf::LoadError);
 }
 
 TEST_F(OrderInfoManagerTest, AFaultyOrderInfoKeepsTheGameFromStarting) {
