@@ -39,6 +39,7 @@ namespace script {
   ENTRY(AddValueToValueList)                                                                                           \
   ENTRY(ReadJson)                                                                                                      \
   ENTRY(GetValueFromJson)                                                                                              \
+  ENTRY(KillPerson)                                                                                                    \
   ENTRY(LightOnOff)                                                                                                    \
   ENTRY(ToggleLight)                                                                                                   \
   ENTRY(SetStatusIcon)                                                                                                 \
