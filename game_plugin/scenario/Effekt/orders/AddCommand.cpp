@@ -1,4 +1,3 @@
-#include "game_plugin/scenario/Log.h"
 #include "game_plugin/scenario/program/ParameterReader.h"
 #include "game_plugin/scenario/shared/commands/UnitCommands.h"
 

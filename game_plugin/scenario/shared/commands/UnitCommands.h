@@ -1,4 +1,5 @@
 #pragma once
+#include "game_plugin/scenario/Log.h"
 #include "game_plugin/scenario/shared/lists/ListOut.h"
 #include "game_plugin/scenario/tick/ScenarioHandler.h"
 
