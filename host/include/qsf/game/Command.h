@@ -40,3 +40,6 @@ private:
 
 }
 CAMP_TYPE_NONCOPYABLE(qsf::game::Command)
+
+// A command class is declared with a constructor that takes a manager, for which CAMP needs the whole class.
+#include "qsf/game/CommandManager.h" // IWYU pragma: keep
