@@ -2,12 +2,14 @@
 #include "game_plugin/command/ScriptedCommand.h"
 #include "game_plugin/ModuleFixture.h"
 #include "game_plugin/component/ScenarioCommandableComponent.h"
+#include "game_plugin/scenario/ScriptFixture.h"
 #include "game_plugin/scenario/messages/MessageNames.h"
 
 #include "em5/command/CommandHelper.h"
 #include "em5/component/CommandableComponent.h"
 #include "em5/game/Game.h"
 #include "qsf/action/ActionComponent.h"
+#include "qsf/base/CallRecorder.h"
 
 using namespace script;
 
@@ -114,6 +116,16 @@ TEST_F(ScriptedCommandTest, BothAreAlwaysAvailableAndLightNothingUp) {
 TEST_F(ScriptedCommandTest, CommandsGoWithTheModule) {
   session->getQsf().getPluginSystem().unloadPlugins();
   EXPECT_EQ(nullptr, em5::CommandHelper::findCommand(MouseClickDummyCommand::COMMAND_ID));
+}
+
+TEST_F(ScriptedCommandTest, ExecuteCommandWithAnEmptyPositionGivesNone) {
+  // A script's file can't say an empty text there; its default stands in.
+  EntryRunner runner;
+  runner.run({"ExecuteCommand", "test::Recorder", "100", "101", "", "false", "ok"});
+  const auto& calls = session->getQsf().getCallRecorder().getCalls();
+  ASSERT_FALSE(calls.empty());
+  EXPECT_EQ("test::Recorder::execute", calls.back().operation);
+  EXPECT_EQ((std::vector<std::string>{"100", "101", "null", "0", "100"}), calls.back().arguments);
 }
 
 }
