@@ -91,12 +91,15 @@ void ScriptedCommand::execute(const qsf::game::CommandContext& context) {
 
 void CommandbarButton1::declareCamp() {
   camp::Class::declare<CommandbarButton1>("script::CommandbarButton1")
+      .tag("Name", "script::CommandbarButton1")
+      .tag("Description", "script::CommandbarButton1")
       .base<em5::Command>()
       .constructor1<qsf::game::CommandManager*>();
 }
 
 void MouseClickDummyCommand::declareCamp() {
   camp::Class::declare<MouseClickDummyCommand>("script::MouseClickDummyCommand")
+      .tag("Name", "script::MouseClickDummyCommand")
       .tag("Description", "A dummy which collects the priorities from scripted commands and is able to block them")
       .base<em5::Command>()
       .constructor1<qsf::game::CommandManager*>();

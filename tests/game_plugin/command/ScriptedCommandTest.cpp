@@ -113,6 +113,13 @@ TEST_F(ScriptedCommandTest, BothAreAlwaysAvailableAndLightNothingUp) {
   }
 }
 
+TEST_F(ScriptedCommandTest, TheEditorShowsWhatItIsFor) {
+  const camp::Class& metaclass = command->getCampClass();
+  EXPECT_EQ("script::MouseClickDummyCommand", metaclass.tag("Name").to<std::string>());
+  EXPECT_EQ("A dummy which collects the priorities from scripted commands and is able to block them",
+            metaclass.tag("Description").to<std::string>());
+}
+
 TEST_F(ScriptedCommandTest, CommandsGoWithTheModule) {
   session->getQsf().getPluginSystem().unloadPlugins();
   EXPECT_EQ(nullptr, em5::CommandHelper::findCommand(MouseClickDummyCommand::COMMAND_ID));
