@@ -265,7 +265,7 @@ INSTANTIATE_TEST_SUITE_P(
         Fault{"$ @at 0 emit m with x", "'x' is no PARAMETER=VALUE"},
         Fault{"$ @at 0 emit m with =x", "is no PARAMETER=VALUE"},
         Fault{"$ @at 0 emit m with", "PARAMETER=VALUE behind 'with' is missing"},
-        Fault{"$ @at 0 emit m with a=1 5", "unexpected word '5'"},
+        Fault{"$ @at 0 emit m with a=1 5", "'5' is no PARAMETER=VALUE"},
         Fault{"$ @at 0 say", "the text of the log line is missing"},
         Fault{"$ @at 0 assetid s", "the asset's name is missing"}, Fault{"$ @players 0", "1 to 4 players"},
         Fault{"$ @players 5", "1 to 4 players"}, Fault{"$ @players", "the number of players is missing"},
