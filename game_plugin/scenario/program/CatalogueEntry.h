@@ -109,10 +109,8 @@ template <class Record> constexpr Oddities odditiesOf() {
 
 }
 
-/// Closes the file of the condition NAME: it has a `struct NAMECondition : DefaultCondition`, a
-/// `static void read(NAMECondition&, ParameterReader&)` (bool if it may refuse the line), and a
-/// `static bool test(const NAMECondition&, ScenarioHandler&)`, with a `const Evaluation&` behind if it needs it.
-#define CONDITION(NAME, CATEGORY, DESCRIPTION)                                                                         \
+/// Defines the condition NAME, asked through TEST. For the two macros that close a condition's file.
+#define CONDITION_ASKED_THROUGH(NAME, CATEGORY, DESCRIPTION, TEST)                                                     \
   extern const ConditionEntry NAME##ConditionEntry;                                                                    \
   constinit const ConditionEntry NAME##ConditionEntry{                                                                 \
       #NAME,                                                                                                           \
@@ -120,29 +118,36 @@ template <class Record> constexpr Oddities odditiesOf() {
       DESCRIPTION,                                                                                                     \
       &detail::createRecord<DefaultCondition, NAME##Condition, ConditionEntry>,                                        \
       &detail::describeRecord<NAME##Condition>,                                                                        \
-      &detail::testRecord<NAME##Condition>,                                                                            \
+      TEST,                                                                                                            \
       detail::odditiesOf<NAME##Condition>()};
 
-/// The same for an effect: `static void run(const NAMEEffect&, ScenarioHandler&)`, with the trigger's hash behind if
-/// needed.
-#define EFFECT(NAME, CATEGORY, DESCRIPTION)                                                                            \
-  extern const EffectEntry NAME##EffectEntry;                                                                          \
-  constinit const EffectEntry NAME##EffectEntry{#NAME,                                                                 \
-                                                CATEGORY,                                                              \
-                                                DESCRIPTION,                                                           \
-                                                &detail::createRecord<DefaultEffect, NAME##Effect, EffectEntry>,       \
-                                                &detail::describeRecord<NAME##Effect>,                                 \
-                                                &detail::runRecord<NAME##Effect>,                                      \
-                                                detail::odditiesOf<NAME##Effect>()};
+/// Closes the file of the condition NAME: it has a `struct NAMECondition : DefaultCondition`, a
+/// `static void read(NAMECondition&, ParameterReader&)` (bool if it may refuse the line), and a
+/// `static bool test(const NAMECondition&, ScenarioHandler&)`, with a `const Evaluation&` behind if it needs it.
+#define CONDITION(NAME, CATEGORY, DESCRIPTION)                                                                         \
+  CONDITION_ASKED_THROUGH(NAME, CATEGORY, DESCRIPTION, &detail::testRecord<NAME##Condition>)
 
-/// An effect that the effect loop runs by its kind.
-#define EFFECT_OF_KIND(NAME, CATEGORY, DESCRIPTION, KIND)                                                              \
+/// Closes the file of a condition that scripts can write and no executor knows: it counts as passed wherever it is
+/// asked, also with `!`. Its file has no `test`.
+#define CONDITION_WITHOUT_TEST(NAME, CATEGORY, DESCRIPTION)                                                            \
+  CONDITION_ASKED_THROUGH(NAME, CATEGORY, DESCRIPTION, nullptr)
+
+/// Defines the effect NAME, run through RUN or by its kind. For the two macros that close an effect's file.
+#define EFFECT_RUN_THROUGH(NAME, CATEGORY, DESCRIPTION, RUN, KIND)                                                     \
   extern const EffectEntry NAME##EffectEntry;                                                                          \
   constinit const EffectEntry NAME##EffectEntry{#NAME,                                                                 \
                                                 CATEGORY,                                                              \
                                                 DESCRIPTION,                                                           \
                                                 &detail::createRecord<DefaultEffect, NAME##Effect, EffectEntry>,       \
                                                 &detail::describeRecord<NAME##Effect>,                                 \
-                                                nullptr,                                                               \
+                                                RUN,                                                                   \
                                                 detail::odditiesOf<NAME##Effect>(),                                    \
                                                 EffectKind::KIND};
+
+/// The same as CONDITION for an effect: `static void run(const NAMEEffect&, ScenarioHandler&)`, with the trigger's hash
+/// behind if needed.
+#define EFFECT(NAME, CATEGORY, DESCRIPTION)                                                                            \
+  EFFECT_RUN_THROUGH(NAME, CATEGORY, DESCRIPTION, &detail::runRecord<NAME##Effect>, ORDINARY)
+
+/// An effect that the effect loop runs by its kind.
+#define EFFECT_OF_KIND(NAME, CATEGORY, DESCRIPTION, KIND) EFFECT_RUN_THROUGH(NAME, CATEGORY, DESCRIPTION, nullptr, KIND)

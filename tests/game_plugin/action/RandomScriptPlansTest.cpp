@@ -1,76 +1,32 @@
 // Random plans of the actions that scripts push: whatever becomes of who carries them out, they end or wait.
-#include "em5/base/GameLayer.h"
 #include "game_plugin/action/ModuleClasses.h"
 #include "game_plugin/action/PlayLocalSoundWithCustomVolume.h"
 #include "game_plugin/action/UseEquipmentAction.h"
 #include "game_plugin/action/WaitUntilPropertyIsValue.h"
-#include "qsf/Qsf.h"
 #include "qsf/action/ActionComponent.h"
 #include "qsf/action/WaitAction.h"
-#include "qsf/asset/Project.h"
 #include "qsf/component/TransformComponent.h"
-#include "qsf/job/JobManagers.h"
-#include "qsf/log/FaultCounter.h"
-#include "qsf/map/Map.h"
 #include "qsf/message/MessageSystem.h"
-#include "tests/support/Paths.h"
+#include "tests/support/RandomPlansWorld.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck.h>
 
 #include <cstdlib>
-#include <tuple>
 
 namespace {
 
-/// What is done, to whom, with whom, and a number.
-using Step = std::tuple<std::uint8_t, std::uint8_t, std::uint8_t, std::uint8_t>;
+using Step = RandomPlansWorld::Step;
 
-class RandomScriptWorld {
+class RandomScriptWorld final : public RandomPlansWorld {
 public:
-  RandomScriptWorld() {
-    em5::addGameLayer(mHost);
-    mHost.getProjectManager().registerSingleProjectFromFileSystem(paths::baseProject());
-    mMap.startup();
-    std::uint64_t id = FIRST_ID;
-    for (const char* prefab : {"firefighter", "fire_engine", "marker", "house"})
-      mMap.createObjectByLocalPrefabAssetId(qsf::StringHash(std::string("em5/prefab/test/") + prefab), id++);
-  }
+  RandomScriptWorld() : RandomPlansWorld({"firefighter", "fire_engine", "marker", "house"}) {}
 
-  void perform(const Step& step) {
-    const auto [what, who, whom, number] = step;
-    qsf::Entity* entity = pick(who);
-    qsf::Entity* other = pick(whom);
-    if (what % 3 == 0 || !entity || !other)
-      runFrames(number % 40);
-    else if (what % 3 == 1 && number % 3 == 0)
-      disturb(*entity, *other, what / 3);
-    else
-      push(*entity, *other, what / 3, number);
-  }
-
-  /// Lets everything go on that rests; as many frames as the longest random plan can take.
-  void finish() {
-    for (qsf::Entity* entity : mMap.getEntities())
-      if (auto* actions = entity->getComponent<qsf::ActionComponent>()) actions->setActive(true);
-    for (int i = 0; i < 1000 && !isOver(); ++i)
-      runFrames(20);
-  }
-  bool isOver() {
-    for (qsf::Entity* entity : mMap.getEntities()) {
-      const auto* actions = entity->getComponent<qsf::ActionComponent>();
-      const qsf::Action* current = actions ? actions->getCurrentAction() : nullptr;
-      if (current && !waitsForGood(*current)) return false;
-    }
-    return true;
-  }
-  std::uint64_t getFaultCount() { return mHost.getFaultCounter().getCount(); }
   std::uint64_t getMessageCount() {
     return mHost.getMessageSystem().getEmittedCount(script::UseEquipmentAction::MESSAGE);
   }
 
 private:
-  static constexpr std::uint64_t FIRST_ID = 100;
   static constexpr const char* ANIMATIONS[] = {"em5/animation/test/nod,2",
                                                "",
                                                "none",
@@ -83,27 +39,12 @@ private:
   static constexpr const char* PROPERTIES[] = {"Position", "SirenEnabled", "Active", "none"};
   static constexpr const char* VALUES[] = {"1 2 3", "1", "0", ""};
 
-  qsf::Entity* pick(unsigned int number) { return mMap.getEntityById(FIRST_ID + number % 4); }
-
-  void runFrames(int frames) {
-    for (; frames > 0; --frames) {
-      mHost.getJobManagers().runFrame(qsf::Time::fromMicroseconds(100'000));
-      mMap.collectGarbage();
-    }
+  /// A property that nobody sets any more is waited for as well.
+  bool waitsForGood(const qsf::Action& current) override {
+    return current.getTypeName() == "script::WaitUntilPropertyIsValue" || RandomPlansWorld::waitsForGood(current);
   }
 
-  /// A property that nobody sets any more, and a sound that is played again and again.
-  static bool waitsForGood(const qsf::Action& current) {
-    if (current.getTypeName() == "script::WaitUntilPropertyIsValue") return true;
-    bool isLooped = false, isWaited = false;
-    for (const auto& [key, value] : current.describe()) {
-      isLooped = isLooped || (key == "loop" && value == "1");
-      isWaited = isWaited || (key == "wait" && value == "1");
-    }
-    return isLooped && isWaited;
-  }
-
-  void disturb(qsf::Entity& entity, qsf::Entity& other, unsigned int what) {
+  void disturb(qsf::Entity& entity, qsf::Entity& other, unsigned int what) override {
     auto& actions = *entity.getOrCreateComponent<qsf::ActionComponent>();
     switch (what % 6) {
     case 0:
@@ -122,7 +63,7 @@ private:
     }
   }
 
-  void push(qsf::Entity& entity, qsf::Entity& other, unsigned int what, unsigned int number) {
+  void push(qsf::Entity& entity, qsf::Entity& other, unsigned int what, unsigned int number) override {
     auto& actions = *entity.getOrCreateComponent<qsf::ActionComponent>();
     const auto mode = static_cast<qsf::action::InsertionMode>(number % 4);
     const bool flag = number & 8;
@@ -146,9 +87,7 @@ private:
     }
   }
 
-  qsf::Qsf mHost;
   ModuleClasses mClasses;
-  qsf::Map& mMap = mHost.getMainMap();
 };
 
 /// Seeds are fixed so that a failure comes again; RC_PARAMS in the environment asks for others.

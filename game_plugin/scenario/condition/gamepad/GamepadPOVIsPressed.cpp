@@ -1,4 +1,3 @@
-#include "game_plugin/scenario/program/UntestedCondition.h"
 #include "game_plugin/scenario/shared/gamepad/GamepadParameter.h"
 
 namespace script {

@@ -6,121 +6,46 @@
 #include "em5/action/PlayAudioAction.h"
 #include "em5/action/SpeakToPersonAction.h"
 #include "em5/action/TurnToAction.h"
-#include "em5/base/GameLayer.h"
 #include "em5/component/VehicleComponent.h"
 #include "em5/logic/TargetPointProviders.h"
 #include "em5/map/EntityHelper.h"
-#include "qsf/Qsf.h"
 #include "qsf/action/ActionComponent.h"
 #include "qsf/action/WaitAction.h"
 #include "qsf/ai/ReachObjectGoal.h"
 #include "qsf/ai/ReachSinglePointGoal.h"
-#include "qsf/asset/Project.h"
 #include "qsf/component/TransformComponent.h"
 #include "qsf/game/InventoryComponent.h"
 #include "qsf/job/JobManagers.h"
-#include "qsf/log/FaultCounter.h"
-#include "qsf/map/Map.h"
-#include "qsf/reflection/PropertyText.h"
-#include "tests/support/Paths.h"
+#include "tests/support/RandomPlansWorld.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck.h>
 
 #include <cstdlib>
-#include <tuple>
 
 namespace action = qsf::action;
 
 namespace {
 
-/// What is done, to whom, with whom, and a number.
-using Step = std::tuple<std::uint8_t, std::uint8_t, std::uint8_t, std::uint8_t>;
+using Step = RandomPlansWorld::Step;
 
-/// A world of its own in which random steps are carried out.
-class RandomWorld {
+class RandomWorld final : public RandomPlansWorld {
 public:
-  RandomWorld() {
-    em5::addGameLayer(mHost);
-    mHost.getProjectManager().registerSingleProjectFromFileSystem(paths::baseProject());
-    mMap.startup();
-    std::uint64_t id = FIRST_ID;
-    for (const char* prefab : {"firefighter", "civilian", "fire_engine", "helicopter", "marker", "house"})
-      mMap.createObjectByLocalPrefabAssetId(qsf::StringHash(std::string("em5/prefab/test/") + prefab), id++);
+  RandomWorld() : RandomPlansWorld({"firefighter", "civilian", "fire_engine", "helicopter", "marker", "house"}) {
     mMap.getEntityById(FIRST_ID + 2)
         ->getOrCreateComponent<qsf::game::InventoryComponent>()
         ->setItems({"em5/prefab/test/axe"});
   }
 
-  void perform(const Step& step) {
-    const auto [what, who, whom, number] = step;
-    qsf::Entity* entity = pick(who);
-    qsf::Entity* other = pick(whom);
-    if (what % 3 == 0)
-      runFrames(number % 40);
-    else if (!entity || !other)
-      return;
-    else if (what % 3 == 1 && number % 4 == 0)
-      disturb(*entity, *other, what / 3);
-    else
-      push(*entity, *other, what / 3, number);
-  }
-
-  /// Lets everything go on that rests, and runs as long as the longest random plan can take.
-  void finish() {
-    mHost.getJobManagers().setPaused(false);
-    for (qsf::Entity* entity : mMap.getEntities())
-      if (auto* actions = entity->getComponent<qsf::ActionComponent>()) actions->setActive(true);
-    for (int i = 0; i < 600 && !isOver(); ++i)
-      runFrames(20);
-  }
-  /// Every plan is empty or waits for good.
-  bool isOver() {
-    for (qsf::Entity* entity : mMap.getEntities()) {
-      const auto* actions = entity->getComponent<qsf::ActionComponent>();
-      const qsf::Action* current = actions ? actions->getCurrentAction() : nullptr;
-      if (current && !isEndless(*current)) return false;
-    }
-    return true;
-  }
-  std::string tellState() {
-    std::string state;
-    for (qsf::Entity* entity : mMap.getEntities()) {
-      state += std::to_string(entity->getId()) + " at " + qsf::toText(em5::EntityHelper(*entity).getPosition());
-      if (const auto* actions = entity->getComponent<qsf::ActionComponent>())
-        for (const qsf::Action* entry : actions->getPlan().getActions())
-          state += " " + entry->getTypeName() + " (" + std::to_string(entry->getPriority()) + ")";
-      state += "\n";
-    }
-    return state;
-  }
-  std::uint64_t getFaultCount() { return mHost.getFaultCounter().getCount(); }
-
 private:
-  static constexpr std::uint64_t FIRST_ID = 100;
   static constexpr const char* ANIMATIONS[] = {"em5/animation/test/wave", "em5/animation/test/nod", "em5/none/at/all"};
   static constexpr const char* SOUNDS[] = {"em5/audio/test/beep.ogg", "em5/audio/test/long.ogg", "none.ogg"};
 
-  qsf::Entity* pick(unsigned int number) { return mMap.getEntityById(FIRST_ID + number % 6); }
-
-  void runFrames(int frames) {
-    for (; frames > 0; --frames) {
-      mHost.getJobManagers().runFrame(qsf::Time::fromMicroseconds(100'000));
-      mMap.collectGarbage();
-    }
+  bool waitsForGood(const qsf::Action& current) override {
+    return dynamic_cast<const qsf::IdleAction*>(&current) || RandomPlansWorld::waitsForGood(current);
   }
 
-  static bool isEndless(const qsf::Action& current) {
-    if (dynamic_cast<const qsf::IdleAction*>(&current)) return true;
-    bool isLooped = false, isWaited = false;
-    for (const auto& [key, value] : current.describe()) {
-      isLooped = isLooped || (key == "loop" && value == "1");
-      isWaited = isWaited || (key == "wait" && value == "1");
-    }
-    return isLooped && isWaited;
-  }
-
-  void disturb(qsf::Entity& entity, qsf::Entity& other, unsigned int what) {
+  void disturb(qsf::Entity& entity, qsf::Entity& other, unsigned int what) override {
     auto& actions = *entity.getOrCreateComponent<qsf::ActionComponent>();
     switch (what % 9) {
     case 0:
@@ -146,7 +71,7 @@ private:
     }
   }
 
-  void push(qsf::Entity& entity, qsf::Entity& other, unsigned int what, unsigned int number) {
+  void push(qsf::Entity& entity, qsf::Entity& other, unsigned int what, unsigned int number) override {
     auto& actions = *entity.getOrCreateComponent<qsf::ActionComponent>();
     const auto mode = static_cast<action::InsertionMode>(number % 4);
     const unsigned int priority = number;
@@ -193,9 +118,6 @@ private:
     }
     }
   }
-
-  qsf::Qsf mHost;
-  qsf::Map& mMap = mHost.getMainMap();
 };
 
 /// Seeds are fixed so that a failure comes again; RC_PARAMS in the environment asks for others.
