@@ -30,6 +30,7 @@ namespace tidemark::test {
   THEME(Store)                                                                                                         \
   THEME(Trigger)                                                                                                       \
   THEME(World)                                                                                                         \
+  THEME(Layer)                                                                                                         \
   THEME(Call)                                                                                                          \
   THEME(Plan)                                                                                                          \
   THEME(Overlay)                                                                                                       \

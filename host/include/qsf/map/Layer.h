@@ -40,6 +40,8 @@ public:
   Layer* getLayerByName(StringHash name) const;
   /// All layers by ascending id, the base layer first.
   std::vector<Layer*> getLayers() const;
+  /// The layer that an entity belongs to, which may rest with it; null if there is no such entity.
+  Layer* getLayerOfEntity(std::uint64_t id) const;
   /// A new active layer; null if the name is taken or empty.
   Layer* createLayer(const std::string& name);
 

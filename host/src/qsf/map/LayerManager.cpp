@@ -53,6 +53,15 @@ std::vector<Layer*> LayerManager::getLayers() const {
   return layers;
 }
 
+Layer* LayerManager::getLayerOfEntity(std::uint64_t id) const {
+  const Map& map = getMainMap();
+  if (const Entity* entity = map.getEntityById(id)) return getLayerById(entity->getLayerId());
+  for (const auto& layer : map.getInternals().layers)
+    for (const Layer::Resting& entry : layer->mResting)
+      if (entry.entity->getId() == id) return layer.get();
+  return nullptr;
+}
+
 Layer* LayerManager::createLayer(const std::string& name) {
   if (name.empty() || getLayerByName(StringHash(name))) return nullptr;
   auto& layers = getMainMap().getInternals().layers;

@@ -191,6 +191,17 @@ TEST_F(MapTest, ALayerTakesItsEntitiesOffTheMapAndBringsThemBack) {
   EXPECT_TRUE(map.getEntityById(101)->getComponent<TransformComponent>()->isRunning());
 }
 
+TEST_F(MapTest, AnEntitysLayerIsKnownWhileTheLayerRests) {
+  qsf::LayerManager& layers = host.getLayerManager();
+  qsf::Layer& night = *layers.createLayer("Night");
+  makeEntity(100);
+  makeEntity(101).setLayerId(night.getId());
+  layers.deactivateLayer(night);
+  EXPECT_EQ(&night, layers.getLayerOfEntity(101));
+  EXPECT_EQ(&layers.getBaseLayer(), layers.getLayerOfEntity(100));
+  EXPECT_EQ(nullptr, layers.getLayerOfEntity(102));
+}
+
 TEST_F(MapTest, TheBaseLayerIsAlwaysThereAndActive) {
   qsf::LayerManager& layers = host.getLayerManager();
   makeEntity(100);
