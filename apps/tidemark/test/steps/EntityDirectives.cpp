@@ -78,6 +78,8 @@ EntityPlan takeEntity(WordCursor& words) {
 }
 
 void makeEntity(qsf::Map& map, const EntityPlan& plan) {
+  // The core and the camera are there: the directive says what else they have.
+  if (plan.id <= qsf::Map::CAMERA_ENTITY_ID && plan.prefab.empty()) return;
   if (map.getEntityById(plan.id)) throw DirectiveError(fmt::format("the map has an entity {} already", plan.id));
   if (plan.prefab.empty()) {
     qsf::Entity* entity = map.createEntity(plan.id);
