@@ -6,6 +6,7 @@
 #include "game_plugin/scenario/messages/ScenarioMessageReciever.h"
 #include "game_plugin/scenario/stores/JsonStore.h"
 #include "game_plugin/scenario/tick/FaultyLine.h"
+#include "game_plugin/scenario/tick/HandlerWatch.h"
 #include "game_plugin/scenario/world/LocalPlayer.h"
 
 #include "em5/base/Jobs.h"
@@ -72,6 +73,7 @@ ScenarioHandler::ScenarioHandler(std::shared_ptr<GlobalStores> globalStores)
       mEffects(this) {}
 
 ScenarioHandler::~ScenarioHandler() {
+  HandlerWatch::tellAll(this);
   // Another handler may come to lie where this one did.
   if (ScenarioMessageReciever* reciever = ScenarioMessageReciever::get()) reciever->forgetHandler(this);
   if (!hints::isOn()) return;
@@ -88,6 +90,7 @@ void ScenarioHandler::SetDocument(std::shared_ptr<ScriptDocument> document) {
 void ScenarioHandler::retire(ScenarioHandler* handler) {
   if (!handler) return;
   handler->mStopped = true;
+  HandlerWatch::tellAll(handler);
   handler->mUpdateJobProxy.unregister();
   retiredHandlers.push_back(handler);
   if (runningUpdates == 0) freeRetiredHandlers();
