@@ -5,15 +5,30 @@
 
 namespace em5 {
 
-/// What the player has set. Owned by the host session.
+/// What the player has set, and what is taken out of the player's hands. Owned by the host session. Each setter but the
+/// name's is noted in the call recorder; nothing changes back by itself.
 class QSF_API GameSettingsGroup : public qsf::UniqueInstanceTarget<GameSettingsGroup> {
 public:
   /// Empty without an account.
   const std::string& getSavedAccountname() const { return mSavedAccountname; }
   void setSavedAccountname(const std::string& name) { mSavedAccountname = name; }
 
+  /// Orders and the selection of units.
+  bool isInputBlocked() const { return mInputBlocked; }
+  void setInputBlocked(bool blocked);
+  bool isInputCameraMoveBlocked() const { return mInputCameraMoveBlocked; }
+  void setInputCameraMoveBlocked(bool blocked);
+  bool isInputCameraRotateBlocked() const { return mInputCameraRotateBlocked; }
+  void setInputCameraRotateBlocked(bool blocked);
+  bool isInputCameraZoomBlocked() const { return mInputCameraZoomBlocked; }
+  void setInputCameraZoomBlocked(bool blocked);
+
 private:
   std::string mSavedAccountname;
+  bool mInputBlocked = false;
+  bool mInputCameraMoveBlocked = false;
+  bool mInputCameraRotateBlocked = false;
+  bool mInputCameraZoomBlocked = false;
 };
 
 }
