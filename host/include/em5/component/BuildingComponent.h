@@ -4,7 +4,7 @@
 
 namespace em5 {
 
-/// A building. Knows the entities that belong to it, lights among them. Property "EntityIds".
+/// A building. Knows the entities that belong to it, and those that light it. Properties "EntityIds", "Lights".
 class QSF_API BuildingComponent : public qsf::Component {
   CAMP_RTTI()
 public:
@@ -14,9 +14,11 @@ public:
 
   const std::vector<std::uint64_t>& getEntityIds() const { return mEntityIds; }
   void setEntityIds(const std::vector<std::uint64_t>& ids) { mEntityIds = ids; }
+  const std::vector<std::uint64_t>& getLights() const { return mLights; }
 
 private:
   std::vector<std::uint64_t> mEntityIds;
+  std::vector<std::uint64_t> mLights;
 };
 
 }

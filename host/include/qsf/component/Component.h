@@ -1,7 +1,7 @@
 #pragma once
 #include "qsf/base/StringHash.h"
 #include "qsf/base/Time.h"
-#include "qsf/reflection/Object.h"
+#include "qsf/reflection/InheritedObject.h"
 
 namespace qsf {
 
@@ -11,7 +11,7 @@ class Prototype;
 /// A part of an entity. Made and destroyed by its prototype. Property "Active". Components that live over time derive
 /// and override the on... operations; a component that needs the frame registers a job proxy in onStartup and
 /// unregisters it in onShutdown, since its memory outlives its removal until the end of the frame.
-class QSF_API Component : public Object {
+class QSF_API Component : public InheritedObject {
   CAMP_RTTI()
 public:
   explicit Component(Prototype* prototype) : mPrototype(prototype) {}

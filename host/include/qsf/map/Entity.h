@@ -13,7 +13,8 @@ public:
 
   Map& getMap() const { return mMap; }
   Entity* findEntity() override { return this; }
-  void setHidden(bool hidden) { mHidden = hidden; }
+  /// Whether it is drawn. The entity has a qsf::game::HiddenComponent from then on, which tells so.
+  void setHidden(bool hidden);
   bool isHidden() const { return mHidden; }
   /// Layer that the entity belongs to; 0 is the base layer.
   std::uint32_t getLayerId() const { return mLayerId; }

@@ -37,6 +37,9 @@ public:
   /// Null if the id is taken.
   Entity* createEntity(std::uint64_t id);
   Entity* createEntity();
+  /// An id that no entity of this map has had; none will get it but one that is created with it. For those who need the
+  /// id before the entity.
+  std::uint64_t reserveEntityId();
   /// The entity is gone for every look-up at once; its memory is released at the end of the frame, so the caller may be
   /// one of its own components. Unlinks parent and children. An unknown id does nothing.
   void destroyObjectById(std::uint64_t id);

@@ -12,6 +12,8 @@ void BuildingComponent::declareCamp() {
       .base<Component>()
       .constructor1<qsf::Prototype*>()
       .property("EntityIds", &BuildingComponent::mEntityIds)
+      .tag(qsf::UNSIGNED_TAG)
+      .property("Lights", &BuildingComponent::mLights)
       .tag(qsf::UNSIGNED_TAG);
 }
 

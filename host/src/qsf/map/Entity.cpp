@@ -1,10 +1,16 @@
 #include "qsf/map/Entity.h"
 
+#include "qsf/game/HiddenComponent.h"
 #include "qsf/map/MapInternals.h"
 
 namespace qsf {
 
 Entity::~Entity() { destroyAllComponents(); }
+
+void Entity::setHidden(bool hidden) {
+  mHidden = hidden;
+  if (auto* component = getOrCreateComponent<game::HiddenComponent>()) component->setHidden(hidden);
+}
 
 void Entity::onComponentAdded(Component& component) {
   if (mOnMap) mMap.getInternals().addComponent(component);

@@ -70,6 +70,12 @@ Entity* Map::createEntity(std::uint64_t id) {
 
 Entity* Map::createEntity() { return createEntity(findFreeId()); }
 
+std::uint64_t Map::reserveEntityId() {
+  const std::uint64_t id = findFreeId();
+  if (id >= mNextId) mNextId = id + 1;
+  return id;
+}
+
 bool Map::isIdTaken(std::uint64_t id) const {
   if (mEntitiesById.contains(id)) return true;
   for (const auto& layer : mInternals->layers)

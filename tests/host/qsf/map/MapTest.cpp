@@ -33,6 +33,16 @@ TEST_F(MapTest, NewEntitiesGetTheIdAfterTheHighestEverUsed) {
   EXPECT_EQ(nullptr, map.createEntity(qsf::UNINITIALIZED_ID));
 }
 
+TEST_F(MapTest, AReservedIdIsNobodysUntilItIsCreatedByName) {
+  makeEntity(100);
+  EXPECT_EQ(101u, map.reserveEntityId());
+  EXPECT_EQ(102u, map.reserveEntityId());
+  EXPECT_EQ(nullptr, map.getEntityById(101));
+  EXPECT_EQ(103u, map.createEntity()->getId());
+  ASSERT_NE(nullptr, map.createEntity(101));
+  EXPECT_EQ(104u, map.createEntity()->getId());
+}
+
 TEST_F(MapTest, WhenTheHighestIdIsUsedAGapServes) {
   ASSERT_NE(nullptr, map.createEntity(qsf::UNINITIALIZED_ID - 1));
   EXPECT_EQ(2u, map.createEntity()->getId());
