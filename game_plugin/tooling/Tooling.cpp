@@ -12,6 +12,7 @@
 #include "game_plugin/scenario/messages/MessageNames.h"
 #include "game_plugin/scenario/stores/JsonStore.h"
 #include "game_plugin/scenario/world/EntityAccess.h"
+#include "game_plugin/scenario/world/GuiDocuments.h"
 
 #include "em5/game/Game.h"
 #include "em5/gui/EmergencyGui.h"
@@ -139,6 +140,17 @@ template <class T> bool assign(Store<T>* store, const std::string& name, T value
   return true;
 }
 
+/// `A` is the first of that unique id, `A#2` the second.
+qsf::GuiDocument* findScriptDocument(const std::string& name) {
+  if (!GuiDocuments::get()) return nullptr;
+  std::string id = name;
+  std::size_t number = 1;
+  if (const std::size_t mark = name.rfind('#'); mark != std::string::npos)
+    if (boost::conversion::try_lexical_convert(name.substr(mark + 1), number)) id = name.substr(0, mark);
+  const std::vector<qsf::GuiDocument*> documents = GuiDocuments::get()->find(id);
+  return number >= 1 && number <= documents.size() ? documents[number - 1] : nullptr;
+}
+
 /// The tools' view of the living manager, whichever it is at the time of a call.
 /// The child of that key, or the element of that number; null if there is none.
 const boost::property_tree::ptree* findChild(const boost::property_tree::ptree& tree, const std::string& key) {
@@ -218,6 +230,11 @@ public:
         for (const DroppedLine& line : lines)
           views.push_back({path, line.line, line.column, line.reason});
     return views;
+  }
+
+  qsf::GuiDocument* findDocument(const std::string& name) const override {
+    qsf::GuiDocument* own = NamedDocument::find(name);
+    return own ? own : findScriptDocument(name);
   }
 
   std::optional<Origin> getOrigin() const override {

@@ -10,6 +10,10 @@
 #include <utility>
 #include <vector>
 
+namespace qsf {
+class GuiDocument;
+}
+
 namespace script::tooling {
 
 /// One condition or effect as a tool shows it.
@@ -166,6 +170,10 @@ public:
   virtual std::vector<ScenarioEventView> getScenarioEvents() const = 0;
   /// Text ids of the objectives that wait for an entity, in order.
   virtual std::vector<std::string> getEventTargets(std::uint64_t entityId) const = 0;
+
+  /// A document of the module by its name ("basic", "actionbar", "debugger", "audiotracker"), or one that a script has
+  /// loaded by its unique id, `#2` behind it for the second of that id. Null if there is none.
+  virtual qsf::GuiDocument* findDocument(const std::string& name) const = 0;
 
   /// What the debugger's reload button does: a new manager reads all files anew and starts the scripts of the running
   /// map.

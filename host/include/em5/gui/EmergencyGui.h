@@ -1,5 +1,6 @@
 #pragma once
 #include "em5/gui/IngameHud.h"
+#include "em5/gui/MainMenuManager.h"
 #include "qsf/base/UniqueInstance.h"
 #include "qsf/gui/GuiContext.h"
 
@@ -17,6 +18,10 @@ public:
   qsf::GuiContext& getGuiContext() { return mGuiContext; }
   /// Null once the GUI is being taken down.
   IngameHud* getIngameHud() const { return mIngameHud.get(); }
+  /// Null once the GUI is being taken down.
+  MainMenuManager* getMainMenuManager() const { return mMainMenuManager.get(); }
+  /// Never null; hidden at first.
+  qsf::GuiDocument* getLoadingScreen() const { return mLoadingScreen.get(); }
   void hideIngameHud();
   void showIngameHud();
 
@@ -29,9 +34,15 @@ public:
   const std::string& getMouseCursor() const { return mMouseCursor; }
   bool isMouseCursorVisible() const { return mMouseCursorVisible; }
 
+  /// For the host: a game starts. The HUD's documents are visible from now on, those of the main menu and the loading
+  /// screen are not.
+  void startGame();
+
 private:
   qsf::GuiContext mGuiContext;
   std::unique_ptr<IngameHud> mIngameHud;
+  std::unique_ptr<MainMenuManager> mMainMenuManager;
+  std::unique_ptr<qsf::GuiDocument> mLoadingScreen;
   std::string mMouseCursor;
   bool mMouseCursorVisible = true;
 };

@@ -1,14 +1,15 @@
 #pragma once
+#include "em5/gui/SEKDroneScanWindow.h"
 #include "qsf/gui/GuiDocument.h"
 
 #include <array>
 #include <memory>
-#include <string>
+#include <vector>
 
 namespace em5 {
 
-/// The windows that the player sees in a game. Owned by the emergency GUI and lives as long. Mini map, bars,
-/// objectives, commands, unit overview and the feed are visible at first; the others come up on demand.
+/// The windows that the player sees in a game. Owned by the emergency GUI and lives as long. All are visible when a
+/// game starts but the debugging window, the ingame main menu and the drone's window.
 class QSF_API IngameHud {
 public:
   explicit IngameHud(qsf::GuiContext& context);
@@ -30,11 +31,17 @@ public:
   qsf::GuiDocument* getWarblerFeedWindow() const { return getWindow(WARBLER_FEED); }
   qsf::GuiDocument* getIngameMainMenuWindow() const { return getWindow(MAIN_MENU); }
   qsf::GuiDocument* getFullscreenVideoWindow() const { return getWindow(FULLSCREEN_VIDEO); }
+  SEKDroneScanWindow* getSEKDroneScanWindow() const { return mDroneScanWindow.get(); }
 
-  /// Hides the whole HUD, or shows those windows again that were visible.
-  void hideGui() { mHidden = true; }
-  void showGui() { mHidden = false; }
+  /// Hides the windows that are visible and keeps them, or shows those again. Each call is noted in the call recorder.
+  void hideGui();
+  void showGui();
   bool isHidden() const { return mHidden; }
+
+  /// For the host: the same without a note.
+  void setHidden(bool hidden);
+  /// For the host: a game starts.
+  void startGame();
 
 private:
   enum Window {
@@ -56,8 +63,11 @@ private:
     WINDOW_COUNT
   };
   qsf::GuiDocument* getWindow(Window window) const { return mWindows[window].get(); }
+  std::vector<qsf::GuiDocument*> getAllWindows() const;
 
   std::array<std::unique_ptr<qsf::GuiDocument>, WINDOW_COUNT> mWindows;
+  std::unique_ptr<SEKDroneScanWindow> mDroneScanWindow;
+  std::vector<qsf::GuiDocument*> mHiddenWindows; ///< those that showGui shows again
   bool mHidden = false;
 };
 

@@ -3,6 +3,7 @@
 
 #include <glm/glm.hpp>
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -13,7 +14,7 @@ class GuiDocument;
 /// The surface that documents stand on, and the cursor above it. Owned by the GUI; outlives its documents.
 class QSF_API GuiContext {
 public:
-  GuiContext() = default;
+  GuiContext();
   GuiContext(const GuiContext&) = delete;
   GuiContext& operator=(const GuiContext&) = delete;
 
@@ -26,10 +27,15 @@ public:
   const std::vector<GuiDocument*>& getDocuments() const { return mDocuments; }
   /// The first document of that name, or null.
   GuiDocument* findDocument(const std::string& name) const;
+  /// The living document at that address; null for any other number, which is never followed.
+  GuiDocument* findDocumentByAddress(std::uint64_t address) const;
+  /// The visible document that was shown with focus last; null if there is none.
+  GuiDocument* getFocusedDocument() const { return mFocused; }
 
 private:
   friend class GuiDocument;
   std::vector<GuiDocument*> mDocuments;
+  GuiDocument* mFocused = nullptr;
 };
 
 }

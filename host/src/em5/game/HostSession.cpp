@@ -109,6 +109,7 @@ void HostSession::Internals::start(const std::string& map) {
   gameRunning = true;
   application.getGameSessionConfiguration().setMapIdentifier(MapIdentifier::fromLocalAssetName(map));
   if (!isGame()) return;
+  emergencyGui->startGame();
   plugin.getFreeplaySystem().startGame();
   emit(Messages::GAME_STARTUP_FINISHED);
 }

@@ -14,17 +14,28 @@ const qsf::RecordedOperation showMouseCursorCall{"em5::EmergencyGui::showMouseCu
 
 }
 
-EmergencyGui::EmergencyGui() : mIngameHud(std::make_unique<IngameHud>(mGuiContext)) {}
+EmergencyGui::EmergencyGui()
+    : mIngameHud(std::make_unique<IngameHud>(mGuiContext)),
+      mMainMenuManager(std::make_unique<MainMenuManager>(mGuiContext)),
+      mLoadingScreen(std::make_unique<qsf::GuiDocument>(mGuiContext, "LoadingScreen")) {
+  mLoadingScreen->loadByFilename("em5/gui/mainmenu/loading_screen.rml");
+}
 
 EmergencyGui::~EmergencyGui() = default;
 
+void EmergencyGui::startGame() {
+  mIngameHud->startGame();
+  mMainMenuManager->hideGui();
+  mLoadingScreen->hide();
+}
+
 void EmergencyGui::hideIngameHud() {
-  mIngameHud->hideGui();
+  mIngameHud->setHidden(true);
   hideIngameHudCall.record();
 }
 
 void EmergencyGui::showIngameHud() {
-  mIngameHud->showGui();
+  mIngameHud->setHidden(false);
   showIngameHudCall.record();
 }
 

@@ -1,5 +1,6 @@
 #include "qsf/gui/GuiContext.h"
 
+#include "DocumentFiles.h"
 #include "qsf/Qsf.h"
 #include "qsf/gui/GuiDocument.h"
 #include "qsf/input/InputSystem.h"
@@ -21,6 +22,8 @@ glm::vec2 getWindowSize() {
 
 }
 
+GuiContext::GuiContext() { installDocumentSystem(); }
+
 glm::vec2 GuiContext::getNormalizedMouseCursorPosition() const {
   const Qsf* host = Qsf::instance();
   if (!host) return {0.5f, 0.5f};
@@ -39,6 +42,13 @@ void GuiContext::setNormalizedMouseCursorPosition(const glm::vec2& position) {
 GuiDocument* GuiContext::findDocument(const std::string& name) const {
   const auto found = std::find_if(mDocuments.begin(), mDocuments.end(),
                                   [&](const GuiDocument* document) { return document->getName() == name; });
+  return found == mDocuments.end() ? nullptr : *found;
+}
+
+GuiDocument* GuiContext::findDocumentByAddress(std::uint64_t address) const {
+  const auto found = std::find_if(mDocuments.begin(), mDocuments.end(), [&](const GuiDocument* document) {
+    return reinterpret_cast<std::uintptr_t>(document) == address;
+  });
   return found == mDocuments.end() ? nullptr : *found;
 }
 
