@@ -18,6 +18,7 @@ constexpr RoleText TEXTS[] = {
     {"variable out", "the name of a variable, which is set"},
     {"variable in and out", "the name of a variable, which is read and set"},
     {"text", "a text, or svar(name)"},
+    {"name or text", "the name of a variable or list of any kind, or a text that stands for itself"},
     {"string variable in", "the name of a string variable, which is read"},
     {"string variable out", "the name of a string variable, which is set"},
     {"string variable in and out", "the name of a string variable, which is read and set"},

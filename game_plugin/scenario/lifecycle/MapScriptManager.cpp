@@ -1,5 +1,7 @@
 #include "game_plugin/scenario/lifecycle/MapScriptManager.h"
 
+#include "game_plugin/gui/GUIEventListener.h"
+#include "game_plugin/gui/GuiInstanceManager.h"
 #include "game_plugin/scenario/Log.h"
 #include "game_plugin/scenario/documentation/ReferenceFiles.h"
 #include "game_plugin/scenario/hints/ExecutionPoint.h"
@@ -93,7 +95,11 @@ void MapScriptManager::LoadConfiguration(bool writeDocumentation) {
         qsf::jobs::JobConfiguration(2));
   }
   parseScripts();
-  if (hasGui()) startGameScript();
+  if (hasGui()) {
+    GUIEventListener::create();
+    startGameScript();
+  }
+  GuiInstanceManager::create();
 }
 
 void MapScriptManager::parseScripts() {
@@ -134,6 +140,7 @@ void MapScriptManager::onGameStartupFinished() {
 }
 
 void MapScriptManager::StartMapScripts() {
+  GuiInstanceManager::create();
   makeMessageReciever();
   mBlockedEntityIds.clear();
   startScriptsOfMap(
@@ -143,6 +150,8 @@ void MapScriptManager::StartMapScripts() {
                                        if (isExtinguishingBlocked(parameters, mBlockedEntityIds))
                                          parameters.setResponse(qsf::MessageParameters::RESPONSE_BLOCK);
                                      });
+  const qsf::UniqueInstance<em5::EmergencyGui> gui;
+  if (gui && gui->getIngameHud()) GUIEventListener::create();
 }
 
 void MapScriptManager::startScriptsOfMap(bool (*isStarted)(ScriptMode)) {
@@ -211,8 +220,10 @@ std::pair<ScenarioHandler*, const ScenarioTrigger*> MapScriptManager::findTrigge
 
 void MapScriptManager::DoShutdown() {
   logInfo("DoShutdown Started");
+  GuiInstanceManager::destroy();
   mPreCommandMessageProxy.unregister();
   mMessageReciever.reset();
+  GUIEventListener::destroy();
   // Kept: the entry behind a forgotten temporary one is skipped, and its script goes on into the next map.
   for (std::size_t i = 0; i < mScriptEntries.size(); ++i) {
     ScenarioHandler::retire(std::exchange(mScriptEntries[i]->handler, nullptr));

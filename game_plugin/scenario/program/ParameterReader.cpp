@@ -9,6 +9,7 @@
 #include <boost/lexical_cast.hpp>
 
 #include <algorithm>
+#include <memory>
 #include <stdexcept>
 
 namespace script {
@@ -166,6 +167,13 @@ float ParameterReader::decimal(int i, float def, Text name, Text text) {
 
 std::uint64_t ParameterReader::id(int i, std::uint64_t def, Text name, Text text) {
   return convert<std::uint64_t>(ParameterRole::ID, i, def, name, text);
+}
+
+std::span<const Argument> ParameterReader::keep(const std::vector<Argument>& texts) const {
+  if (!mBuilder || texts.empty()) return {};
+  auto* kept = static_cast<Argument*>(mBuilder->memory().allocate(texts.size() * sizeof(Argument), alignof(Argument)));
+  std::uninitialized_copy(texts.begin(), texts.end(), kept);
+  return {kept, texts.size()};
 }
 
 std::uint32_t ParameterReader::reserveState() { return mBuilder ? mBuilder->reserveState() : 0; }

@@ -124,6 +124,8 @@ public:
   float decimal(int i, float def, Text name, Text text);
   std::uint64_t id(int i, std::uint64_t def, Text name, Text text);
 
+  /// Texts of a record that has any number of them, kept in the program; nothing while parameters are described.
+  std::span<const Argument> keep(const std::vector<Argument>& texts) const;
   /// A place for what the record must remember from tick to tick, of its own in each run of the program.
   template <class T> RunState<T> state();
 

@@ -13,6 +13,7 @@ constexpr std::array<std::string_view, static_cast<std::size_t>(ParameterRole::C
     "variable out",
     "variable in and out",
     "text",
+    "name or text",
     "string variable in",
     "string variable out",
     "string variable in and out",

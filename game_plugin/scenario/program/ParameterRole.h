@@ -10,6 +10,7 @@ enum class ParameterRole : unsigned char {
   VARIABLE_OUT,           ///< the name of a variable that is written
   VARIABLE_IN_OUT,        ///< read and written
   TEXT,                   ///< a text, or `svar(name)`
+  NAME_OR_TEXT,           ///< the name of anything that a store holds, which is read, or a text that stands for itself
   STRING_VARIABLE_IN,     ///< the name of a string variable that is read
   STRING_VARIABLE_OUT,    ///< written
   STRING_VARIABLE_IN_OUT, ///< read and written

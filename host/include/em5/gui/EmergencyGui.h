@@ -9,6 +9,8 @@
 
 namespace em5 {
 
+class GuiInput;
+
 /// The game's GUI. Exists in a game program from its start to its end, between games too; never in the editor.
 class QSF_API EmergencyGui : public qsf::UniqueInstanceTarget<EmergencyGui> {
 public:
@@ -43,6 +45,7 @@ private:
   std::unique_ptr<IngameHud> mIngameHud;
   std::unique_ptr<MainMenuManager> mMainMenuManager;
   std::unique_ptr<qsf::GuiDocument> mLoadingScreen;
+  std::unique_ptr<GuiInput> mInput; ///< null without a host
   std::string mMouseCursor;
   bool mMouseCursorVisible = true;
 };

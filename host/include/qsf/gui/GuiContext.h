@@ -29,7 +29,7 @@ public:
   GuiDocument* findDocument(const std::string& name) const;
   /// The living document at that address; null for any other number, which is never followed.
   GuiDocument* findDocumentByAddress(std::uint64_t address) const;
-  /// The visible document that was shown with focus last; null if there is none.
+  /// The visible document that was shown with focus or clicked last; null if there is none.
   GuiDocument* getFocusedDocument() const { return mFocused; }
 
 private:

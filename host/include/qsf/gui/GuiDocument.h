@@ -26,7 +26,7 @@ public:
   GuiDocument& operator=(const GuiDocument&) = delete;
 
   virtual void toggleVisibility();
-  /// An element's attribute `onTYPE="NAME"` hands its events of the type here, with that name.
+  /// An element's attribute `onTYPE="NAME"` hands its events of the type here, with that name. "onClose" hides it.
   virtual void processEvent(const std::string& name, Rocket::Core::Event& event);
   virtual void processViewportDimensionsChanged();
   /// Asked before it is shown; false keeps it hidden.
@@ -54,17 +54,19 @@ public:
   void setVisible(bool visible);
   bool isVisible() const { return mVisible; }
   void show() { setVisible(true); }
-  /// Shown, it is the one that keys go to.
+  /// Shown, it is the one that keys go to, until another one takes its place or is clicked.
   void showFocused();
   void hide() { setVisible(false); }
 
 private:
+  class FocusByClick;
   void fire(const char* type);
   void letGoOfRml();
 
   GuiContext& mContext;
   std::string mName;
   std::shared_ptr<Rocket::Core::ElementDocument> mElementDocument;
+  std::unique_ptr<FocusByClick> mFocusByClick;
   std::shared_ptr<GuiDocument*> mSelf; ///< empty once it is destroyed, for those who called into it
   bool mVisible = false;
 };

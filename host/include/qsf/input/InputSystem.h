@@ -1,7 +1,11 @@
 #pragma once
 #include "qsf/input/InputDevice.h"
+#include "qsf/input/InputEvent.h"
 
 #include <glm/glm.hpp>
+
+#include <memory>
+#include <vector>
 
 namespace qsf {
 
@@ -49,14 +53,29 @@ public:
   /// Knows whether a gamepad is plugged in.
   OisManager& getOisManager() const { return *mOisManager; }
 
+  /// The event comes to the listeners when the next frame begins. Noted in the call recorder with the button's name and
+  /// `1` if it is pressed. Beyond MOST_EVENTS in a frame it is dropped, which is logged once.
+  void addEventToInputQueue(std::unique_ptr<KeyboardEvent> event);
+  /// Begins a frame: tells the listeners of what has been queued; what they queue comes with the next frame. Called by
+  /// the host's frame.
+  void deliverEvents();
+  static constexpr std::size_t MOST_EVENTS = 1000;
+
   /// Ends a frame: movements of the mouse are over, buttons stay as they are. Called by the host's frame.
   void endFrame();
 
 private:
+  friend class InputListener;
+  void tellListeners(const KeyboardEvent& event);
+
   std::unique_ptr<KeyboardDevice> mKeyboard;
   std::unique_ptr<MouseDevice> mMouse;
   std::unique_ptr<JoystickDevice> mJoystick;
   std::unique_ptr<OisManager> mOisManager;
+  std::vector<std::unique_ptr<KeyboardEvent>> mQueue;
+  std::vector<InputListener*> mListeners; ///< null in the place of those that went while events were delivered
+  bool mDelivering = false;
+  bool mBoundTold = false;
 };
 
 }

@@ -170,6 +170,7 @@ void HostSession::Internals::fulfilWishes() {
 
 void HostSession::Internals::frame(qsf::Time tick) {
   BusyScope scope(busy);
+  qsf.getInputSystem().deliverEvents();
   HintHelper::update(tick);
   qsf.getJobManagers().runFrame(tick);
   if (game) game->getSelectionManager()->dropDestroyedEntities();

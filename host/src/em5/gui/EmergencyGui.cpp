@@ -1,5 +1,7 @@
 #include "em5/gui/EmergencyGui.h"
 
+#include "GuiInput.h"
+#include "qsf/Qsf.h"
 #include "qsf/base/RecordedOperation.h"
 
 namespace em5 {
@@ -19,6 +21,7 @@ EmergencyGui::EmergencyGui()
       mMainMenuManager(std::make_unique<MainMenuManager>(mGuiContext)),
       mLoadingScreen(std::make_unique<qsf::GuiDocument>(mGuiContext, "LoadingScreen")) {
   mLoadingScreen->loadByFilename("em5/gui/mainmenu/loading_screen.rml");
+  if (const qsf::Qsf* host = qsf::Qsf::instance()) mInput = std::make_unique<GuiInput>(*this, host->getInputSystem());
 }
 
 EmergencyGui::~EmergencyGui() = default;

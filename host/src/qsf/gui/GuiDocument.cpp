@@ -8,8 +8,21 @@
 
 namespace qsf {
 
+/// Whoever clicks into a document wants to type there. Hears the click before the elements do.
+class GuiDocument::FocusByClick : public Rocket::Core::EventListener {
+public:
+  explicit FocusByClick(GuiDocument& document) : mDocument(document) {}
+  void ProcessEvent(Rocket::Core::Event& /*event*/) override {
+    if (mDocument.mVisible) mDocument.mContext.mFocused = &mDocument;
+  }
+
+private:
+  GuiDocument& mDocument;
+};
+
 GuiDocument::GuiDocument(GuiContext& context, std::string name)
-    : mContext(context), mName(std::move(name)), mSelf(std::make_shared<GuiDocument*>(this)) {
+    : mContext(context), mName(std::move(name)), mFocusByClick(std::make_unique<FocusByClick>(*this)),
+      mSelf(std::make_shared<GuiDocument*>(this)) {
   mContext.mDocuments.push_back(this);
 }
 
@@ -23,7 +36,9 @@ GuiDocument::~GuiDocument() {
 
 void GuiDocument::toggleVisibility() { setVisible(!mVisible); }
 
-void GuiDocument::processEvent(const std::string& /*name*/, Rocket::Core::Event& /*event*/) {}
+void GuiDocument::processEvent(const std::string& name, Rocket::Core::Event& /*event*/) {
+  if (name == "onClose") hide();
+}
 
 void GuiDocument::processViewportDimensionsChanged() {}
 
@@ -38,6 +53,7 @@ void GuiDocument::onPostHide() {}
 void GuiDocument::letGoOfRml() {
   if (!mElementDocument) return;
   // Events of it may still be under way.
+  mElementDocument->RemoveEventListener("click", mFocusByClick.get(), true);
   mElementDocument->SetEventHandler(nullptr);
   mElementDocument->SetShown(false);
   mElementDocument.reset();
@@ -51,6 +67,7 @@ bool GuiDocument::loadByFilename(const std::string& filename) {
   letGoOfRml();
   mElementDocument = std::move(document);
   mElementDocument->SetShown(mVisible);
+  mElementDocument->AddEventListener("click", mFocusByClick.get(), true);
   mElementDocument->SetEventHandler([self = mSelf](const Rocket::Core::String& name, Rocket::Core::Event& event) {
     if (*self) (*self)->processEvent(name, event);
   });
