@@ -7,6 +7,7 @@
 #include "qsf/map/Map.h"
 #include "qsf/reflection/CampTypes.h"
 
+#include <algorithm>
 #include <ctime>
 #include <fstream>
 #include <optional>
@@ -94,6 +95,11 @@ void MP_LOG_COMPONENT::addLogEntry(const std::string& text, int player) {
   Lines* const lists[] = {&mPlayer1, &mPlayer2, &mPlayer3, &mPlayer4};
   if (player >= 0 && player < static_cast<int>(std::size(lists))) append(*lists[player], PLAYER_FILES[player], text);
   append(mMixed, MIXED_FILE, "Player ->" + std::to_string(player) + ": " + text);
+}
+
+const std::vector<std::string>& MP_LOG_COMPONENT::getLines(int player) const {
+  const Lines* const lists[] = {&mPlayer1, &mPlayer2, &mPlayer3, &mPlayer4};
+  return *lists[std::clamp(player, 0, NUMBER_OF_PLAYERS - 1)];
 }
 
 void MP_LOG_COMPONENT::append(Lines& list, const char* file, const std::string& text) {

@@ -15,6 +15,7 @@ class MP_LOG_COMPONENT : public qsf::Component {
 public:
   static constexpr qsf::StringHash COMPONENT_ID{"script::MP_LOG_COMPONENT"};
   static constexpr int LOCAL_PLAYER = 5;
+  static constexpr int NUMBER_OF_PLAYERS = 4; ///< that have a list of their own
   /// Empties the five files; their folder is made if it is missing.
   explicit MP_LOG_COMPONENT(qsf::Prototype* prototype);
   static void declareCamp();
@@ -22,6 +23,10 @@ public:
   /// Logs a line for a player, from 0; LOCAL_PLAYER is the one at this machine. A player beyond the four has a line in
   /// the mixed list only. A file that can't be opened loses the line without a word.
   void addLogEntry(const std::string& text, int player);
+
+  /// The last lines of a player, from 0, and of all players together, each with its time and a line feed.
+  const std::vector<std::string>& getLines(int player) const;
+  const std::vector<std::string>& getMixedLines() const { return mMixed; }
 
   /// Where the folder `tidemark` with the files is; the module's own folder unless it is set. Tools set it before the
   /// first line.

@@ -65,6 +65,7 @@ bool Plugin::onInstall() {
 
 bool Plugin::onStartup() {
   FiringLedger::clear();
+  mDebuggerStarter.emplace();
   MapScriptManager::replace(true);
   for (const char* name : messages::ALL)
     qsf::Qsf::instance()->getMessageSystem().addMessageName(name);
@@ -77,6 +78,7 @@ void Plugin::onShutdown() {
   logInfo("Start Shutdown of Tidemark Plugin");
   delete MapScriptManager::get();
   mReloadMessageProxy.unregister();
+  mDebuggerStarter.reset();
   logInfo("Tidemark Plugin was shutdown succesfully");
 }
 

@@ -1,8 +1,11 @@
 #pragma once
+#include "game_plugin/gui/DebuggerStarter.h"
 #include "game_plugin/plugin/CampClasses.h"
 
 #include "qsf/message/MessageProxy.h"
 #include "qsf/plugin/Plugin.h"
+
+#include <optional>
 
 namespace script {
 
@@ -31,6 +34,7 @@ protected:
 private:
   DeclareClasses mDeclareClasses;
   qsf::MessageProxy mReloadMessageProxy;
+  std::optional<DebuggerStarter> mDebuggerStarter; ///< from startup to shutdown
 };
 
 }

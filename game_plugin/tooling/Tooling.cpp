@@ -340,14 +340,12 @@ public:
   }
 
   void reload() override {
-    const bool hasGame = static_cast<bool>(qsf::UniqueInstance<em5::Game>());
-    if (!hasGame && !qsf::UniqueInstance<em5::EmergencyGui>()) {
+    if (!qsf::UniqueInstance<em5::Game>() && !qsf::UniqueInstance<em5::EmergencyGui>()) {
       if (const qsf::Qsf* host = qsf::Qsf::instance())
         host->getMessageSystem().emitMessage(qsf::StringHash(messages::RELOAD_IN_EDITOR));
       return;
     }
-    MapScriptManager& manager = MapScriptManager::replace(true);
-    if (hasGame) manager.StartMapScripts();
+    MapScriptManager::reloadInGame();
   }
 };
 

@@ -63,7 +63,13 @@ namespace script {
   ENTRY(RemoveCommand)                                                                                                 \
   ENTRY(LogCommands)                                                                                                   \
   ENTRY(ExecuteCommand)                                                                                                \
-  ENTRY(SelectUnits)
+  ENTRY(SelectUnits)                                                                                                   \
+  ENTRY(ShowText)                                                                                                      \
+  ENTRY(ShowLetterBoxes)                                                                                               \
+  ENTRY(ShowSubtitle)                                                                                                  \
+  ENTRY(ShowChoiceDialogue)                                                                                            \
+  ENTRY(DisablePlayerControl)                                                                                          \
+  ENTRY(SetPlayerControl)
 EFFECT_GROUP(ScenarioEffects_Brill, MANIFEST)
 
 }

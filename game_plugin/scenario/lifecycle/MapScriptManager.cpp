@@ -1,7 +1,10 @@
 #include "game_plugin/scenario/lifecycle/MapScriptManager.h"
 
+#include "game_plugin/gui/CommandLine.h"
+#include "game_plugin/gui/DebuggerWindow.h"
 #include "game_plugin/gui/GUIEventListener.h"
 #include "game_plugin/gui/GuiInstanceManager.h"
+#include "game_plugin/gui/ScenarioBasicGui.h"
 #include "game_plugin/scenario/Log.h"
 #include "game_plugin/scenario/documentation/ReferenceFiles.h"
 #include "game_plugin/scenario/hints/ExecutionPoint.h"
@@ -78,6 +81,11 @@ MapScriptManager& MapScriptManager::replace(bool writeDocumentation) {
   return *new MapScriptManager(writeDocumentation);
 }
 
+void MapScriptManager::reloadInGame() {
+  MapScriptManager& manager = replace(true);
+  if (hasGame()) manager.StartMapScripts();
+}
+
 void MapScriptManager::LoadConfiguration(bool writeDocumentation) {
   if (writeDocumentation) documentation::leaveReferenceFiles();
   logInfo("***** MapscriptManager started succesfully *****");
@@ -143,6 +151,7 @@ void MapScriptManager::StartMapScripts() {
   GuiInstanceManager::create();
   makeMessageReciever();
   mBlockedEntityIds.clear();
+  watchSelection();
   startScriptsOfMap(
       [](ScriptMode mode) { return mode == ScriptMode::MAP_STARTUP || mode == ScriptMode::MAP_STARTUP_SIMULATION; });
   mPreCommandMessageProxy.registerAt(em5::Messages::EM5_PRE_COMMAND_EXECUTE,
@@ -150,8 +159,28 @@ void MapScriptManager::StartMapScripts() {
                                        if (isExtinguishingBlocked(parameters, mBlockedEntityIds))
                                          parameters.setResponse(qsf::MessageParameters::RESPONSE_BLOCK);
                                      });
+  makeGui();
+}
+
+/// The action bar follows the selection, beginning anew with the scripts.
+void MapScriptManager::watchSelection() {
+  if (CommandLine* commandLine = CommandLine::get()) commandLine->resetSelection();
+  mSelectionJobProxy.registerAt(
+      em5::Jobs::REALTIME_GUI_DEBUG,
+      [](const qsf::JobArguments&) {
+        if (CommandLine* commandLine = CommandLine::get()) commandLine->handleSelection();
+      },
+      qsf::jobs::JobConfiguration(2));
+}
+
+/// The documents that all scripts share, where the player has a game's windows.
+void MapScriptManager::makeGui() {
   const qsf::UniqueInstance<em5::EmergencyGui> gui;
-  if (gui && gui->getIngameHud()) GUIEventListener::create();
+  if (!gui || !gui->getIngameHud()) return;
+  CommandLine::create(gui->getGuiContext());
+  ScenarioBasicGui::create(gui->getGuiContext());
+  DebuggerWindow::startUp();
+  GUIEventListener::create();
 }
 
 void MapScriptManager::startScriptsOfMap(bool (*isStarted)(ScriptMode)) {
@@ -220,10 +249,14 @@ std::pair<ScenarioHandler*, const ScenarioTrigger*> MapScriptManager::findTrigge
 
 void MapScriptManager::DoShutdown() {
   logInfo("DoShutdown Started");
+  DebuggerWindow::destroy();
   GuiInstanceManager::destroy();
   mPreCommandMessageProxy.unregister();
   mMessageReciever.reset();
+  CommandLine::destroy();
+  ScenarioBasicGui::destroy();
   GUIEventListener::destroy();
+  mSelectionJobProxy.unregister();
   // Kept: the entry behind a forgotten temporary one is skipped, and its script goes on into the next map.
   for (std::size_t i = 0; i < mScriptEntries.size(); ++i) {
     ScenarioHandler::retire(std::exchange(mScriptEntries[i]->handler, nullptr));

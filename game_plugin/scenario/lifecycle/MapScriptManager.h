@@ -65,6 +65,8 @@ public:
   /// A reload: destroys the living manager, if there is one, and makes a new one, which reads all files anew and leaves
   /// the reference files if told to.
   static MapScriptManager& replace(bool writeDocumentation);
+  /// The authors' reload in a game: replaces the manager and starts the scripts of the running map.
+  static void reloadInGame();
 
   void LoadConfiguration(bool writeDocumentation);
   /// Starts the scripts of the main map. Called at GAME_STARTUP_FINISHED, and directly after a reload.
@@ -108,6 +110,8 @@ private:
   bool mayStartAnother(const std::string& path);
   void editorJob(const qsf::JobArguments& arguments);
   void onGameStartupFinished();
+  void watchSelection();
+  void makeGui();
 
   std::shared_ptr<GlobalStores> mGlobalStores = std::make_shared<GlobalStores>();
   std::vector<MapScriptEntry*> mScriptEntries;
@@ -118,6 +122,7 @@ private:
   std::unique_ptr<ScenarioMessageReciever> mMessageReciever; ///< while scripts of a map or of the editor run
   qsf::MessageProxy mGameStartupMessageProxy;
   qsf::MessageProxy mGameShutdownMessageProxy;
+  qsf::JobProxy mSelectionJobProxy;
   std::vector<std::uint64_t> mBlockedEntityIds;
   qsf::MessageProxy mPreCommandMessageProxy;
   std::size_t mStartsInFrame = 0; ///< of temporary scripts, those that have stopped included

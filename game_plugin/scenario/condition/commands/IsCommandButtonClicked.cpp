@@ -1,5 +1,8 @@
+#include "game_plugin/gui/CommandLine.h"
+#include "game_plugin/scenario/Log.h"
 #include "game_plugin/scenario/program/ParameterReader.h"
 #include "game_plugin/scenario/tick/ScenarioHandler.h"
+#include "game_plugin/scenario/world/Selection.h"
 
 namespace script {
 
@@ -13,8 +16,15 @@ static void read(IsCommandButtonClickedCondition& condition, ParameterReader& in
             "CommandName, which has to be defined in ScenarioComponent for an entity in GuiCommandArray");
 }
 
-/// A click needs the action bar. The game has none yet, so there is none to ask and nothing was clicked.
-static bool test(const IsCommandButtonClickedCondition&, ScenarioHandler&) { return false; }
+/// One click holds for one evaluation, whichever script asks first.
+static bool test(const IsCommandButtonClickedCondition& condition, ScenarioHandler& handler) {
+  CommandLine* commandLine = CommandLine::get();
+  if (!findGameSelection() || !commandLine) return false;
+  const std::string& commandName = handler.ResolveString(condition.cmdButtonId);
+  if (!commandName.empty()) return commandLine->takeClick(commandName);
+  logInfo("IsCmdButtonClickedCondition::CmdButtonId was not found");
+  return false;
+}
 
 CONDITION(IsCommandButtonClicked, "Commands", "Check if Command in new CommandLine is pressed")
 
