@@ -1,4 +1,5 @@
 #pragma once
+#include "qsf/base/Time.h"
 #include "qsf/component/Component.h"
 #include "qsf/job/JobProxy.h"
 
@@ -8,8 +9,9 @@ namespace em5 {
 
 class FreeplayEvent;
 
-/// Lets its entity burn. A fire burns until it is put out; it hurts persons near it and damages the vehicle that it is
-/// on. Fires do not spread by themselves. Properties "Burning", "Burnable". See docs/host-game.md for the rates.
+/// Lets its entity burn. A fire hurts persons near it and damages what it is on; it spreads to what can burn beside it,
+/// until it is put out or nothing is left to burn. Properties "Burning", "Burnable". See docs/host-game.md for the
+/// rates.
 class QSF_API FireComponent : public qsf::Component {
   CAMP_RTTI()
 public:
@@ -21,7 +23,7 @@ public:
   /// True starts the fire if the entity can burn, false puts it out.
   void setBurning(bool burning);
   /// Returns whether it burns now. With an event, a fire that belongs to none yet is one of that event: its entity is
-  /// put into it (reason 1), and it has to be put out for the event to succeed.
+  /// put into it (reason 1), and it has to be put out for the event to succeed. So are the persons trapped in it.
   bool startFire(FreeplayEvent* event = nullptr);
   void stopFire() { setBurning(false); }
 
@@ -38,9 +40,16 @@ private:
   void updateJob();
   void joinEvent(FreeplayEvent& event);
   void leaveEvent();
+  void breakOut();
+  void goOut();
   void burn(const qsf::JobArguments& arguments);
+  void heat(qsf::Time timePassed) const;
+  void spread() const;
+  void burnOut();
 
   qsf::JobProxy mFireJobProxy;
+  qsf::Time mTimeToSpread;
+  qsf::Time mTimeToBurn;
   std::uint64_t mEventId = 0; ///< of the fire; 0 for none
   bool mBurning = false;
   bool mBurnable = true;

@@ -1,10 +1,15 @@
 #pragma once
 #include "qsf/component/Component.h"
 
+#include <cstdint>
+
 namespace em5 {
 
+class FreeplayEvent;
+
 /// What all vehicles have. Damage runs from 0 (intact) to 1, at which the vehicle is destroyed; a fire on it adds to
-/// it. Properties "CanBeTowed", "CanBeCut", "SirenEnabled", "Damage".
+/// it. Properties "CanBeTowed", "CanBeCut" (somebody is stuck inside; clearing it lets the injured out),
+/// "SirenEnabled", "Damage".
 class QSF_API VehicleComponent : public qsf::Component {
   CAMP_RTTI()
 public:
@@ -15,7 +20,9 @@ public:
   bool getCanBeTowed() const { return mCanBeTowed; }
   void setCanBeTowed(bool canBeTowed) { mCanBeTowed = canBeTowed; }
   bool getCanBeCut() const { return mCanBeCut; }
-  void setCanBeCut(bool canBeCut) { mCanBeCut = canBeCut; }
+  /// An event that says that somebody is stuck inside has to have it cut open. What was to be cut and no longer is has
+  /// been: the injured persons inside lie beside the vehicle.
+  void setCanBeCut(bool canBeCut, FreeplayEvent* event = nullptr);
   bool isSirenEnabled() const { return mSirenEnabled; }
   void setSirenEnabled(bool enabled) { mSirenEnabled = enabled; }
 
@@ -26,7 +33,14 @@ public:
   void applyDamage(float damage);
   bool isDestroyed() const { return mDamage >= 1.0f; }
 
+protected:
+  void onShutdown() override;
+
 private:
+  void setCanBeCutByReflection(bool canBeCut) { setCanBeCut(canBeCut); }
+  void letInjuredOut();
+
+  std::uint64_t mCutEventId = 0; ///< that waits for the cut; 0 for none
   float mDamage = 0.0f;
   bool mCanBeTowed = false;
   bool mCanBeCut = false;

@@ -11,9 +11,18 @@ public:
   /// Type ids of the two fail conditions, which the game counts.
   static constexpr qsf::StringHash BURNING_OBJECTS{"burning_objects"};
   static constexpr qsf::StringHash DEAD_PERSONS{"dead_persons"};
-  /// Type id of the objective to put out the fires of an event, and its text id.
-  static constexpr qsf::StringHash EXTINGUISH_FIRES{"extinguish_fires"};
-  static constexpr const char* EXTINGUISH_FIRES_TEXT = "EM5_EVENTOBJECTIVE_03";
+  /// What the game asks of events: the id of the objective, which is required, and its text id.
+  struct Task {
+    qsf::StringHash typeId;
+    const char* text;
+  };
+  static constexpr Task EXTINGUISH_FIRES{qsf::StringHash("extinguish_fires"), "EM5_EVENTOBJECTIVE_03"};
+  static constexpr Task FREE_TRAPPED_PERSONS{qsf::StringHash("free_trapped_persons"), "EM5_EVENTOBJECTIVE_TRAPPED"};
+  static constexpr Task RESCUE_FROM_WINDOW{qsf::StringHash("rescue_from_window"), "EM5_EVENTOBJECTIVE_04"};
+  static constexpr Task CUT_VEHICLES{qsf::StringHash("cut_vehicles"), "EM5_EVENTOBJECTIVE_CUT"};
+
+  /// The running event of that id; null if it has ended, and for 0.
+  static FreeplayEvent* findEvent(std::uint64_t id);
 
   explicit ObjectiveHelper(FreeplayEvent& event) : mEvent(event) {}
 
@@ -23,10 +32,12 @@ public:
   void addDeadPersonsFailCondition(int number);
   void removeObjectiveByTypeId(qsf::StringHash typeId);
 
-  /// A fire of the event has begun: it has to be put out.
-  void addFire(const qsf::Entity& entity);
-  /// The fire is out. Nothing happens if the objective is gone.
-  void countExtinguishedFire(const qsf::Entity& entity);
+  /// So many times more. The entity, which may be null, is waited for.
+  void addTask(const Task& task, int number, const qsf::Entity* entity = nullptr);
+  /// Done once. Nothing happens if the objective is gone.
+  void countTask(const Task& task, const qsf::Entity* entity = nullptr);
+  /// So many times nobody can do it any more; an objective that then needs nothing is removed.
+  void withdrawTask(const Task& task, int number, const qsf::Entity* entity = nullptr);
 
   /// For the event manager, in each frame: counts for the fail conditions that there are.
   void updateFailConditions();

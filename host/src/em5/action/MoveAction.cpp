@@ -3,6 +3,7 @@
 #include "em5/component/HealthComponent.h"
 #include "em5/component/PersonComponent.h"
 #include "em5/component/VehicleComponent.h"
+#include "qsf/ai/NavigationComponent.h"
 #include "qsf/component/MovableComponent.h"
 #include "qsf/component/TransformComponent.h"
 #include "qsf/map/EntityHelper.h"
@@ -51,7 +52,9 @@ bool MoveAction::canMove() const {
   const auto* vehicle = entity.getComponent<VehicleComponent>();
   const auto* health = entity.getComponent<HealthComponent>();
   const auto* person = entity.getComponent<PersonComponent>();
-  return !(vehicle && vehicle->isDestroyed()) && !(health && (health->isInjured() || health->isDead())) &&
+  const auto* navigation = entity.getComponent<qsf::ai::NavigationComponent>();
+  return !(navigation && !navigation->isActive()) && !(vehicle && vehicle->isDestroyed()) &&
+         !(health && (health->isInjured() || health->isDead())) &&
          !(person && person->getContainerId() != qsf::UNINITIALIZED_ID);
 }
 

@@ -1,17 +1,22 @@
 #include "em5/component/FireComponent.h"
 
 #include "em5/base/Jobs.h"
+#include "em5/component/BuildingComponent.h"
+#include "em5/component/DamageComponent.h"
 #include "em5/component/HealthComponent.h"
+#include "em5/component/PersonComponent.h"
 #include "em5/component/VehicleComponent.h"
-#include "em5/freeplay/FreeplaySystem.h"
+#include "em5/freeplay/FreeplayEvent.h"
 #include "em5/freeplay/ObjectiveHelper.h"
 #include "em5/health/Injury.h"
-#include "em5/plugin/Plugin.h"
+#include "em5/map/EntityHelper.h"
 #include "qsf/map/ComponentMapQuery.h"
-#include "qsf/map/EntityHelper.h"
+#include "qsf/map/Map.h"
 #include "qsf/reflection/CampTypes.h"
 #include "qsf/reflection/ClassRegistry.h"
 
+#include <cmath>
+#include <limits>
 #include <utility>
 
 namespace em5 {
@@ -24,14 +29,22 @@ constexpr float HEAT_RADIUS = 5.0f;
 constexpr float HEALTH_LOSS_PER_SECOND = 5.0f;
 /// A vehicle that burns is destroyed after two minutes.
 constexpr float VEHICLE_DAMAGE_PER_SECOND = 1.0f / 120.0f;
+/// What burns lights one neighbour in that time, the nearest that can burn, within that many units.
+constexpr qsf::Time SPREADING_TIME = qsf::Time::fromMicroseconds(60'000'000);
+constexpr float SPREADING_RADIUS = 10.0f;
+/// After that time nothing is left to burn.
+constexpr qsf::Time BURNING_TIME = qsf::Time::fromMicroseconds(600'000'000);
 /// Reason in em5::EventIdComponent.
 constexpr int PART_OF_EVENT = 1;
 
-/// Null if it has ended, and for 0.
-FreeplayEvent* findEvent(std::uint64_t id) {
-  const Plugin* game = id != 0 ? Plugin::getInstance() : nullptr;
-  return game ? game->getFreeplaySystem().getEventManager().getEventById(id) : nullptr;
+/// Walls keep the heat off; how long somebody lasts in there is the building's matter.
+bool isInBuilding(const qsf::Entity& entity) {
+  const auto* person = entity.getComponent<PersonComponent>();
+  const qsf::Entity* container = person ? entity.getMap().getEntityById(person->getContainerId()) : nullptr;
+  return container && container->getComponent<BuildingComponent>();
 }
+
+float distanceInGroundPlane(const glm::vec3& a, const glm::vec3& b) { return std::hypot(a.x - b.x, a.z - b.z); }
 
 }
 
@@ -46,9 +59,24 @@ void FireComponent::declareCamp() {
 }
 
 void FireComponent::setBurning(bool burning) {
-  mBurning = burning && mBurnable;
+  const bool wasBurning = std::exchange(mBurning, burning && mBurnable);
   if (!mBurning) leaveEvent();
+  if (mBurning && !wasBurning) breakOut();
+  if (!mBurning && wasBurning) goOut();
   updateJob();
+}
+
+void FireComponent::breakOut() {
+  mTimeToSpread = SPREADING_TIME;
+  mTimeToBurn = BURNING_TIME;
+  const qsf::Entity* entity = findEntity();
+  if (auto* damage = entity ? entity->getComponent<DamageComponent>() : nullptr)
+    damage->worsenDamageState(DamageComponent::DAMAGED);
+}
+
+void FireComponent::goOut() {
+  const qsf::Entity* entity = isRunning() ? findEntity() : nullptr;
+  if (auto* building = entity ? entity->getComponent<BuildingComponent>() : nullptr) building->onFireIsOut();
 }
 
 bool FireComponent::startFire(FreeplayEvent* event) {
@@ -59,15 +87,18 @@ bool FireComponent::startFire(FreeplayEvent* event) {
 
 void FireComponent::joinEvent(FreeplayEvent& event) {
   qsf::Entity* entity = findEntity();
-  if (!entity || findEvent(mEventId)) return; // it counts for one event only
+  if (!entity) return;
+  auto* building = entity->getComponent<BuildingComponent>();
+  if (building && building->getTrappedPersons() > 0) building->createTrappedPerson(&event);
+  if (ObjectiveHelper::findEvent(mEventId)) return; // it counts for one event only
   mEventId = event.getId();
   event.addEntityToEvent(*entity, PART_OF_EVENT);
-  ObjectiveHelper(event).addFire(*entity);
+  ObjectiveHelper(event).addTask(ObjectiveHelper::EXTINGUISH_FIRES, 1, entity);
 }
 
 void FireComponent::leaveEvent() {
-  if (FreeplayEvent* event = findEvent(std::exchange(mEventId, 0)))
-    ObjectiveHelper(*event).countExtinguishedFire(getEntity());
+  if (FreeplayEvent* event = ObjectiveHelper::findEvent(std::exchange(mEventId, 0)))
+    ObjectiveHelper(*event).countTask(ObjectiveHelper::EXTINGUISH_FIRES, &getEntity());
 }
 
 void FireComponent::setBurnable(bool burnable) {
@@ -96,14 +127,46 @@ void FireComponent::updateJob() {
 
 void FireComponent::burn(const qsf::JobArguments& arguments) {
   if (!isActive()) return;
-  const float seconds = arguments.getTimePassed().getSeconds();
-  qsf::Entity& entity = getEntity();
-  const qsf::ComponentMapQuery query(entity.getMap());
-  const glm::vec3 position = qsf::EntityHelper(entity).getPosition();
+  const qsf::Time timePassed = arguments.getTimePassed();
+  heat(timePassed);
+  mTimeToSpread -= timePassed;
+  if (mTimeToSpread <= qsf::Time()) {
+    mTimeToSpread = SPREADING_TIME;
+    spread();
+  }
+  mTimeToBurn -= timePassed;
+  if (mTimeToBurn <= qsf::Time()) burnOut();
+}
+
+void FireComponent::heat(qsf::Time timePassed) const {
+  const float seconds = timePassed.getSeconds();
+  const qsf::ComponentMapQuery query(getEntity().getMap());
+  const glm::vec3 position = EntityHelper(getEntity()).getPosition();
   for (HealthComponent* health : query.getInstancesInCircle<HealthComponent>(position, HEAT_RADIUS))
-    health->hurt(HEALTH_LOSS_PER_SECOND * seconds, injury::BURN_3_GRADE);
-  if (VehicleComponent* vehicle = entity.getComponent<VehicleComponent>())
+    if (!isInBuilding(health->getEntity())) health->hurt(HEALTH_LOSS_PER_SECOND * seconds, injury::BURN_3_GRADE);
+  if (VehicleComponent* vehicle = getEntity().getComponent<VehicleComponent>())
     vehicle->applyDamage(VEHICLE_DAMAGE_PER_SECOND * seconds);
+}
+
+void FireComponent::spread() const {
+  const glm::vec3 position = EntityHelper(getEntity()).getPosition();
+  FireComponent* nearest = nullptr;
+  float nearestDistance = std::numeric_limits<float>::infinity();
+  const qsf::ComponentMapQuery query(getEntity().getMap());
+  for (FireComponent* fire : query.getInstancesInCircle<FireComponent>(position, SPREADING_RADIUS)) {
+    const EntityHelper helper(fire->getEntity());
+    if (!fire->isActive() || !fire->isBurnable() || fire->isBurning() || helper.isVehicle()) continue;
+    const float distance = distanceInGroundPlane(position, helper.getPosition());
+    if (distance >= nearestDistance) continue;
+    nearest = fire;
+    nearestDistance = distance;
+  }
+  if (nearest) nearest->startFire(ObjectiveHelper::findEvent(mEventId));
+}
+
+void FireComponent::burnOut() {
+  if (auto* damage = getEntity().getComponent<DamageComponent>()) damage->worsenDamageState(DamageComponent::BURNT_OUT);
+  setBurnable(false);
 }
 
 }

@@ -2,7 +2,9 @@
 
 #include "em5/component/HealthComponent.h"
 #include "em5/freeplay/FreeplayEvent.h"
+#include "em5/freeplay/FreeplaySystem.h"
 #include "em5/map/EntityHelper.h"
+#include "em5/plugin/Plugin.h"
 
 #include <algorithm>
 
@@ -39,16 +41,31 @@ void ObjectiveHelper::removeObjectiveByTypeId(qsf::StringHash typeId) {
   mEvent.getObjectives().removeObjectiveByTypeId(typeId);
 }
 
-void ObjectiveHelper::addFire(const qsf::Entity& entity) {
-  Objective& objective =
-      mEvent.getObjectives().getOrCreateObjective(EXTINGUISH_FIRES, OBJECTIVE_REQUIRED, mEvent.getId(), ORDER_PRIORITY);
-  objective.setText(EXTINGUISH_FIRES_TEXT);
-  objective.increaseNeededNumber(&entity);
+FreeplayEvent* ObjectiveHelper::findEvent(std::uint64_t id) {
+  const Plugin* game = id != 0 ? Plugin::getInstance() : nullptr;
+  return game ? game->getFreeplaySystem().getEventManager().getEventById(id) : nullptr;
 }
 
-void ObjectiveHelper::countExtinguishedFire(const qsf::Entity& entity) {
-  if (Objective* objective = mEvent.getObjectives().getObjectiveByTypeId(EXTINGUISH_FIRES))
-    objective->increaseCurrentNumber(&entity);
+void ObjectiveHelper::addTask(const Task& task, int number, const qsf::Entity* entity) {
+  if (number <= 0) return;
+  Objective& objective =
+      mEvent.getObjectives().getOrCreateObjective(task.typeId, OBJECTIVE_REQUIRED, mEvent.getId(), ORDER_PRIORITY);
+  objective.setText(task.text);
+  for (int i = 0; i < number; ++i)
+    objective.increaseNeededNumber(entity);
+}
+
+void ObjectiveHelper::countTask(const Task& task, const qsf::Entity* entity) {
+  if (Objective* objective = mEvent.getObjectives().getObjectiveByTypeId(task.typeId))
+    objective->increaseCurrentNumber(entity);
+}
+
+void ObjectiveHelper::withdrawTask(const Task& task, int number, const qsf::Entity* entity) {
+  Objective* objective = mEvent.getObjectives().getObjectiveByTypeId(task.typeId);
+  if (!objective) return;
+  for (int i = 0; i < number; ++i)
+    objective->decreaseNeededNumber(entity);
+  if (objective->getNeededNumber() <= 0) removeObjectiveByTypeId(task.typeId);
 }
 
 void ObjectiveHelper::updateFailConditions() {

@@ -143,7 +143,8 @@ TEST_F(FreeplayEventTest, AFireCountsForOneEvent) {
   em5::EntityHelper(tree).startFire(&event);
   em5::EntityHelper(tree).startFire(&event);
   em5::EntityHelper(tree).startFire(&other);
-  const em5::Objective* fires = event.getObjectives().getObjectiveByTypeId(em5::ObjectiveHelper::EXTINGUISH_FIRES);
+  const em5::Objective* fires =
+      event.getObjectives().getObjectiveByTypeId(em5::ObjectiveHelper::EXTINGUISH_FIRES.typeId);
   ASSERT_NE(fires, nullptr);
   EXPECT_EQ(fires->getNeededNumber(), 1);
   EXPECT_EQ(fires->getEntityIds(), std::vector<std::uint64_t>{100});
@@ -163,7 +164,8 @@ TEST_F(FreeplayEventTest, AFireThatIsLitAlreadyJoins) {
   em5::EntityHelper(tree).startFire();
   EXPECT_TRUE(em5::EntityHelper(tree).startFire(&event));
   EXPECT_FALSE(em5::EntityHelper(iron).startFire(&event));
-  const em5::Objective* fires = event.getObjectives().getObjectiveByTypeId(em5::ObjectiveHelper::EXTINGUISH_FIRES);
+  const em5::Objective* fires =
+      event.getObjectives().getObjectiveByTypeId(em5::ObjectiveHelper::EXTINGUISH_FIRES.typeId);
   ASSERT_NE(fires, nullptr);
   EXPECT_EQ(fires->getNeededNumber(), 1);
   EXPECT_EQ(em5::EntityHelper(iron).getFreeplayEvent(), nullptr);
@@ -174,7 +176,8 @@ TEST_F(FreeplayEventTest, WhatIsGoneBurnsNoMore) {
   em5::FreeplayEvent& event = startJudged();
   em5::EntityHelper(create("tree", 100)).startFire(&event);
   qsf::getMainMap().destroyObjectById(100);
-  EXPECT_EQ(event.getObjectives().getObjectiveByTypeId(em5::ObjectiveHelper::EXTINGUISH_FIRES)->getCurrentNumber(), 1);
+  EXPECT_EQ(
+      event.getObjectives().getObjectiveByTypeId(em5::ObjectiveHelper::EXTINGUISH_FIRES.typeId)->getCurrentNumber(), 1);
 }
 
 TEST_F(FreeplayEventTest, InjuriesAndDeathsPutPersonsIntoTheEvent) {
