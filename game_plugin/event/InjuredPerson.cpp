@@ -33,7 +33,7 @@ void putPersonInto(qsf::Entity& vehicle, em5::FreeplayEvent& event, qsf::StringH
 qsf::Entity* placeInjuredPersonInVehicle(qsf::Entity& vehicle, em5::FreeplayEvent& event, qsf::StringHash injury) {
   if (!vehicle.getComponent<em5::RoadVehicleComponent>()) return nullptr;
   putPersonInto(vehicle, event, injury);
-  if (auto* component = vehicle.getComponent<em5::VehicleComponent>()) component->setCanBeCut(true);
+  if (auto* component = vehicle.getComponent<em5::VehicleComponent>()) component->setCanBeCut(true, &event);
   auto* actions = vehicle.getOrCreateComponent<qsf::ActionComponent>();
   actions->clearPlan();
   actions->pushAction<em5::FullBrakeAction>(BRAKE_PRIORITY);

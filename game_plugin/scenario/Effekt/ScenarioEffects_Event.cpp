@@ -18,8 +18,14 @@ namespace script {
   ENTRY(AddEntitiesToEventObjective)                                                                                   \
   ENTRY(EntityOperationIsDone)                                                                                         \
   ENTRY(AddEntitiesByEventTagToEntityList)                                                                             \
+  ENTRY(SetupBurningBuildingWithTrappedPersons)                                                                        \
+  ENTRY(SetupBurningBuildingWithPersonAtWindow)                                                                        \
+  ENTRY(BuildingExplode)                                                                                               \
+  ENTRY(ExecuteIndustrialPlantFire)                                                                                    \
+  ENTRY(ExecuteVehicleFire)                                                                                            \
   ENTRY(ObjectStartBurning)                                                                                            \
-  ENTRY(ObjectInjure)
+  ENTRY(ObjectInjure)                                                                                                  \
+  ENTRY(CreatePersonThatNeedToBeResucedByDLK)
 EFFECT_GROUP(ScenarioEffects_Event, MANIFEST)
 
 }
