@@ -18,6 +18,7 @@ struct SetupBurningBuildingWithTrappedPersonsEffect : DefaultEffect {
   static constexpr std::string_view ODDITIES[] = {
       "The fourth parameter is the largest number of both kinds: of healthy and of injured persons.",
       "The sixth parameter is read by nothing.",
+      "The fourth and the sixth parameter have no default: a line without them makes the script unusable.",
       "Without the event the first building has its persons, but nothing burns.",
   };
 

@@ -13,10 +13,10 @@ namespace em5 {
 
 class FreeplayEvent;
 
-/// A building. Knows the entities that belong to it, those that light it, and the persons that can't leave it: those that
-/// are trapped inside, who are a number until they come out or die, and one that waves out of a window. Properties
-/// "EntityIds", "Lights"; "TrappedPersons" (all of them; setting a lower number lets some out), "InjuredPersons" (those of them
-/// that are injured), "PersonAtWindow" (an id, uninitialised for nobody). See docs/host-game.md for the rules.
+/// A building. Knows the entities that belong to it, those that light it, and the persons that can't leave it: those
+/// that are trapped inside, who are a number until they come out or die, and one that waves out of a window. Properties
+/// "EntityIds", "Lights"; "TrappedPersons" (all of them; setting a lower number lets some out), "InjuredPersons" (those
+/// of them that are injured), "PersonAtWindow" (an id, uninitialised for nobody). See docs/host-game.md for the rules.
 class QSF_API BuildingComponent : public qsf::Component {
   CAMP_RTTI()
 public:
