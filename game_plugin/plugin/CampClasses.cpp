@@ -5,6 +5,7 @@
 #include "game_plugin/action/UseEquipmentAction.h"
 #include "game_plugin/action/WaitUntilPropertyIsValue.h"
 #include "game_plugin/command/ScriptedCommand.h"
+#include "game_plugin/command/ToggleLayerCommand.h"
 #include "game_plugin/component/EventTargetComponent.h"
 #include "game_plugin/component/MP_LOG_COMPONENT.h"
 #include "game_plugin/component/MeshAnimationComponent.h"
@@ -33,6 +34,7 @@ std::vector<const camp::Class*> declareCampClasses() {
       declareOnce<WaitUntilPropertyIsValue>(),
       declareOnce<PlayLocalSoundWithCustomVolume>(),
       declareOnce<MouseClickDummyCommand>(),
+      declareOnce<ToggleLayerCommand>(),
       declareOnce<CommandbarButton1>(),
       declareOnce<ScenarioEventFactory>(),
       declareOnce<ScenarioEvent>(),

@@ -206,6 +206,7 @@ std::string toText(const RunReport& report) {
     text += "\nno scripts; a project lists them in x64/tidemark/MapScript.json\n";
   if (!report.global.isEmpty()) text += "\nglobal entries\n" + describeStores(report.global, "    ");
   text += describeWorld(report.world);
+  text += describeEditorSteps(report.editorSteps);
   if (!report.hints.empty()) text += describeHints(report.hints);
   if (!report.droppedLines.empty()) text += describeDroppedLines(report.droppedLines);
   if (report.faults > 0)
@@ -225,6 +226,7 @@ std::string toJson(const RunReport& report) {
                {"droppedLines", listToJson(report.droppedLines, droppedLineToJson)},
                {"hints", listToJson(report.hints, hintToJson)}};
   addWorld(report.world, root);
+  addEditorSteps(report.editorSteps, root);
   return root.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 

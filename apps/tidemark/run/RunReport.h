@@ -1,9 +1,11 @@
 #pragma once
+#include "apps/tidemark/run/EditorReport.h"
 #include "apps/tidemark/run/WorldReport.h"
 
 #include "game_plugin/tooling/Tooling.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -37,6 +39,7 @@ struct RunReport {
   std::vector<script::tooling::FateView> fates; ///< scripts that have ended or were never taken
   StoreReport global;
   WorldReport world;
+  std::optional<std::vector<EditorStep>> editorSteps; ///< nothing in a game
   std::vector<script::tooling::DroppedLineView> droppedLines;
   std::vector<script::tooling::HintView> hints;
 };

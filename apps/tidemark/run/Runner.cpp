@@ -89,6 +89,7 @@ RunReport makeReport(const em5::HostSession& session, const script::tooling::Too
   report.seconds = session.getTime().getSecondsAsDouble();
   report.frames = session.getFrameCount();
   report.world = collectWorld(session.getQsf());
+  report.editorSteps = collectEditorSteps();
   return report;
 }
 

@@ -48,6 +48,8 @@ namespace script {
   ENTRY(FlagPersonAsDrunk)                                                                                             \
   ENTRY(SetSirenState)                                                                                                 \
   ENTRY(OpenDoor)                                                                                                      \
+  ENTRY(SetupOpenHouseForBurning)                                                                                      \
+  ENTRY(ShowOpenHouseLayer)                                                                                            \
   ENTRY(SetRenderQueueId)                                                                                              \
   ENTRY(ForceHelicopterFlying)                                                                                         \
   ENTRY(SendCarTowed)                                                                                                  \

@@ -3,6 +3,10 @@
 
 namespace script {
 
-EMPTY_EFFECT_GROUP(ScenarioEffects_Editor)
+// The entries in the order in which they are asked; each stands in a file of its name.
+#define MANIFEST(ENTRY)                                                                                                \
+  ENTRY(Editor_CreateUnit)                                                                                             \
+  ENTRY(Editor_SetPropertyOverrideFlag)
+EFFECT_GROUP(ScenarioEffects_Editor, MANIFEST)
 
 }

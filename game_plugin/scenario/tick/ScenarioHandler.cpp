@@ -7,6 +7,7 @@
 #include "game_plugin/scenario/stores/JsonStore.h"
 #include "game_plugin/scenario/tick/FaultyLine.h"
 #include "game_plugin/scenario/tick/HandlerWatch.h"
+#include "game_plugin/scenario/tick/TickNumber.h"
 #include "game_plugin/scenario/world/LocalPlayer.h"
 
 #include "em5/base/Jobs.h"
@@ -23,6 +24,8 @@ namespace {
 /// Number of Update calls on the stack, of any handler, and the handlers that wait for it to become zero.
 int runningUpdates = 0;
 std::vector<ScenarioHandler*> retiredHandlers;
+
+std::uint64_t tickNumber = 0;
 
 const ScriptDirectory* directory = nullptr;
 
@@ -126,6 +129,8 @@ void ScenarioHandler::Start(StartKind kind) {
     __builtin_prefetch(conditions[0]);
 }
 
+std::uint64_t runningTick() { return tickNumber; }
+
 void ScenarioHandler::Update(const qsf::JobArguments& arguments) {
   if (!mDocument) {
     mUpdateJobProxy.unregister();
@@ -133,6 +138,7 @@ void ScenarioHandler::Update(const qsf::JobArguments& arguments) {
     return;
   }
   const RunningScope scope(*mDocument);
+  ++tickNumber;
   advanceMessages();
   mDocument->time += arguments.getTimePassed();
   // What leaves an entry costs the rest of this script's tick and one line of the log; other scripts go on.

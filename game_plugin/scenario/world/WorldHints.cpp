@@ -5,6 +5,7 @@
 #include "qsf/Qsf.h"
 #include "qsf/asset/AssetProxy.h"
 #include "qsf/asset/Project.h"
+#include "qsf/map/LayerManager.h"
 #include "qsf/reflection/ClassRegistry.h"
 
 #include <camp/class.hpp>
@@ -71,6 +72,15 @@ void hintMissingAsset(const std::string& localAssetName) {
   const qsf::Qsf* host = qsf::Qsf::instance();
   hints::tell(HintKind::ASSET, "no project has the asset \"" + localAssetName + "\"",
               host ? hints::nearest(localAssetName, host->getProjectManager().getAssetNamesByType(type)) : "");
+}
+
+void hintUnknownLayer(const std::string& layerName) {
+  const qsf::Qsf* host = qsf::Qsf::instance();
+  if (!host) return;
+  std::vector<std::string> names;
+  for (const qsf::Layer* layer : host->getLayerManager().getLayers())
+    names.push_back(layer->getName());
+  hints::tell(HintKind::NAME, "the map has no layer \"" + layerName + "\"", hints::nearest(layerName, names));
 }
 
 void hintUnknownSound(const std::string& sourceFile) {

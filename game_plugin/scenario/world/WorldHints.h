@@ -21,6 +21,8 @@ void hintFailedAccess(qsf::Component& component, const std::string& property, co
 void hintLiteralIds(const Argument& list);
 /// An asset that no mounted project has. The type is the second part of its name, "prefab".
 void hintMissingAsset(const std::string& localAssetName);
+/// A layer that the map doesn't have.
+void hintUnknownLayer(const std::string& layerName);
 /// The sound, with the ending .ogg or without, if no mounted project has it.
 void hintUnknownSound(const std::string& sourceFile);
 /// The name, if there is no action class of that name.

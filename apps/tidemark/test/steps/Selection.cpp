@@ -5,7 +5,7 @@
 #include "em5/base/Messages.h"
 #include "em5/game/Game.h"
 #include "qsf/Qsf.h"
-#include "qsf/editor/EditorApplication.h"
+#include "qsf/editor/Application.h"
 #include "qsf/message/MessageSystem.h"
 
 namespace tidemark::test {
@@ -13,7 +13,7 @@ namespace tidemark::test {
 namespace {
 
 qsf::SelectionManagerTemplate<std::uint64_t>* findManager() {
-  if (const qsf::UniqueInstance<qsf::editor::EditorApplication> editor; editor)
+  if (const qsf::UniqueInstance<qsf::editor::Application> editor; editor)
     return &editor->getSelectionSystem().getEntitySelectionManager();
   if (const qsf::UniqueInstance<em5::Game> game; game) return game->getSelectionManager();
   return nullptr;
@@ -32,7 +32,7 @@ void setSelection(const std::set<std::uint64_t>& ids) {
   const bool isTheOldOne = manager->getSelectedIdSet() == ids;
   manager->setSelection(ids);
   // A click on what is selected already is told, too; the manager itself tells of changes only.
-  if (isTheOldOne && !qsf::UniqueInstance<qsf::editor::EditorApplication>())
+  if (isTheOldOne && !qsf::UniqueInstance<qsf::editor::Application>())
     qsf::Qsf::instance()->getMessageSystem().emitMessage(
         qsf::MessageConfiguration(em5::Messages::EM5_CHANGE_SELECTION));
 }

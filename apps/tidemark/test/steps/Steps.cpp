@@ -13,6 +13,7 @@ namespace tidemark::test {
 // <Theme>Actions.cpp or <Theme>Expectations.cpp, whose reader returns nothing if the next word isn't its own.
 #define ACTION_THEMES(THEME)                                                                                           \
   THEME(Store)                                                                                                         \
+  THEME(Editor)                                                                                                        \
   THEME(World)                                                                                                         \
   THEME(Message)                                                                                                       \
   THEME(Command)                                                                                                       \
@@ -31,6 +32,7 @@ namespace tidemark::test {
   THEME(Trigger)                                                                                                       \
   THEME(World)                                                                                                         \
   THEME(Layer)                                                                                                         \
+  THEME(Editor)                                                                                                        \
   THEME(Call)                                                                                                          \
   THEME(Plan)                                                                                                          \
   THEME(Overlay)                                                                                                       \

@@ -10,7 +10,10 @@ class QSF_API Command : public qsf::game::Command {
   CAMP_RTTI()
 public:
   struct IconSettings {
-    std::string mMouseIcon; ///< the cursor's icon over a target; empty for the usual one
+    std::string mMouseIcon;   ///< the cursor's icon over a target; empty for the usual one
+    bool mShowButton = false; ///< whether a selected unit's bar has a button for it
+    std::string mButtonText;
+    std::string mTooltipId; ///< of a text in the translations
   };
 
   Command(qsf::game::CommandManager* manager, qsf::StringHash id) : qsf::game::Command(manager, id) {}

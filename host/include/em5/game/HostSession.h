@@ -49,7 +49,7 @@ public:
   Mod& mountMod(const std::string& directory, ModState state = {});
 
   /// Ends the setup: reads the texts of the language from the mounted projects, then a game gets its em5::EmergencyGui,
-  /// an editor its qsf::editor::EditorApplication. Throws qsf::LoadError for a faulty text file.
+  /// an editor its qsf::editor::Application. Throws qsf::LoadError for a faulty text file.
   void startup();
   /// Loads, installs and starts a plug-in library (qsf::PluginSystem tells which factory it needs). False if its
   /// install or startup refused. Throws qsf::LoadError if the library or its factory can't be found.

@@ -50,6 +50,8 @@ public:
   /// Takes the layer's entities off the map: they are shut down and nothing finds them. The base layer stays active.
   /// `mode` is passed by the game's own callers and has no influence.
   void deactivateLayer(Layer& layer, int mode = 0);
+  /// Destroys an entity that rests with its inactive layer. Any other id does nothing.
+  void dropRestingEntity(std::uint64_t id);
 
 private:
   friend class MapReader;

@@ -15,7 +15,7 @@
 #include "qsf/asset/Project.h"
 #include "qsf/audio/AudioSystem.h"
 #include "qsf/base/Random.h"
-#include "qsf/editor/EditorApplication.h"
+#include "qsf/editor/Application.h"
 #include "qsf/input/InputSystem.h"
 #include "qsf/job/JobManagers.h"
 #include "qsf/localization/LocalizationSystem.h"
@@ -41,7 +41,7 @@ struct HostSession::Internals {
   GameSettingsGroup settingsGroup;
   Plugin plugin;
   std::unique_ptr<EmergencyGui> emergencyGui;
-  std::unique_ptr<qsf::editor::EditorApplication> editor;
+  std::unique_ptr<qsf::editor::Application> editor;
   std::unique_ptr<Game> game;
 
   std::function<void(qsf::Map&)> mapPreparation;
@@ -122,7 +122,8 @@ void HostSession::Internals::end() {
     plugin.getFreeplaySystem().stopGame();
     HintHelper::clear();
   } else {
-    editor->getSelectionSystem().getEntitySelectionManager().clearSelection();
+    editor->getSelectionSystem().clear();
+    editor->getOperationManager().clear();
   }
   gameRunning = false;
   dropGame();
@@ -226,7 +227,7 @@ void HostSession::startup() {
     mInternals->renewGame();
   } else if (!mInternals->editor) {
     mInternals->qsf.getLocalizationSystem().reload();
-    mInternals->editor = std::make_unique<qsf::editor::EditorApplication>();
+    mInternals->editor = std::make_unique<qsf::editor::Application>();
   }
 }
 

@@ -94,6 +94,11 @@ void LayerManager::activateLayer(Layer& layer) {
 
 void LayerManager::deactivateLayer(Layer& layer, int /*mode*/) { deactivate(getMainMap(), layer); }
 
+void LayerManager::dropRestingEntity(std::uint64_t id) {
+  for (const auto& layer : getMainMap().getInternals().layers)
+    std::erase_if(layer->mResting, [id](const Layer::Resting& entry) { return entry.entity->getId() == id; });
+}
+
 void LayerManager::deactivate(Map& map, Layer& layer) {
   if (!layer.mActive || layer.getId() == 0) return;
   layer.mActive = false;

@@ -11,7 +11,7 @@
 #include "host/em5/SessionFixture.h"
 #include "qsf/base/LoadError.h"
 #include "qsf/base/Random.h"
-#include "qsf/editor/EditorApplication.h"
+#include "qsf/editor/Application.h"
 #include "qsf/input/InputSystem.h"
 #include "qsf/job/JobProxy.h"
 #include "qsf/localization/LocalizationSystem.h"
@@ -48,7 +48,7 @@ protected:
 private:
   bool note(const std::string& what) {
     mNotes.push_back(what + (GameInstance() ? " game" : "") + (GuiInstance() ? " gui" : "") +
-                     (qsf::UniqueInstance<qsf::editor::EditorApplication>() ? " editor" : "") +
+                     (qsf::UniqueInstance<qsf::editor::Application>() ? " editor" : "") +
                      (em5::Plugin::getInstance() ? "" : " no plugin"));
     return true;
   }
