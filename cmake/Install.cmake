@@ -5,7 +5,7 @@ set_target_properties(tidemark_program PROPERTIES INSTALL_RPATH "$ORIGIN/../lib/
 set_target_properties(qsf_host tidemark_module PROPERTIES INSTALL_RPATH "$ORIGIN")
 install(TARGETS tidemark_program RUNTIME DESTINATION bin)
 install(TARGETS qsf_host tidemark_module LIBRARY DESTINATION lib/tidemark)
-install(DIRECTORY data/em5 DESTINATION share/tidemark/data)
+install(DIRECTORY data/em5 data/test_extra DESTINATION share/tidemark/data)
 install(DIRECTORY examples docs DESTINATION share/tidemark)
 install(FILES README.md DESTINATION share/tidemark)
 

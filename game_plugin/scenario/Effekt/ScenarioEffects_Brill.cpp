@@ -66,6 +66,15 @@ namespace script {
   ENTRY(LogCommands)                                                                                                   \
   ENTRY(ExecuteCommand)                                                                                                \
   ENTRY(SelectUnits)                                                                                                   \
+  ENTRY(ActivateLayer)                                                                                                 \
+  ENTRY(MountProject)                                                                                                  \
+  ENTRY(UnmountAsset)                                                                                                  \
+  ENTRY(SetLanguage)                                                                                                   \
+  ENTRY(SetMusicLevel)                                                                                                 \
+  ENTRY(MoveCameraOnCameraTrack)                                                                                       \
+  ENTRY(OpenUrl)                                                                                                       \
+  ENTRY(DoSthCool)                                                                                                     \
+  ENTRY(TranslateString)                                                                                               \
   ENTRY(ShowText)                                                                                                      \
   ENTRY(ShowLetterBoxes)                                                                                               \
   ENTRY(ShowSubtitle)                                                                                                  \

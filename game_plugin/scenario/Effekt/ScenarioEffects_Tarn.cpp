@@ -44,7 +44,10 @@ namespace script {
   ENTRY(ToggleLight)                                                                                                   \
   ENTRY(SetStatusIcon)                                                                                                 \
   ENTRY(SetStatusBar)                                                                                                  \
-  ENTRY(SetPlayerId)
+  ENTRY(SetPlayerId)                                                                                                   \
+  ENTRY(SetDayTime)                                                                                                    \
+  ENTRY(LoadMap)                                                                                                       \
+  ENTRY(ShowSupervisor)
 EFFECT_GROUP(ScenarioEffects_Tarn, MANIFEST)
 
 }

@@ -6,6 +6,7 @@
 #include "game_plugin/gui/GuiInstanceManager.h"
 #include "game_plugin/gui/ScenarioBasicGui.h"
 #include "game_plugin/scenario/Log.h"
+#include "game_plugin/scenario/camera/ScenarioCameraMovement.h"
 #include "game_plugin/scenario/documentation/ReferenceFiles.h"
 #include "game_plugin/scenario/hints/ExecutionPoint.h"
 #include "game_plugin/scenario/lifecycle/FiringLedger.h"
@@ -53,6 +54,7 @@ MapScriptManager::MapScriptManager() : MapScriptManager(true) {}
 MapScriptManager::MapScriptManager(bool writeDocumentation) : mPrograms(std::make_unique<ProgramCache>()) {
   theManager = this;
   ScenarioHandler::setDirectory(this);
+  ScenarioCameraMovement::create();
   LoadConfiguration(writeDocumentation);
   mGameStartupMessageProxy.registerAt(em5::Messages::GAME_STARTUP_FINISHED,
                                       [this](const qsf::MessageParameters&) { onGameStartupFinished(); });
@@ -70,6 +72,7 @@ MapScriptManager::~MapScriptManager() {
     ScenarioHandler::retire(handler);
   forgetScripts();
   if (theManager != this) return;
+  ScenarioCameraMovement::shutdown();
   theManager = nullptr;
   ScenarioHandler::setDirectory(nullptr);
 }

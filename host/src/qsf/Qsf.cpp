@@ -16,6 +16,7 @@
 #include "qsf/map/LayerManager.h"
 #include "qsf/map/Map.h"
 #include "qsf/message/MessageSystem.h"
+#include "qsf/platform/PlatformSystem.h"
 #include "qsf/plugin/PluginSystem.h"
 #include "qsf/prototype/PrototypeManager.h"
 #include "qsf/reflection/ClassRegistry.h"
@@ -53,8 +54,8 @@ private:
 /// below if it isn't a qsf::UniqueInstanceTarget.
 struct Qsf::Systems
     : SystemList<LogSystem, FaultCounter, StringHashManager, CallRecorder, WritePermission, MessageSystem, JobManagers,
-                 ProjectManager, PrototypeManager, LocalizationSystem, InputSystem, WindowApplication, LayerManager,
-                 AudioSystem, SkeletonManager, game::Plugin, Map, PluginSystem> {};
+                 ProjectManager, PrototypeManager, LocalizationSystem, InputSystem, PlatformSystem, WindowApplication,
+                 LayerManager, AudioSystem, SkeletonManager, game::Plugin, Map, PluginSystem> {};
 
 Qsf::Qsf() : mSystems(std::make_unique<Systems>()) {
   assert(!sInstance);

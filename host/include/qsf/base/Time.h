@@ -19,6 +19,13 @@ public:
   static constexpr Time fromMicroseconds(std::int64_t microseconds) { return Time(microseconds); }
   static Time fromMilliseconds(double milliseconds) { return fromSeconds(milliseconds / 1000.0); }
 
+  // Each takes the place of its part and leaves the others; what is too much for a part, or a fraction of it, carries
+  // over. Numbers that are no number count as 0.
+  void setHours(double hours);
+  void setMinutes(double minutes);
+  /// A fraction of a second that was there goes, too.
+  void setSeconds(double seconds);
+
   /// Seconds as a 32-bit float, as scripts see time.
   constexpr float getSeconds() const { return static_cast<float>(static_cast<double>(mMicroseconds) / 1000000.0); }
   constexpr double getSecondsAsDouble() const { return static_cast<double>(mMicroseconds) / 1000000.0; }

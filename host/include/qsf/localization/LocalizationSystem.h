@@ -13,9 +13,11 @@ class QSF_API LocalizationSystem {
 public:
   /// "en" at the host's start.
   const std::string& getLanguage() const { return mLanguage; }
+  /// The language that the program begins with; its texts come with the projects, through reload.
+  void setStartLanguage(const std::string& language) { mLanguage = language; }
   /// Takes a language, a folder name such as "de", and reads its texts anew. False, and everything stays as it was, if
   /// no mounted project has texts in that language and it isn't forced, or if a file is faulty, which is logged at
-  /// severity 4.
+  /// severity 4. Noted in the call recorder.
   bool setLanguage(const std::string& language, bool force = false);
   /// Reads the texts of the language anew, after projects were mounted. Throws LoadError for a faulty file, with the
   /// file and the JSON path; the texts then stay as they were.

@@ -47,6 +47,7 @@ struct HostSession::Internals {
   std::function<void(qsf::Map&)> mapPreparation;
   std::optional<std::string> requestedMap;
   std::string currentMap;
+  GameModeType currentMode = GameModeType::FREEPLAY_ENDLESS;
   qsf::Time time;
   std::uint64_t frameCount = 0;
   bool gameRunning = false;
@@ -60,6 +61,7 @@ struct HostSession::Internals {
   void renewGame();
   void dropGame();
   void switchMap(const std::string& map);
+  void restoreConfiguration();
   void fulfilWishes();
   void frame(qsf::Time tick);
 };
@@ -105,9 +107,11 @@ void HostSession::Internals::start(const std::string& map) {
     dropGame();
     throw;
   }
+  GameSessionConfiguration& configuration = application.getGameSessionConfiguration();
+  configuration.setMapIdentifier(MapIdentifier::fromLocalAssetName(map));
   currentMap = map;
+  currentMode = configuration.getGameModeType();
   gameRunning = true;
-  application.getGameSessionConfiguration().setMapIdentifier(MapIdentifier::fromLocalAssetName(map));
   if (!isGame()) return;
   emergencyGui->startGame();
   plugin.getFreeplaySystem().startGame();
@@ -148,6 +152,7 @@ void HostSession::Internals::dropGame() {
 void HostSession::Internals::switchMap(const std::string& map) {
   if (!isMapAsset(map)) {
     qsf::logMessage(qsf::LogSystem::ERROR, "There is no map \"" + map + "\"; the game goes on");
+    if (gameRunning) restoreConfiguration();
     return;
   }
   try {
@@ -157,6 +162,13 @@ void HostSession::Internals::switchMap(const std::string& map) {
     qsf::logMessage(qsf::LogSystem::ERROR,
                     std::string("The game has ended, its next map cannot be started: ") + exception.what());
   }
+}
+
+/// What was configured for a game that can't be started is forgotten: others ask here what is played.
+void HostSession::Internals::restoreConfiguration() {
+  GameSessionConfiguration& configuration = application.getGameSessionConfiguration();
+  configuration.setMapIdentifier(MapIdentifier::fromLocalAssetName(currentMap));
+  configuration.setGameModeType(currentMode);
 }
 
 void HostSession::Internals::fulfilWishes() {
@@ -188,7 +200,7 @@ HostSession::HostSession(const Options& options) {
   qsf::Random::setSeed(options.seed);
   Internals& internals = *mInternals;
   internals.qsf.getLogSystem().setThreshold(options.logThreshold);
-  internals.qsf.getLocalizationSystem().setLanguage(options.language, true); // texts come with the projects
+  internals.qsf.getLocalizationSystem().setStartLanguage(options.language);
   internals.application.getGameSessionConfiguration().setGameModeType(options.gameMode);
   internals.settingsGroup.setSavedAccountname(options.account);
   internals.qsf.getMainMap().setSpawnListener([&internals](const qsf::Entity& entity) {

@@ -22,10 +22,10 @@ constexpr double MAXIMUM_UNITS = 1000;
 const qsf::BaseAsset* findPoolAsset(const std::string& name) {
   const qsf::BaseAsset* newest = nullptr;
   for (const auto& project : qsf::Qsf::instance()->getProjectManager().getProjects())
-    for (const auto& asset : project->getAssets()) {
+    for (const qsf::BaseAsset* asset : project->getAssets()) {
       const std::string& whole = asset->getName();
       if (whole.find("/unit_pool/") != std::string::npos && (whole == name || whole.ends_with("/" + name)))
-        newest = asset.get();
+        newest = asset;
     }
   return newest;
 }

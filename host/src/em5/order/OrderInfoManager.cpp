@@ -54,7 +54,7 @@ std::unique_ptr<OrderInfo> readOrderInfo(const std::string& file) {
 void OrderInfoManager::load() {
   std::vector<std::unique_ptr<OrderInfo>> infos;
   for (const auto& project : qsf::Qsf::instance()->getProjectManager().getProjects())
-    for (const auto& asset : project->getAssets())
+    for (const qsf::BaseAsset* asset : project->getAssets())
       if (isOrderInfoAsset(*asset)) infos.push_back(readOrderInfo(asset->getFile()));
   mOrderInfos = std::move(infos);
 }

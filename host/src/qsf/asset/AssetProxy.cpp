@@ -11,6 +11,10 @@ std::string BaseAsset::getType() const {
   return mLocalName.substr(begin, mLocalName.find('/', begin) - begin);
 }
 
+AssetProxy::AssetProxy(std::uint64_t globalAssetId) {
+  if (globalAssetId < UNINITIALIZED_STRING_HASH) mId = StringHash(static_cast<std::uint32_t>(globalAssetId));
+}
+
 AssetProxy::AssetProxy(const std::string& localAssetName) : mId(localAssetName) {
   if (const Qsf* host = Qsf::instance(); host && mId.isInitialized())
     host->getStringHashManager().registerStringHash(mId, localAssetName);
@@ -19,6 +23,11 @@ AssetProxy::AssetProxy(const std::string& localAssetName) : mId(localAssetName) 
 const BaseAsset* AssetProxy::getAsset() const {
   const Qsf* host = Qsf::instance();
   return host && mId.isInitialized() ? host->getProjectManager().getAssetById(mId) : nullptr;
+}
+
+AssetPackage* AssetProxy::getAssetPackage() const {
+  const BaseAsset* asset = getAsset();
+  return asset ? &asset->getAssetPackage() : nullptr;
 }
 
 std::uint32_t AssetProxy::getGlobalAssetId() const {

@@ -2,6 +2,7 @@
 #include "qsf/Qsf.h"
 #include "qsf/asset/Project.h"
 #include "qsf/base/JsonFile.h"
+#include "qsf/base/RecordedOperation.h"
 #include "qsf/log/LogSystem.h"
 
 #include <filesystem>
@@ -9,6 +10,8 @@
 namespace qsf {
 
 namespace {
+
+const RecordedOperation setLanguageCall{"qsf::LocalizationSystem::setLanguage", "language, `1` if it is forced"};
 
 using Texts = std::map<std::string, std::string>;
 
@@ -31,13 +34,17 @@ bool readTexts(const std::string& language, Texts& texts) {
   if (!host || !isFolderName(language)) return false;
   bool found = false;
   for (const auto& project : host->getProjectManager().getProjects()) {
+    if (!project->getAssetPackage().isMounted()) continue;
     const auto folder = std::filesystem::path(project->getAbsoluteDirectory()) / "text" / language;
     std::error_code error;
     if (!std::filesystem::is_directory(folder, error)) continue;
     found = true;
     std::vector<std::filesystem::path> files;
     for (const auto& file : std::filesystem::directory_iterator(folder, error))
-      if (file.path().extension() == ".json") files.push_back(file.path());
+      if (file.path().extension() == ".json" &&
+          !project->getAssetPackage().isUnmounted(
+              StringHash(project->getName() + "/text/" + language + "/" + file.path().stem().string())))
+        files.push_back(file.path());
     std::sort(files.begin(), files.end()); // a folder's own order differs from machine to machine
     for (const auto& file : files)
       readFile(file.string(), texts);
@@ -48,6 +55,7 @@ bool readTexts(const std::string& language, Texts& texts) {
 }
 
 bool LocalizationSystem::setLanguage(const std::string& language, bool force) {
+  setLanguageCall.record({language, force ? "1" : "0"});
   Texts texts;
   try {
     if (!readTexts(language, texts) && !force) return false;

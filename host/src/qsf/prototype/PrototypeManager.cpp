@@ -30,9 +30,9 @@ void Prefab::copyComponentsTo(Prototype& target) const {
 }
 
 Prefab* PrototypeManager::getPrefabByLocalAssetId(StringHash localAssetId) {
-  if (const auto known = mPrefabs.find(localAssetId); known != mPrefabs.end()) return known->second.get();
-  const BaseAsset* asset = AssetProxy(localAssetId).getAsset();
+  const BaseAsset* asset = AssetProxy(localAssetId).getAsset(); // it may have been unmounted since
   if (!asset || asset->getType() != "prefab") return nullptr;
+  if (const auto known = mPrefabs.find(localAssetId); known != mPrefabs.end()) return known->second.get();
   const Json document = readJsonFile(asset->getFile());
   const JsonPlace root(document, asset->getFile());
   root.expectObject({"description", "components"});

@@ -191,6 +191,19 @@ TEST_F(HostSessionTest, AnUnknownMapLeavesTheGameAsItIs) {
   EXPECT_EQ(qsf::getMainMap().getLocalAssetName(), EMPTY_MAP);
 }
 
+TEST_F(HostSessionTest, AnUnknownMapIsForgotten) {
+  em5::HostSession::Options options;
+  options.gameMode = em5::GameModeType::CAMPAIGN;
+  open(options).startGame(EMPTY_MAP);
+  em5::Application& application = *qsf::UniqueInstance<em5::Application>();
+  application.getGameSessionConfiguration().setupForFreeplay(
+      em5::MapIdentifier::fromLocalAssetName("em5/map/test/nowhere"), "");
+  application.triggerStartGame();
+  session->runFrame(TICK);
+  EXPECT_EQ(application.getGameSessionConfiguration().getMapIdentifier().getLocalAssetName(), EMPTY_MAP);
+  EXPECT_EQ(application.getGameSessionConfiguration().getGameModeType(), em5::GameModeType::CAMPAIGN);
+}
+
 TEST_F(HostSessionTest, AFaultyMapLeavesNothingHalfStarted) {
   open();
   const std::string project = writeProject("broken");

@@ -1,4 +1,6 @@
 #include "host/qsf/TestWorld.h"
+#include "qsf/localization/LocalizationSystem.h"
+#include "qsf/prototype/PrototypeManager.h"
 
 using host_test::TestProject;
 
@@ -97,6 +99,110 @@ TEST_F(ProjectManagerTest, DeeplyNestedJsonIsReadWithoutACrash) {
   const std::string deep = std::string(1000000, '[');
   expectContains(mountFaultOf(deep), "malformed JSON");
   EXPECT_NE("", mountFaultOf(deep + std::string(1000000, ']')));
+}
+
+/// A base directory with projects below its folder `data`.
+class BesideTest : public ProjectManagerTest {
+protected:
+  BesideTest() { project.write("data/extra/project.json", R"({"name": "extra"})"); }
+  qsf::Project* add(const std::string& name) {
+    return projects.registerSingleProjectFromFileSystem(name, "data/" + name, project.path());
+  }
+  static bool exists(const std::string& asset) { return qsf::AssetProxy(asset).getAsset() != nullptr; }
+};
+
+TEST_F(BesideTest, AProjectIsRegisteredFirstAndMountedThen) {
+  project.write("data/extra/prefab/test/box.json", "{}");
+  qsf::Project* extra = add("extra");
+  ASSERT_NE(nullptr, extra);
+  EXPECT_EQ(project.path(), extra->getBaseDirectory());
+  EXPECT_FALSE(exists("extra/prefab/test/box"));
+  ASSERT_EQ(1u, extra->getAssetPackageList().size());
+  extra->getAssetPackageList()[0]->mount();
+  EXPECT_TRUE(exists("extra/prefab/test/box"));
+  EXPECT_EQ(extra, add("extra")) << "a known folder gives its project";
+  EXPECT_TRUE(log.empty());
+}
+
+TEST_F(BesideTest, WhatIsNoProjectBelowTheFolderIsRefused) {
+  project.write("data/empty/readme.txt", "");
+  project.write("data/broken/project.json", "{");
+  project.write("data/other/project.json", R"({"name": "extra"})");
+  project.write("outside/project.json", R"({"name": "outside"})");
+  for (const std::string name : {"none", "empty", "../outside", "extra/../extra", ""})
+    EXPECT_EQ(nullptr, add(name)) << name;
+  EXPECT_EQ(nullptr, projects.registerSingleProjectFromFileSystem("outside", project.path() + "/outside", "/"));
+  EXPECT_TRUE(log.empty());
+  EXPECT_EQ(nullptr, add("broken"));
+  ASSERT_EQ(1u, log.size());
+  expectContains(log[0], "broken/project.json");
+  EXPECT_NE(nullptr, add("extra"));
+  EXPECT_EQ(nullptr, add("other"));
+  ASSERT_EQ(2u, log.size());
+  expectContains(log[1], "is mounted already");
+}
+
+TEST_F(BesideTest, AnUnmountedAssetIsGoneUntilItsPackageIsMountedAnew) {
+  project.write("data/extra/prefab/test/a.json", "{}");
+  project.write("data/extra/prefab/test/b.json", "{}");
+  qsf::AssetPackage& package = add("extra")->getAssetPackage();
+  package.mount();
+  const qsf::AssetProxy a(std::string("extra/prefab/test/a"));
+  EXPECT_EQ(&package, a.getAssetPackage());
+  const std::uint64_t id = a.getGlobalAssetId();
+  EXPECT_NE(nullptr, qsf::AssetProxy(id).getAsset());
+  package.unmountAssetByGlobalAssetId(id);
+  package.unmountAssetByGlobalAssetId(id);
+  package.unmountAssetByGlobalAssetId(7);
+  EXPECT_EQ(nullptr, qsf::AssetProxy(id).getAsset());
+  EXPECT_EQ(nullptr, a.getAssetPackage());
+  EXPECT_EQ(std::vector<std::string>{"extra/prefab/test/b"}, projects.getAssetNamesByType("prefab"));
+  EXPECT_EQ(1u, package.getAssets().size());
+  package.mount();
+  EXPECT_EQ(2u, package.getAssets().size());
+  EXPECT_NE(nullptr, qsf::AssetProxy(id).getAsset());
+}
+
+TEST_F(BesideTest, IdsBeyondAllAssetsNameNone) {
+  project.write("data/extra/prefab/test/a.json", "{}");
+  add("extra")->getAssetPackage().mount();
+  const std::uint64_t id = qsf::StringHash::compute("extra/prefab/test/a");
+  EXPECT_NE(nullptr, qsf::AssetProxy(id).getAsset());
+  EXPECT_EQ(nullptr, qsf::AssetProxy(id + (std::uint64_t{1} << 32)).getAsset());
+  EXPECT_EQ(nullptr, qsf::AssetProxy(std::uint64_t{0xFFFFFFFF}).getAsset());
+  EXPECT_EQ(nullptr, qsf::AssetProxy(~std::uint64_t{0}).getAsset());
+}
+
+TEST_F(BesideTest, AnUnmountedPrefabMakesNothing) {
+  project.write("data/extra/prefab/test/box.json", R"({"components": {"qsf::TransformComponent": {}}})");
+  qsf::AssetPackage& package = add("extra")->getAssetPackage();
+  package.mount();
+  EXPECT_NE(nullptr, map.createObjectByLocalPrefabAssetId("extra/prefab/test/box"));
+  package.unmountAssetByGlobalAssetId(qsf::StringHash::compute("extra/prefab/test/box"));
+  EXPECT_EQ(nullptr, map.createObjectByLocalPrefabAssetId("extra/prefab/test/box"));
+  package.mount();
+  EXPECT_NE(nullptr, map.createObjectByLocalPrefabAssetId("extra/prefab/test/box"));
+}
+
+TEST_F(BesideTest, TextsComeAndGoWithTheirProject) {
+  project.write("data/extra/text/en/a.json", R"({"ID": "text"})");
+  project.write("data/extra/text/de/b.json", "nonsense");
+  const qsf::LocalizationSystem& texts = host.getLocalizationSystem();
+  qsf::AssetPackage& package = add("extra")->getAssetPackage();
+  host.getLocalizationSystem().reload();
+  EXPECT_EQ("ID", texts.translate("ID"));
+  package.mount();
+  EXPECT_EQ("text", texts.translate("ID"));
+  package.unmountAssetByGlobalAssetId(qsf::StringHash::compute("extra/text/en/a"));
+  EXPECT_EQ("ID", texts.translate("ID"));
+  package.mount();
+  EXPECT_EQ("text", texts.translate("ID"));
+  EXPECT_TRUE(log.empty());
+  project.write("data/extra/text/en/c.json", "nonsense");
+  package.mount();
+  ASSERT_EQ(1u, log.size());
+  expectContains(log[0], "c.json");
+  EXPECT_EQ("text", texts.translate("ID")) << "what was known stays";
 }
 
 }

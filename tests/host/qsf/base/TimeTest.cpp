@@ -26,6 +26,34 @@ TEST(Time, RoundsToTheNearestMicrosecond) {
   EXPECT_EQ(Time::fromMilliseconds(1.5).getMicroseconds(), 1500);
 }
 
+TEST(Time, PartsAreSetOneByOne) {
+  Time time;
+  time.setSeconds(45.5);
+  time.setMinutes(30);
+  time.setHours(12);
+  EXPECT_EQ(time, Time::fromSeconds(12 * 3600 + 30 * 60 + 45.5));
+  time.setHours(3);
+  time.setSeconds(1);
+  time.setMinutes(2);
+  EXPECT_EQ(time, Time::fromSeconds(3 * 3600 + 2 * 60 + 1));
+}
+
+TEST(Time, PartsCarryOver) {
+  Time time = Time::fromSeconds(12 * 3600);
+  time.setMinutes(75);
+  EXPECT_EQ(time, Time::fromSeconds(13 * 3600 + 15 * 60));
+  time.setSeconds(-30);
+  EXPECT_EQ(time, Time::fromSeconds(13 * 3600 + 14.5 * 60));
+  time.setHours(-1.5);
+  EXPECT_EQ(time, Time::fromSeconds(-1.5 * 3600 + 14.5 * 60));
+  time.setMinutes(0);
+  EXPECT_EQ(time, Time::fromSeconds(-2 * 3600 + 30));
+  time.setHours(std::numeric_limits<double>::quiet_NaN());
+  EXPECT_EQ(time, Time::fromSeconds(30));
+  time.setHours(std::numeric_limits<double>::infinity());
+  EXPECT_EQ(time, Time::fromMicroseconds(std::numeric_limits<std::int64_t>::max()));
+}
+
 TEST(Time, TakesStrangeNumbers) {
   const double infinity = std::numeric_limits<double>::infinity();
   EXPECT_EQ(Time::fromSeconds(std::numeric_limits<double>::quiet_NaN()), Time::ZERO);
