@@ -19,12 +19,14 @@ namespace tidemark::test {
   THEME(Command)                                                                                                       \
   THEME(Device)                                                                                                        \
   THEME(Gamepad)                                                                                                       \
+  THEME(Document)                                                                                                      \
   THEME(Event)                                                                                                         \
   THEME(Lifecycle)
 #define EXPECTATION_THEMES(THEME)                                                                                      \
   THEME(Log)                                                                                                           \
   THEME(Hint)                                                                                                          \
   THEME(File)                                                                                                          \
+  THEME(Document)                                                                                                      \
   THEME(Command)                                                                                                       \
   THEME(Unit)                                                                                                          \
   THEME(Message)                                                                                                       \

@@ -97,6 +97,8 @@ public:
   /// False if style sheets or local properties hide it or a parent (`display: none`, `visibility: hidden`), if its
   /// document is hidden, and once it has left its document.
   bool IsVisible() const;
+  /// False if it or a parent has `display: none`, and once it has left its document.
+  bool IsDisplayed() const;
   /// Width and height inside the borders, in pixels, of a window of 1280 by 720. 0 for what takes no room.
   float GetClientWidth() const;
   float GetClientHeight() const;

@@ -27,7 +27,7 @@ public:
   const std::vector<GuiDocument*>& getDocuments() const { return mDocuments; }
   /// The first document of that name, or null.
   GuiDocument* findDocument(const std::string& name) const;
-  /// The living document at that address; null for any other number, which is never followed.
+  /// The living document of that address; null for any other number.
   GuiDocument* findDocumentByAddress(std::uint64_t address) const;
   /// The visible document that was shown with focus or clicked last; null if there is none.
   GuiDocument* getFocusedDocument() const { return mFocused; }
@@ -36,6 +36,7 @@ private:
   friend class GuiDocument;
   std::vector<GuiDocument*> mDocuments;
   GuiDocument* mFocused = nullptr;
+  std::uint64_t mLastAddress = 0;
 };
 
 }

@@ -1,6 +1,7 @@
 #pragma once
 #include "qsf/Export.h"
 
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -39,6 +40,9 @@ public:
   const std::string& getName() const { return mName; }
   GuiContext& getGuiContext() const { return mContext; }
 
+  /// A number that stands for it where a pointer would be told: the same in each run, and no other document's.
+  std::uint64_t getAddress() const { return mAddress; }
+
   /// Reads the RML file of that path below the working directory, else the asset of that local name, with the ending
   /// `.rml` or without. False if there is none or it can't be read (a malformed one is logged with line and column);
   /// what was loaded before then stays.
@@ -68,6 +72,7 @@ private:
   std::shared_ptr<Rocket::Core::ElementDocument> mElementDocument;
   std::unique_ptr<FocusByClick> mFocusByClick;
   std::shared_ptr<GuiDocument*> mSelf; ///< empty once it is destroyed, for those who called into it
+  std::uint64_t mAddress;
   bool mVisible = false;
 };
 

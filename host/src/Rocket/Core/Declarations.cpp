@@ -1,23 +1,13 @@
 #include "Declarations.h"
 
+#include "StyleSheet.h"
+
 #include <boost/algorithm/string/case_conv.hpp>
 #include <boost/algorithm/string/trim.hpp>
 
 namespace Rocket::Core {
 
 namespace {
-
-std::string withoutComments(std::string_view text) {
-  std::string rest;
-  for (std::size_t at = 0; at < text.size();) {
-    const std::size_t comment = text.find("/*", at);
-    rest += text.substr(at, comment == std::string_view::npos ? comment : comment - at);
-    if (comment == std::string_view::npos) break;
-    const std::size_t end = text.find("*/", comment + 2);
-    at = end == std::string_view::npos ? text.size() : end + 2;
-  }
-  return rest;
-}
 
 /// Where the next `;` stands that ends a declaration.
 std::size_t findEnd(std::string_view text, std::size_t from) {
@@ -42,7 +32,7 @@ std::size_t findEnd(std::string_view text, std::size_t from) {
 }
 
 std::vector<std::pair<String, String>> readDeclarations(std::string_view text) {
-  const std::string rest = withoutComments(text);
+  const std::string rest = withoutStyleComments(text);
   std::vector<std::pair<String, String>> declarations;
   for (std::size_t at = 0; at < rest.size();) {
     const std::size_t end = findEnd(rest, at);

@@ -211,7 +211,12 @@ void Element::LayoutChanged() {
 
 bool Element::IsVisible() const {
   const ElementDocument* document = GetOwnerDocument();
-  return document && document->IsShown() && document->GetLayout().isDrawn(*this);
+  return document && document->IsShown() && document->GetLayout().isVisible(*this);
+}
+
+bool Element::IsDisplayed() const {
+  const ElementDocument* document = GetOwnerDocument();
+  return document && document->GetLayout().isDisplayed(*this);
 }
 
 float Element::GetClientWidth() const {

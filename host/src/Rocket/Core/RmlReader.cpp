@@ -7,6 +7,7 @@
 #include <boost/algorithm/string/replace.hpp>
 
 #include <algorithm>
+#include <filesystem>
 
 namespace Rocket::Core {
 
@@ -100,9 +101,8 @@ void RmlBuilder::readHead(ElementDocument& document, const pugi::xml_node& head)
     } else if (name == "link" && (type == "text/rcss" || type == "text/css")) {
       SystemInterface* system = GetSystemInterface();
       const String reference = node.attribute("href").value();
-      const std::size_t folder = document.mSourceUrl.rfind('/');
-      const std::string beside =
-          document.mSourceUrl.substr(0, folder == std::string::npos ? 0 : folder + 1) + reference;
+      const std::filesystem::path source(std::string(document.mSourceUrl));
+      const String beside = (source.parent_path() / std::string(reference)).lexically_normal().generic_string();
       String sheet;
       if (system && (system->LoadFile(beside, sheet) || system->LoadFile(reference, sheet)))
         document.mStyleSheet += sheet + "\n";

@@ -46,9 +46,8 @@ GuiDocument* GuiContext::findDocument(const std::string& name) const {
 }
 
 GuiDocument* GuiContext::findDocumentByAddress(std::uint64_t address) const {
-  const auto found = std::find_if(mDocuments.begin(), mDocuments.end(), [&](const GuiDocument* document) {
-    return reinterpret_cast<std::uintptr_t>(document) == address;
-  });
+  const auto found = std::find_if(mDocuments.begin(), mDocuments.end(),
+                                  [&](const GuiDocument* document) { return document->getAddress() == address; });
   return found == mDocuments.end() ? nullptr : *found;
 }
 

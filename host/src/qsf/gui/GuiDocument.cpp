@@ -22,7 +22,7 @@ private:
 
 GuiDocument::GuiDocument(GuiContext& context, std::string name)
     : mContext(context), mName(std::move(name)), mFocusByClick(std::make_unique<FocusByClick>(*this)),
-      mSelf(std::make_shared<GuiDocument*>(this)) {
+      mSelf(std::make_shared<GuiDocument*>(this)), mAddress(mContext.mLastAddress += 0x100) {
   mContext.mDocuments.push_back(this);
 }
 

@@ -112,7 +112,6 @@ std::optional<Action> readDeviceAction(WordCursor& words) {
   if (words.takeIf("press")) return keyboardAction(words, ButtonState::PRESSED);
   if (words.takeIf("release")) return keyboardAction(words, ButtonState::RELEASED);
   if (words.takeIf("mouse")) return mouseAction(words);
-  if (words.peekKeyword("click")) throw DirectiveError("clicks on elements of documents are not available yet");
   if (words.takeIf("push")) return pushAction(words);
   return std::nullopt;
 }

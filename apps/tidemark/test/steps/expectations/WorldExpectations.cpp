@@ -70,12 +70,6 @@ Expectation expectSelection(WordCursor& words) {
   return expectation;
 }
 
-Expectation expectElement(WordCursor& words) {
-  // The documents of scripts come with the GUI; until then a test that asks for one must not pass.
-  words.takeRest();
-  throw DirectiveError("expectations on elements of documents are not available yet");
-}
-
 glm::vec3 positionOf(const qsf::Entity& entity) {
   return qsf::vectorFromText(readProperty(entity, {"qsf::TransformComponent", "Position"}));
 }
@@ -199,7 +193,6 @@ std::optional<Expectation> readWorldExpectation(WordCursor& words) {
   if (words.takeIf("entity")) return expectEntity(words);
   if (words.takeIf("entities")) return expectNumberOfEntities(words);
   if (words.takeIf("selection")) return expectSelection(words);
-  if (words.takeIf("element")) return expectElement(words);
   if (words.takeIf("asset")) return expectAsset(words);
   if (peekEntityForm(words, {"at", "parent", "has", "lacks", "faces", "offset"})) return readEntityExpectation(words);
   return std::nullopt;
