@@ -4,9 +4,10 @@
 #include "Reports.h"
 #include "StyleSheet.h"
 
+#include <litehtml/litehtml.h> // the others build on it
+
 #include <litehtml/el_space.h>
 #include <litehtml/el_text.h>
-#include <litehtml/litehtml.h>
 
 #include <algorithm>
 #include <cmath>
