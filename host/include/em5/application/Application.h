@@ -1,4 +1,5 @@
 #pragma once
+#include "em5/application/AccountManager.h"
 #include "em5/game/GameSessionConfiguration.h"
 #include "qsf/base/UniqueInstance.h"
 
@@ -9,6 +10,7 @@ namespace em5 {
 class QSF_API Application : public qsf::UniqueInstanceTarget<Application> {
 public:
   GameSessionConfiguration& getGameSessionConfiguration() { return mConfiguration; }
+  AccountManager& getAccountManager() { return mAccountManager; }
 
   /// Ends the running game and starts the configured one, at the end of this frame. Several wishes in a frame are one.
   void triggerStartGame() { mStartGameTriggered = true; }
@@ -24,6 +26,7 @@ public:
 
 private:
   GameSessionConfiguration mConfiguration;
+  AccountManager mAccountManager;
   bool mStartGameTriggered = false;
   bool mEndGameTriggered = false;
 };

@@ -37,7 +37,8 @@ public:
   float getMaximumLifeEnergy() const { return mMaximumLifeEnergy; }
   float getMaximumHealthEnergy() const { return mMaximumHealthEnergy; }
   /// Energies are kept between 0 and their maximum; a value that isn't a number changes nothing. No life means death;
-  /// no health means an injury by a wound.
+  /// which injury sets in when there is no health left is for the caller to say. The property HealthEnergy injures with
+  /// a wound.
   void setLifeEnergy(float energy);
   void setHealthEnergy(float energy);
   /// At least 1. Energies above it read as the maximum.
@@ -53,6 +54,7 @@ protected:
 private:
   void setDeadByReflection(bool dead);
   void setInjuryByReflection(qsf::StringHash injuryId);
+  void setHealthEnergyByReflection(float energy);
   void updateJob();
   void loseLife(const qsf::JobArguments& arguments);
 

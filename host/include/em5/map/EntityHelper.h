@@ -41,6 +41,8 @@ public:
   /// The event that the entity belongs to; null without one.
   FreeplayEvent* getFreeplayEvent() const;
   void unlinkFromParent() const;
+  /// Off, nothing meets the entity's box any more: its qsf::BulletCollisionComponent isn't active.
+  void setCollisionEnabled(bool enabled) const;
   /// Puts a person into a vehicle or building: linked to it and hidden. Unlinking lets it out again.
   void enterContainer(qsf::Entity& container) const;
   /// Null outside a game, for what is no unit, and for an order info that doesn't exist.

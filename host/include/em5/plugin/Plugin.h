@@ -1,6 +1,7 @@
 #pragma once
 #include "em5/plugin/ModSystem.h"
 #include "em5/plugin/PluginVersion.h"
+#include "qsf/game/AchievementSystem.h"
 
 #include <memory>
 
@@ -23,11 +24,13 @@ public:
   ModSystem& getModSystem() { return mModSystem; }
   FreeplaySystem& getFreeplaySystem() const { return *mFreeplaySystem; }
   NetworkManager& getNetworkManager() const { return *mNetworkManager; }
+  qsf::game::AchievementSystem& getAchievementSystem() { return mAchievementSystem; }
 
 private:
   ModSystem mModSystem;
   std::unique_ptr<FreeplaySystem> mFreeplaySystem;
   std::unique_ptr<NetworkManager> mNetworkManager;
+  qsf::game::AchievementSystem mAchievementSystem;
 };
 
 }

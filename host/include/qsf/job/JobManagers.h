@@ -37,6 +37,9 @@ public:
 
   void setPaused(bool paused) { mPaused = paused; }
   bool isPaused() const { return mPaused; }
+  /// Simulation managers rest, as in a pause; the two know nothing of each other.
+  void setSimulationHeld(bool held) { mSimulationHeld = held; }
+  bool isSimulationHeld() const { return mSimulationHeld; }
   /// Registered jobs of a manager; 0 for an unknown manager.
   std::size_t getNumberOfJobs(StringHash id) const;
 
@@ -53,6 +56,7 @@ private:
   std::uint64_t mFrame = 0;
   bool mRunning = false;
   bool mPaused = false;
+  bool mSimulationHeld = false;
 };
 
 }

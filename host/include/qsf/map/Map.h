@@ -60,8 +60,11 @@ public:
   /// class is made or destroyed.
   const std::vector<Component*>& getComponentInstances(StringHash componentId) const;
 
-  /// True between startup and shutdown of a game while it isn't paused.
+  /// True between startup and shutdown of a game while it isn't paused and its simulation isn't held.
   bool isSimulating() const;
+  /// False holds the simulation, apart from a pause of the player's: its job managers rest from the next frame on, all
+  /// others go on. It lasts until the map is cleared. Leaves a trace in the call recorder.
+  void setSimulatingMode(bool simulating);
   /// Height of the ground at a place.
   float getGroundHeight(float x, float z) const;
   struct Bounds {

@@ -31,7 +31,7 @@ void HealthComponent::declareCamp() {
       .property("Dead", &HealthComponent::isDead, &HealthComponent::setDeadByReflection)
       .property("Collapsed", &HealthComponent::isCollapsed)
       .property("LifeEnergy", &HealthComponent::getLifeEnergy, &HealthComponent::setLifeEnergy)
-      .property("HealthEnergy", &HealthComponent::getHealthEnergy, &HealthComponent::setHealthEnergy)
+      .property("HealthEnergy", &HealthComponent::getHealthEnergy, &HealthComponent::setHealthEnergyByReflection)
       .property("MaximumLifeEnergy", &HealthComponent::getMaximumLifeEnergy, &HealthComponent::setMaximumLifeEnergy)
       .property("MaximumHealthEnergy", &HealthComponent::getMaximumHealthEnergy,
                 &HealthComponent::setMaximumHealthEnergy);
@@ -92,8 +92,11 @@ void HealthComponent::setLifeEnergy(float energy) {
 }
 
 void HealthComponent::setHealthEnergy(float energy) {
-  if (std::isnan(energy)) return;
-  mHealthEnergy = std::max(energy, 0.0f);
+  if (!std::isnan(energy)) mHealthEnergy = std::max(energy, 0.0f);
+}
+
+void HealthComponent::setHealthEnergyByReflection(float energy) {
+  setHealthEnergy(energy);
   if (mHealthEnergy <= 0.0f) injurePersonById(injury::HEAD_BODY_LACERATION);
 }
 

@@ -59,6 +59,7 @@ void IngameHud::startGame() {
   for (qsf::GuiDocument* window : getAllWindows())
     window->setVisible(window != getDebugGuiWindow() && window != getIngameMainMenuWindow() &&
                        window != getSEKDroneScanWindow());
+  mDroneScanWindow->removeCamera();
 }
 
 void IngameHud::hideGui() {

@@ -14,6 +14,7 @@
 #include "qsf/component/LinkComponent.h"
 #include "qsf/game/InventoryComponent.h"
 #include "qsf/map/Map.h"
+#include "qsf/physics/BulletCollisionComponent.h"
 
 #include <limits>
 
@@ -84,6 +85,10 @@ void EntityHelper::unlinkFromParent() const {
     person->setContainerId(qsf::UNINITIALIZED_ID);
     getEntity().setHidden(false);
   }
+}
+
+void EntityHelper::setCollisionEnabled(bool enabled) const {
+  if (auto* collision = getEntity().getComponent<qsf::BulletCollisionComponent>()) collision->setActive(enabled);
 }
 
 void EntityHelper::enterContainer(qsf::Entity& container) const {

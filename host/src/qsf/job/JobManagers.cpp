@@ -116,11 +116,11 @@ void JobManagers::runFrame(Time timePassed) {
     logMessage(LogSystem::ERROR, "A job asked for a frame inside a frame; it is left out");
     return;
   }
-  const bool paused = mPaused;
+  const bool simulationRests = mPaused || mSimulationHeld;
   ++mFrame;
   mRunning = true;
   for (std::size_t i = 0; i < mManagers.size(); ++i)
-    if (!paused || mManagers[i]->kind != Kind::SIMULATION) runManager(*mManagers[i], timePassed);
+    if (!simulationRests || mManagers[i]->kind != Kind::SIMULATION) runManager(*mManagers[i], timePassed);
   mRunning = false;
   removeEndedJobs();
 }

@@ -1,6 +1,7 @@
 #include "qsf/map/Map.h"
 
 #include "qsf/Qsf.h"
+#include "qsf/base/RecordedOperation.h"
 #include "qsf/component/LinkComponent.h"
 #include "qsf/component/MetadataComponent.h"
 #include "qsf/component/TransformComponent.h"
@@ -13,6 +14,8 @@
 namespace qsf {
 
 namespace {
+
+const RecordedOperation setSimulatingModeCall{"qsf::Map::setSimulatingMode", "`0` or `1`"};
 
 void startComponents(Entity& entity) {
   // A copy, since a component that starts may make others.
@@ -149,7 +152,12 @@ const std::vector<Component*>& Map::getComponentInstances(StringHash componentId
 
 bool Map::isSimulating() const {
   const Qsf* host = Qsf::instance();
-  return mStarted && host && !host->getJobManagers().isPaused();
+  return mStarted && host && !host->getJobManagers().isPaused() && !host->getJobManagers().isSimulationHeld();
+}
+
+void Map::setSimulatingMode(bool simulating) {
+  setSimulatingModeCall.record({simulating ? "1" : "0"});
+  if (const Qsf* host = Qsf::instance()) host->getJobManagers().setSimulationHeld(!simulating);
 }
 
 float Map::getGroundHeight(float x, float /*z*/) const { return mInternals->ground.getHeight(x); }
@@ -190,6 +198,7 @@ void Map::clear() {
   mGlobalAssetId = UNINITIALIZED_STRING_HASH;
   mBounds = {-1000, -1000, 1000, 1000};
   mNextId = 2;
+  if (const Qsf* host = Qsf::instance()) host->getJobManagers().setSimulationHeld(false);
 }
 
 void Map::keepUntilFrameEnd(std::shared_ptr<void> removed) { mInternals->kept.push_back(std::move(removed)); }

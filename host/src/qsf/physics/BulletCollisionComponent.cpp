@@ -109,6 +109,7 @@ void BulletCollisionComponent::reenterWorld() {
 }
 
 bool BulletCollisionComponent::onStartup() {
+  updateTransform(); // also of an inactive box, whose place others may ask for
   enterWorld();
   return true;
 }

@@ -148,7 +148,10 @@ TEST_F(ComponentsTest, EnergiesStayInTheirRange) {
   health.setMaximumLifeEnergy(-5);
   EXPECT_EQ(health.getLifeEnergy(), 1);
   health.setHealthEnergy(-1);
-  EXPECT_TRUE(health.isInjured());
+  EXPECT_EQ(health.getHealthEnergy(), 0);
+  EXPECT_FALSE(health.isInjured()) << "the caller says by what";
+  health.setPropertyByString("HealthEnergy", "-1");
+  EXPECT_EQ(health.getInjuryId(), em5::injury::HEAD_BODY_LACERATION);
 }
 
 TEST_F(ComponentsTest, FireHurtsThoseNearIt) {

@@ -11,6 +11,7 @@
 #include "host/em5/SessionFixture.h"
 #include "qsf/component/LinkComponent.h"
 #include "qsf/component/TransformComponent.h"
+#include "qsf/physics/BulletCollisionComponent.h"
 
 #include <cmath>
 
@@ -32,6 +33,16 @@ protected:
     return make<em5::PersonComponent, em5::HealthComponent, em5::CommandableComponent>(id);
   }
 };
+
+TEST_F(EntityHelperTest, CollisionIsThatOfTheBox) {
+  const em5::EntityHelper helper = make<qsf::BulletCollisionComponent>(100);
+  const auto* box = helper.getEntity().getComponent<qsf::BulletCollisionComponent>();
+  helper.setCollisionEnabled(false);
+  EXPECT_FALSE(box->isActive());
+  helper.setCollisionEnabled(true);
+  EXPECT_TRUE(box->isActive());
+  make<>(101).setCollisionEnabled(false); // without a box: nothing
+}
 
 TEST_F(EntityHelperTest, TellsTheKindsOfUnitsApart) {
   const auto check = [](const em5::EntityHelper& unit, const std::string& expected) {

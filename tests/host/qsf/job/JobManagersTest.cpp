@@ -223,6 +223,23 @@ TEST_F(JobManagersTest, APauseHoldsFromTheNextFrameOnAndRestsTheSimulation) {
   EXPECT_EQ(calls, "logic fire vehicle gui ");
 }
 
+TEST_F(JobManagersTest, AHeldSimulationRestsApartFromAPause) {
+  JobProxy logic, gui;
+  logic.registerAt(Jobs::SIMULATION_LOGIC, note("logic "));
+  gui.registerAt(Jobs::REALTIME_GUI_DEBUG, note("gui "));
+  host.getJobManagers().setSimulationHeld(true);
+  frame();
+  EXPECT_EQ(calls, "gui ");
+  EXPECT_FALSE(host.getJobManagers().isPaused());
+  host.getJobManagers().setPaused(true);
+  host.getJobManagers().setSimulationHeld(false);
+  frame();
+  EXPECT_EQ(calls, "gui gui ") << "the pause goes on";
+  host.getJobManagers().setPaused(false);
+  frame();
+  EXPECT_EQ(calls, "gui gui logic gui ");
+}
+
 TEST_F(JobManagersTest, PausedTimeDoesNotPassForTheSimulation) {
   JobProxy logic;
   Time sum;

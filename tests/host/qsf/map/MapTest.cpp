@@ -163,7 +163,12 @@ TEST_F(MapTest, ComponentsRunFromTheMapsStartOn) {
   EXPECT_TRUE(map.isSimulating());
   host.getJobManagers().setPaused(true);
   EXPECT_FALSE(map.isSimulating());
+  host.getJobManagers().setPaused(false);
+  map.setSimulatingMode(false);
+  EXPECT_FALSE(map.isSimulating());
+  EXPECT_TRUE(host.getJobManagers().isSimulationHeld());
   map.clear();
+  EXPECT_FALSE(host.getJobManagers().isSimulationHeld());
   EXPECT_EQ(0u, map.getNumberOfEntities());
   EXPECT_FALSE(map.isStarted());
 }

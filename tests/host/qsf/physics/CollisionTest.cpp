@@ -127,6 +127,18 @@ TEST_F(CollisionTest, InactiveDestroyedAndFarOutBoxesAreNotMet) {
   EXPECT_EQ(Ids(), touching(100));
 }
 
+TEST_F(CollisionTest, AnInactiveBoxKnowsItsPlaceFromItsStartOn) {
+  qsf::Entity& sensor = spawn("sensor", 100);
+  sensor.getComponent<qsf::TransformComponent>()->setPosition({50, 0, 0});
+  auto* box = sensor.getComponent<BulletCollisionComponent>();
+  box->shutdown();
+  box->setActive(false);
+  btTransform& place = box->getWrappedBulletCollisionObject()->getWorldTransform();
+  place.setIdentity();
+  box->startup();
+  EXPECT_EQ(place.getOrigin().x(), 50);
+}
+
 TEST_F(CollisionTest, WithoutAPhysicsWorldNothingIsFoundAndANewOneTakesUp) {
   spawn("sensor", 100);
   spawn("civilian", 101);
