@@ -12,6 +12,7 @@
 #include "game_plugin/component/NewDoorComponent.h"
 #include "game_plugin/component/OpenHouseComponent.h"
 #include "game_plugin/component/ScenarioCommandableComponent.h"
+#include "game_plugin/component/SmokeComponent.h"
 #include "game_plugin/event/ScenarioEvent.h"
 #include "game_plugin/event/ScenarioEventFactory.h"
 
@@ -40,6 +41,7 @@ std::vector<const camp::Class*> declareCampClasses() {
       declareOnce<ScenarioEvent>(),
       declareOnce<ScenarioCommandableComponent>(),
       declareOnce<EventTargetComponent>(),
+      declareOnce<SmokeComponent>(),
       declareOnce<bt::NewDoorComponent>(),
       declareOnce<OpenHouseComponent>(),
       declareOnce<MP_LOG_COMPONENT>(),

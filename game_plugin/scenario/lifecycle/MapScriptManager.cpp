@@ -255,6 +255,8 @@ void MapScriptManager::DoShutdown() {
   DebuggerWindow::destroy();
   GuiInstanceManager::destroy();
   mPreCommandMessageProxy.unregister();
+  mSuitChangeGuard.switchOff();
+  mBlockedEntityIds.clear();
   mMessageReciever.reset();
   CommandLine::destroy();
   ScenarioBasicGui::destroy();

@@ -1,5 +1,6 @@
 #pragma once
 #include "game_plugin/scenario/lifecycle/ScriptedCommands.h"
+#include "game_plugin/scenario/lifecycle/SuitChangeGuard.h"
 #include "game_plugin/scenario/tick/ScenarioHandler.h"
 
 #include "qsf/job/JobProxy.h"
@@ -86,8 +87,10 @@ public:
   const ProgramCache& programs() const { return *mPrograms; }
   ScriptedCommands& getScriptedCommands() { return mScriptedCommands; }
   const ScriptedCommands& getScriptedCommands() const { return mScriptedCommands; }
-  /// Entities that may not be extinguished; emptied at each start.
+  /// Entities that may not be extinguished; emptied at each start and end of a game.
   std::vector<std::uint64_t>& getBlockedEntityIds() { return mBlockedEntityIds; }
+  /// Off whenever a game ends.
+  SuitChangeGuard& getSuitChangeGuard() { return mSuitChangeGuard; }
 
   /// More instances than this at a time, or more starts in a frame, are refused with an error: two scripts that start
   /// each other multiply without end.
@@ -124,6 +127,7 @@ private:
   qsf::MessageProxy mGameShutdownMessageProxy;
   qsf::JobProxy mSelectionJobProxy;
   std::vector<std::uint64_t> mBlockedEntityIds;
+  SuitChangeGuard mSuitChangeGuard;
   qsf::MessageProxy mPreCommandMessageProxy;
   std::size_t mStartsInFrame = 0; ///< of temporary scripts, those that have stopped included
   bool mBoundTold = false;

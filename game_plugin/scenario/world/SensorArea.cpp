@@ -15,7 +15,7 @@ bool canSense() {
   return core && core->getComponent<qsf::PhysicsWorldComponent>();
 }
 
-const std::vector<qsf::Entity*>& findEntitiesInAreas(const EntityIds& areas) {
+const std::vector<qsf::Entity*>& findEntitiesInAreas(std::span<const std::uint64_t> areas) {
   static std::vector<qsf::Entity*> found; // keeps its memory: sensors are asked in each tick
   found.clear();
   const qsf::CollisionHelper helper(qsf::getMainMap());

@@ -1,7 +1,9 @@
 #pragma once
-#include "game_plugin/scenario/stores/EntityList.h"
-
 #include "qsf/map/Entity.h"
+
+#include <cstdint>
+#include <span>
+#include <vector>
 
 namespace script {
 
@@ -10,6 +12,6 @@ bool canSense();
 /// Entities that touch the collision boxes of the areas, area by area. An area without a box senses nothing, an entity
 /// that touches two of them comes twice, and an area whose kind meets itself finds itself. The result holds until the
 /// next call.
-const std::vector<qsf::Entity*>& findEntitiesInAreas(const EntityIds& areas);
+const std::vector<qsf::Entity*>& findEntitiesInAreas(std::span<const std::uint64_t> areas);
 
 }

@@ -1,7 +1,8 @@
-// What scripts don't see of the ladder, the door and the event targets.
+// What scripts don't see of the ladder, the door, the smoke and the event targets.
 #include "game_plugin/component/EventTargetComponent.h"
 #include "game_plugin/component/MeshAnimationComponent.h"
 #include "game_plugin/component/NewDoorComponent.h"
+#include "game_plugin/component/SmokeComponent.h"
 
 #include "game_plugin/ModuleFixture.h"
 
@@ -54,6 +55,32 @@ TEST_F(SmallComponentsTest, TheDoorHasTheHostsStatesAndAForeignDescription) {
   EXPECT_EQ(tagOf(door.getCampClass().property("DoorState"), "Description"),
             "If true smoke will appear. If 'Burn Object Required' is true, it will ignite these objects");
   EXPECT_EQ(door.getCampClass().tag("Name").to<std::string>(), "bt::NewDoorComponent");
+}
+
+TEST_F(SmallComponentsTest, TheSmokeIsDescribedForTheEditor) {
+  start();
+  const camp::Class& smoke = create<script::SmokeComponent>(100).getCampClass();
+  EXPECT_EQ(smoke.tag("Name").to<std::string>(), "script::SmokeComponent");
+  EXPECT_EQ(smoke.tag("Description").to<std::string>(), "script::SmokeComponent");
+  const std::pair<const char*, const char*> slots[] = {
+      {"Linked Particles", "link smoke particles to this slot"},
+      {"Burnable Objects",
+       "link objects that can burn. Notice they get unlinked at gamestart which makes them usable as targets"},
+      {"Burnable Objects in House",
+       "A special kind of entity, which has the fire component in the child. This makes it impossible to be "
+       "extinguished by hoses and vehicles"},
+      {"BulletBox Area", "Use Collisionmask: 16. CollisionFiltergroup 1540 and set AIProximityProxy as type to let "
+                         "units walk at the component"}};
+  for (const auto& [name, description] : slots) {
+    EXPECT_EQ(tagOf(smoke.property(name), "Description"), description);
+    EXPECT_TRUE(smoke.property(name).hasTag("Slot")) << name;
+  }
+  EXPECT_EQ(tagOf(smoke.property("StartSimulationAtGameStart"), "Description"),
+            "If true smoke will appear. If 'Burn Object Required' is true, it will ignite these objects");
+  EXPECT_EQ(tagOf(smoke.property("Burning Object Required"), "Description"),
+            "If true the smoke will turn on if any object is burning and go off when all entities are extinguished");
+  EXPECT_FALSE(smoke.property("StartSimulationAtGameStart").tag("Default").to<bool>());
+  EXPECT_FALSE(smoke.property("Burning Object Required").tag("Default").to<bool>());
 }
 
 TEST_F(SmallComponentsTest, ALevelBeyondTheRangeEndsAtItsEnd) {

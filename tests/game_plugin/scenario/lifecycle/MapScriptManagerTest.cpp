@@ -297,7 +297,9 @@ TEST_F(PreCommandCheckTest, TheExtinguisherIsForbiddenToUnitsThatMindSmoke) {
 
 TEST_F(PreCommandCheckTest, EndsWithTheGameAndForgetsAtTheNext) {
   session->endGame();
+  EXPECT_TRUE(manager().getBlockedEntityIds().empty());
   EXPECT_EQ(ask("em5::ExtinguishWithHoseCommand", 77), 0);
+  manager().getBlockedEntityIds() = {77};
   session->startGame(EMPTY_MAP);
   EXPECT_EQ(ask("em5::ExtinguishWithHoseCommand", 77), 0);
 }
