@@ -48,8 +48,6 @@ namespace script {
   ENTRY(FlagPersonAsDrunk)                                                                                             \
   ENTRY(SetSirenState)                                                                                                 \
   ENTRY(OpenDoor)                                                                                                      \
-  ENTRY(SetupOpenHouseForBurning)                                                                                      \
-  ENTRY(ShowOpenHouseLayer)                                                                                            \
   ENTRY(SetRenderQueueId)                                                                                              \
   ENTRY(ForceHelicopterFlying)                                                                                         \
   ENTRY(SendCarTowed)                                                                                                  \
@@ -72,6 +70,14 @@ namespace script {
   ENTRY(SetLanguage)                                                                                                   \
   ENTRY(SetMusicLevel)                                                                                                 \
   ENTRY(MoveCameraOnCameraTrack)                                                                                       \
+  ENTRY(SetTextureUVPosition)                                                                                          \
+  ENTRY(CreateSecondViewport)                                                                                          \
+  ENTRY(SetSimulatingMode)                                                                                             \
+  ENTRY(UnlockAchievements)                                                                                            \
+  ENTRY(SuppressCloudSync)                                                                                             \
+  ENTRY(EnableFirefighterChangeSuit)                                                                                   \
+  ENTRY(SetupOpenHouseForBurning)                                                                                      \
+  ENTRY(ShowOpenHouseLayer)                                                                                            \
   ENTRY(OpenUrl)                                                                                                       \
   ENTRY(DoSthCool)                                                                                                     \
   ENTRY(TranslateString)                                                                                               \

@@ -47,7 +47,11 @@ namespace script {
   ENTRY(SetPlayerId)                                                                                                   \
   ENTRY(SetDayTime)                                                                                                    \
   ENTRY(LoadMap)                                                                                                       \
-  ENTRY(ShowSupervisor)
+  ENTRY(ShowSupervisor)                                                                                                \
+  ENTRY(ChangeMouseIcon)                                                                                               \
+  ENTRY(ResetMouseIcon)                                                                                                \
+  ENTRY(GetPositionUnderMouse)                                                                                         \
+  ENTRY(GetTargetEntity)
 EFFECT_GROUP(ScenarioEffects_Tarn, MANIFEST)
 
 }
