@@ -1,5 +1,6 @@
 #include "game_plugin/gui/GuiInstanceManager.h"
 
+#include "game_plugin/gui/AudioTrackerGUI.h"
 #include "game_plugin/scenario/Log.h"
 #include "game_plugin/scenario/tick/ScenarioHandler.h"
 
@@ -78,6 +79,14 @@ std::vector<qsf::GuiDocument*> GuiInstanceManager::find(const std::string& uniqu
   for (const auto& instance : mInstances)
     if (instance->getUniqueId() == uniqueId) found.push_back(instance.get());
   return found;
+}
+
+void GuiInstanceManager::switchTracker(bool wanted) {
+  const qsf::UniqueInstance<em5::EmergencyGui> gui;
+  if (!wanted)
+    mTracker.reset();
+  else if (gui && !mTracker)
+    mTracker = std::make_unique<AudioTrackerGUI>(gui->getGuiContext());
 }
 
 }

@@ -9,9 +9,10 @@
 
 namespace script {
 
+class AudioTrackerGUI;
 class ScenarioHandler;
 
-/// Owns the documents that scripts have loaded and what their buttons do. Made with
+/// Owns the documents that scripts have loaded, what their buttons do, and the audio tracker. Made with
 /// MapScriptManager, in the editor too, and again when scripts of a map start; goes with a game's end, and everything
 /// that it owns with it. One lives at a time.
 class GuiInstanceManager : public GuiDocuments, private HandlerWatch {
@@ -40,6 +41,9 @@ public:
 
   std::vector<qsf::GuiDocument*> find(const std::string& uniqueId) const override;
 
+  /// Makes the audio tracker, or destroys it. Nothing happens if it is so already, or without the game's GUI.
+  void switchTracker(bool wanted);
+
   /// Documents more than this at a time are refused with an error: a trigger that loads one each tick has no end.
   static constexpr std::size_t MAXIMUM_DOCUMENTS = 1000;
 
@@ -57,6 +61,7 @@ private:
 
   std::vector<ButtonConnection> mConnections;
   std::vector<std::unique_ptr<GuiInstance>> mInstances;
+  std::unique_ptr<AudioTrackerGUI> mTracker;
 };
 
 }

@@ -25,7 +25,8 @@ namespace script {
   ENTRY(SimulateClickAtGUIButton)                                                                                      \
   ENTRY(ProcessGUIEvent)                                                                                               \
   ENTRY(CheckGUIAddress)                                                                                               \
-  ENTRY(ReloadGui)
+  ENTRY(ReloadGui)                                                                                                     \
+  ENTRY(CreateAudioTracker)
 EFFECT_GROUP(ScenarioEffects_Gui, MANIFEST)
 
 }
