@@ -43,7 +43,7 @@ CommandLine* CommandLine::get() { return theCommandLine; }
 void CommandLine::create(qsf::GuiContext& context) {
   if (theCommandLine) return;
   theCommandLine = new CommandLine(context);
-  logInfo("new CommandLine is " + std::to_string(0 /* address */) + "with the size of " +
+  logInfo("new CommandLine is " + std::to_string(theCommandLine->getAddress()) + "with the size of " +
           std::to_string(NUMBER_OF_BUTTONS));
 }
 
