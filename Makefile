@@ -8,7 +8,7 @@ FUZZ_SECONDS ?= 60
 OURS = $(shell find host game_plugin apps tests bench fuzz -name '*.cpp' -o -name '*.h' 2>/dev/null)
 
 .DEFAULT_GOAL := help
-.PHONY: help setup build run test install package sanitize bench fuzz format lint
+.PHONY: help setup build run test install package mutate sanitize bench fuzz format lint
 
 help: ## List the targets
 	@grep -hE '^[a-z]+:.*##' $(MAKEFILE_LIST) | sed -E 's/^([a-z]+):.*## */\1\t/' | while IFS=$$'\t' read -r name text; do \
@@ -26,6 +26,10 @@ run: setup ## Build the program and run the example project for 30 simulated sec
 
 test: build ## Run every test: unit tests, then script tests
 	@tools/test.sh check $(JOBS)
+
+mutate: setup ## Let each entry of the catalogue do nothing, one by one, and list those that no script test notices (ENTRIES=...)
+	@tools/build.sh check tidemark_program
+	@tools/mutate.sh check $(JOBS) $(ENTRIES)
 
 install: setup ## Build optimised and install below PREFIX=/usr/local (DESTDIR=... stages it)
 	@tools/build.sh release tidemark_program

@@ -10,6 +10,7 @@
 #include "game_plugin/scenario/lifecycle/ScriptFates.h"
 #include "game_plugin/scenario/loading/ProgramCache.h"
 #include "game_plugin/scenario/messages/MessageNames.h"
+#include "game_plugin/scenario/program/BlankEntry.h"
 #include "game_plugin/scenario/stores/JsonStore.h"
 #include "game_plugin/scenario/world/EntityAccess.h"
 #include "game_plugin/scenario/world/GuiDocuments.h"
@@ -325,6 +326,8 @@ public:
   }
 
   void setPlayerLogFolder(const std::string& folder) override { MP_LOG_COMPONENT::setFolder(folder); }
+
+  void blankEntry(const std::string& name, bool answer) override { BlankEntry::choose(name, answer); }
 
   std::vector<ScenarioEventView> getScenarioEvents() const override {
     std::vector<ScenarioEventView> views;

@@ -182,6 +182,10 @@ public:
   /// Where the module makes its folder `tidemark` with the players' logs, from the next log on; its own folder unless
   /// it is told. Empty is the working directory.
   virtual void setPlayerLogFolder(const std::string& folder) = 0;
+
+  /// For those who test tests: in scripts that are loaded from now on the effect of that name does nothing, the
+  /// condition gives that answer. An empty name ends it. Names that nobody knows change nothing.
+  virtual void blankEntry(const std::string& name, bool answer) = 0;
 };
 
 /// Type and name of the function that the module exports for tools.

@@ -34,10 +34,12 @@ Outcome runPlan(const TestPlan& plan, const fs::path& folder, const std::vector<
   return outcome;
 }
 
-Outcome runFile(const std::string& file, const fs::path& folder, const std::vector<std::string>& allowWrite) {
+Outcome runFile(const std::string& file, const fs::path& folder, const std::vector<std::string>& allowWrite,
+                const BlankedEntry& blanked) {
   Outcome outcome;
   try {
-    const PlanResult result = readPlan(file, readFile(file));
+    PlanResult result = readPlan(file, readFile(file));
+    result.plan.blanked = blanked;
     if (result.faults.empty()) return runPlan(result.plan, folder, allowWrite);
     for (const PlanFault& fault : result.faults)
       outcome.failures.push_back({fault.line, Failure::Kind::ERROR, fault.text, "", {}});
@@ -49,9 +51,10 @@ Outcome runFile(const std::string& file, const fs::path& folder, const std::vect
 
 }
 
-void runSingleTest(const std::string& file, const std::string& folder, const std::vector<std::string>& allowWrite) {
+void runSingleTest(const std::string& file, const std::string& folder, const std::vector<std::string>& allowWrite,
+                   const BlankedEntry& blanked) {
   const fs::path target = fs::absolute(folder);
-  const Outcome outcome = runFile(file, target, allowWrite);
+  const Outcome outcome = runFile(file, target, allowWrite, blanked);
   std::ofstream result(target / RESULT_FILE, std::ios::binary);
   result << encodeOutcome(outcome);
   if (!result.flush()) throw std::runtime_error(fmt::format("{}: can't be written", (target / RESULT_FILE).string()));

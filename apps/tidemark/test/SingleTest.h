@@ -1,4 +1,6 @@
 #pragma once
+#include "apps/tidemark/test/TestPlan.h"
+
 #include <string>
 #include <vector>
 
@@ -12,6 +14,7 @@ inline constexpr const char* OUTPUT_FILE = "output.txt";
 /// Runs one test in this process, which is made for it: the working directory becomes the folder of the project `test`
 /// below `folder`. Scripts may write there and below `allowWrite`. Writes what failed to the result file in `folder`.
 /// Throws std::exception only if even that can't be written.
-void runSingleTest(const std::string& file, const std::string& folder, const std::vector<std::string>& allowWrite);
+void runSingleTest(const std::string& file, const std::string& folder, const std::vector<std::string>& allowWrite,
+                   const BlankedEntry& blanked);
 
 }

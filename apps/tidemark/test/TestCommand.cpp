@@ -5,6 +5,7 @@
 #include "apps/tidemark/Subcommand.h"
 #include "apps/tidemark/platform/Platform.h"
 #include "apps/tidemark/session/Installation.h"
+#include "apps/tidemark/session/ModuleAccess.h"
 #include "apps/tidemark/session/WritableFolders.h"
 #include "apps/tidemark/test/Discovery.h"
 #include "apps/tidemark/test/SingleTest.h"
@@ -29,7 +30,35 @@ struct Options {
   double limit = 60; ///< seconds of real time
   bool strict = false;
   std::vector<std::string> allowWrite;
+  std::string blank; ///< NAME or NAME=true
 };
+
+/// "NAME", "NAME=false" or "NAME=true".
+BlankedEntry parseBlanked(const std::string& text) {
+  const std::size_t mark = text.find('=');
+  const std::string answer = mark == std::string::npos ? "false" : text.substr(mark + 1);
+  if (answer != "true" && answer != "false")
+    throw UsageError(fmt::format("--blank: '{}' is neither true nor false", answer));
+  return {text.substr(0, mark), answer == "true"};
+}
+
+void requireBlanked(const BlankedEntry& blanked) {
+  if (blanked.name.empty()) return;
+  const LoadedModule module;
+  const auto entries = module.tooling().getCatalogue();
+  if (std::ranges::none_of(entries, [&](const auto& entry) { return entry.name == blanked.name; }))
+    throw UsageError(fmt::format("--blank: there is no condition or effect '{}'", blanked.name));
+}
+
+void addBlank(CLI::App& command, std::string& blank) {
+  command
+      .add_option(
+          "--blank", blank,
+          "Let this effect do nothing, or this condition answer false, or with =true true: tests that still pass "
+          "don't test it")
+      ->check(notEmpty("an entry's name"))
+      ->type_name("NAME[=true]");
+}
 
 std::string colour(std::string_view code, const std::string& text) {
   return platform::outputIsTerminal() ? fmt::format("\x1b[{}m{}\x1b[0m", code, text) : text;
@@ -69,14 +98,15 @@ std::vector<std::string> selectTests(const Options& options) {
 }
 
 int runTests(const Options& options) {
-  baseProjectDirectory(); // without it each test would tell the same
+  requireBlanked(parseBlanked(options.blank)); // rather than in each test
+  baseProjectDirectory();                      // without it each test would tell the same
   const std::vector<std::string> files = selectTests(options);
   OutputFile junit("--junit", options.junit);
   // Results in XML have standard output for themselves.
   std::FILE* const output = junit.isStandardOutput() ? stderr : stdout;
   platform::catchInterrupts();
   TestScheduler scheduler({options.jobs, std::chrono::milliseconds(static_cast<std::int64_t>(options.limit * 1000)),
-                           options.strict, options.allowWrite});
+                           options.strict, options.blank, options.allowWrite});
   std::size_t done = 0;
   const std::vector<TestResult> results = scheduler.run(files, [&](const TestResult& result) {
     printResult(output, result);
@@ -113,6 +143,7 @@ std::function<int()> declareTest(CLI::App& command) {
       ->check(numberFrom(0.1, 86400.0))
       ->type_name("S");
   addAllowWrite(command, options->allowWrite);
+  addBlank(command, options->blank);
   return [options] { return runTests(*options); };
 }
 
@@ -120,13 +151,15 @@ std::function<int()> declareSingleTest(CLI::App& command) {
   struct Single {
     std::string file, folder;
     std::vector<std::string> allowWrite;
+    std::string blank;
   };
   auto single = std::make_shared<Single>();
   command.add_option("file", single->file)->required();
   command.add_option("folder", single->folder)->required();
   addAllowWrite(command, single->allowWrite);
+  addBlank(command, single->blank);
   return [single] {
-    runSingleTest(single->file, single->folder, single->allowWrite);
+    runSingleTest(single->file, single->folder, single->allowWrite, parseBlanked(single->blank));
     return EXIT_FINE;
   };
 }

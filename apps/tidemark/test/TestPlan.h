@@ -82,6 +82,12 @@ struct ProjectPlan {
   int line = 0;
 };
 
+/// An entry of the catalogue that does nothing, or gives that answer, while a test runs; see docs/testing.md.
+struct BlankedEntry {
+  std::string name; ///< empty: none
+  bool answer = false;
+};
+
 /// All that a test file asks for. The first project is `test`, its first script `main`; a test that plays an existing
 /// project has a copy of that in their place.
 struct TestPlan {
@@ -103,6 +109,7 @@ struct TestPlan {
   double tick = 0.05;    ///< seconds
   double duration = 1.0; ///< seconds
   int durationLine = 0;
+  BlankedEntry blanked;            ///< not the file's, but the program's
   std::vector<WorldLine> entities; ///< make the entities
   std::vector<WorldLine> world;    ///< set what they and others have; in the order of the lines
   std::vector<Step> steps;         ///< by time; equal times in the order of the lines

@@ -104,6 +104,7 @@ void TestScheduler::start(std::size_t index, const std::string& file) {
   std::vector<std::string> command = {platform::executablePath(), "single-test", file, folder};
   for (const std::string& allowed : mOptions.allowWrite)
     command.insert(command.end(), {"--allow-write", allowed});
+  if (!mOptions.blank.empty()) command.insert(command.end(), {"--blank", mOptions.blank});
   mRunning.push_back({index, folder, platform::ChildProcess::start(command, output), Clock::now()});
 }
 

@@ -17,6 +17,7 @@ public:
     std::size_t jobs = 1;
     std::chrono::milliseconds limit{60000}; ///< of real time; a test that takes longer is killed and fails
     bool strict = false;                    ///< notes are failures
+    std::string blank;                      ///< as on the command line; empty: nothing is blanked
     std::vector<std::string> allowWrite; ///< folders in which scripts may write beside the working directory; absolute
   };
   /// Called for each test, in the order of the files.

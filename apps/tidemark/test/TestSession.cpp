@@ -78,6 +78,7 @@ void TestSession::startHost() {
   mModule = std::make_unique<LoadedModule>();
   tooling().switchHints(true);
   tooling().switchReferenceFiles(mPlan.docs);
+  tooling().blankEntry(mPlan.blanked.name, mPlan.blanked.answer);
   mHost = std::make_unique<em5::HostSession>(options);
   limitHostWrites(mWritable);
   mHost->getQsf().getLogSystem().addListener([this](const qsf::LogSystem::Record& record) { keepLine(record); });

@@ -1,6 +1,7 @@
 #include "game_plugin/scenario/tick/ScenarioConditions.h"
 
 #include "game_plugin/scenario/hints/ExecutionPoint.h"
+#include "game_plugin/scenario/program/BlankEntry.h"
 #include "game_plugin/scenario/program/EntryIndex.h"
 
 namespace script {
@@ -22,7 +23,7 @@ const ConditionEntry* ScenarioConditions::find(std::string_view name) {
       built.add(group->chain);
     return built;
   }();
-  return index.find(name);
+  return BlankEntry::replace(index.find(name));
 }
 
 bool ScenarioConditions::evaluate(qsf::Time elapsed, const Conditions& conditions, std::uint32_t required,

@@ -2,6 +2,7 @@
 
 #include "game_plugin/scenario/Log.h"
 #include "game_plugin/scenario/hints/ExecutionPoint.h"
+#include "game_plugin/scenario/program/BlankEntry.h"
 #include "game_plugin/scenario/program/EntryIndex.h"
 #include "game_plugin/scenario/program/UseConditionalBlockEffect.h"
 #include "game_plugin/scenario/tick/ScenarioConditions.h"
@@ -69,7 +70,7 @@ const EffectEntry* ScenarioEffects::find(std::string_view name) {
       built.add(group->chain);
     return built;
   }();
-  return index.find(name);
+  return BlankEntry::replace(index.find(name));
 }
 
 std::uint32_t ScenarioEffects::run(const Effects& effects, std::uint32_t triggerHash) const {

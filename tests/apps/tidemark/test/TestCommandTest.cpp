@@ -195,6 +195,17 @@ TEST_F(TestCommand, ACostlyPatternCostsItsTestOnly) {
                 {"failing.script:4: expectation failed", "a line of 30000 characters; patterns compare 20000 at most"});
 }
 
+TEST_F(TestCommand, ABlankedEntryDoesNothing) {
+  write("beat.script", "$ @for 1.5\n$ @expect variable beats == 1\n" + BEAT);
+  EXPECT_EQ(run({"test", folder()}).code, 0);
+  EXPECT_EQ(run({"test", folder(), "--blank", "VariableModify"}).code, 1);
+  EXPECT_EQ(run({"test", folder(), "--blank", "Timer"}).code, 1);
+  EXPECT_EQ(run({"test", folder(), "--blank", "Timer=true"}).code, 1);
+  EXPECT_EQ(run({"test", folder(), "--blank", "SpawnObject"}).code, 0) << "it isn't there";
+  EXPECT_EQ(run({"test", folder(), "--blank", "Timr"}).code, 2);
+  EXPECT_EQ(run({"test", folder(), "--blank", "Timer=maybe"}).code, 2);
+}
+
 }
 
 }
