@@ -2,6 +2,7 @@
 
 #include "game_plugin/event/ObjectiveKind.h"
 #include "game_plugin/scenario/Log.h"
+#include "game_plugin/scenario/world/RememberedHash.h"
 
 #include "em5/freeplay/FreeplaySystem.h"
 #include "em5/freeplay/ObjectiveHelper.h"
@@ -64,13 +65,13 @@ em5::Objective* ScenarioEvent::findObjective(const std::string& id) const {
 void ScenarioEvent::createObjective(const std::string& text, const std::string& id, int neededNumber,
                                     const std::string& kind) {
   const em5::ObjectiveType type = lookUp(OBJECTIVE_KINDS, kind).value_or(em5::OBJECTIVE_REQUIRED);
-  em5::Objective& objective = getObjectives().getOrCreateObjective(qsf::StringHash(id), type, getId(), ORDER_PRIORITY);
+  em5::Objective& objective = getObjectives().getOrCreateObjective(rememberedHash(id), type, getId(), ORDER_PRIORITY);
   objective.setText(text);
   objective.setNeededNumber(neededNumber);
 }
 
 em5::Objective& ScenarioEvent::getOrCreateObjective(const std::string& id) {
-  return getObjectives().getOrCreateObjective(qsf::StringHash(id), em5::OBJECTIVE_REQUIRED, getId(), ORDER_PRIORITY);
+  return getObjectives().getOrCreateObjective(rememberedHash(id), em5::OBJECTIVE_REQUIRED, getId(), ORDER_PRIORITY);
 }
 
 void ScenarioEvent::setObjectiveCurrentNumber(const std::string& id, int number) {

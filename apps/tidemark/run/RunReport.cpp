@@ -205,6 +205,7 @@ std::string toText(const RunReport& report) {
   if (report.scripts.empty() && report.fates.empty())
     text += "\nno scripts; a project lists them in x64/tidemark/MapScript.json\n";
   if (!report.global.isEmpty()) text += "\nglobal entries\n" + describeStores(report.global, "    ");
+  text += describeEvents(report.events);
   text += describeWorld(report.world);
   text += describeEditorSteps(report.editorSteps);
   if (!report.hints.empty()) text += describeHints(report.hints);
@@ -223,6 +224,7 @@ std::string toJson(const RunReport& report) {
                {"scripts", listToJson(report.scripts, scriptToJson)},
                {"ended", listToJson(report.fates, fateToJson)},
                {"global", storesToJson(report.global)},
+               {"events", eventsToJson(report.events)},
                {"droppedLines", listToJson(report.droppedLines, droppedLineToJson)},
                {"hints", listToJson(report.hints, hintToJson)}};
   addWorld(report.world, root);

@@ -1,5 +1,6 @@
 #pragma once
 #include "apps/tidemark/run/EditorReport.h"
+#include "apps/tidemark/run/EventReport.h"
 #include "apps/tidemark/run/WorldReport.h"
 
 #include "game_plugin/tooling/Tooling.h"
@@ -38,6 +39,7 @@ struct RunReport {
   std::vector<ScriptReport> scripts;
   std::vector<script::tooling::FateView> fates; ///< scripts that have ended or were never taken
   StoreReport global;
+  std::vector<em5::EventRecord> events; ///< those that have ended first
   WorldReport world;
   std::optional<std::vector<EditorStep>> editorSteps; ///< nothing in a game
   std::vector<script::tooling::DroppedLineView> droppedLines;

@@ -88,6 +88,7 @@ RunReport makeReport(const em5::HostSession& session, const script::tooling::Too
   report.map = session.getQsf().getMainMap().getLocalAssetName();
   report.seconds = session.getTime().getSecondsAsDouble();
   report.frames = session.getFrameCount();
+  report.events = collectEvents();
   report.world = collectWorld(session.getQsf());
   report.editorSteps = collectEditorSteps();
   return report;

@@ -54,7 +54,9 @@ public:
   void setRunning();
   /// Ends a running event, if it may be won or lost. The manager takes it off after the frame's update. Returns whether
   /// it ended.
-  bool finish(State result);
+  /// `reason` says why, in words for whoever reads of it.
+  bool finish(State result, const std::string& reason = {});
+  const std::string& getEndReason() const { return mEndReason; }
 
   ObjectiveList& getObjectives() { return mObjectives; }
   const ObjectiveList& getObjectives() const { return mObjectives; }
@@ -62,8 +64,9 @@ public:
   /// ones are, and without required ones, too.
   void checkObjectivesState();
 
-  /// Puts the entity into the event (see EventIdComponent).
-  void addEntityToEvent(qsf::Entity& entity, int reason);
+  /// Puts the entity into the event (see EventIdComponent). One that is in it already takes the new reason only with
+  /// `evenIfInEvent`.
+  void addEntityToEvent(qsf::Entity& entity, int reason, bool evenIfInEvent = false);
   /// Entities of the main map that are in the event, by ascending id.
   std::vector<qsf::Entity*> getEntities() const;
   /// One of those that can be seen, drawn from the game's random source. Null if there is none.
@@ -95,6 +98,7 @@ private:
   std::uint64_t mId = 0;
   std::string mEventName;
   std::string mDefinition;
+  std::string mEndReason;
   EventHintParameters mHintParameters;
   ObjectiveList mObjectives;
   std::vector<std::uint64_t> mDeadIds; ///< persons that the fail condition has counted

@@ -1,11 +1,34 @@
 #pragma once
 #include "em5/freeplay/FreeplayEvent.h"
 
+#include <deque>
 #include <memory>
 #include <string>
 #include <vector>
 
 namespace em5 {
+
+/// How far an objective is, or was when its event ended.
+struct ObjectiveRecord {
+  std::string id;   ///< its type id: the text, or the number of one that nobody knows
+  std::string text; ///< as the player reads it
+  ObjectiveType type = OBJECTIVE_REQUIRED;
+  int currentNumber = 0;
+  int neededNumber = 0;
+  bool reached = false;
+};
+
+/// What can be told of an event, also when it is gone.
+struct EventRecord {
+  std::uint64_t id = 0;
+  std::string className;
+  std::string name;
+  std::string definition;
+  FreeplayEvent::State state = FreeplayEvent::State::PREPARED;
+  std::string reason; ///< why it has ended; empty while it runs
+  qsf::Time runningTime;
+  std::vector<ObjectiveRecord> objectives;
+};
 
 /// The events of the running game. Owned by the freeplay system; empty between games.
 class QSF_API FreeplayEventManager {
@@ -26,6 +49,9 @@ public:
   /// Events that ended so since the game's start.
   std::size_t getNumberOfSucceededEvents() const { return mNumberOfSucceeded; }
   std::size_t getNumberOfFailedEvents() const { return mNumberOfFailed; }
+  /// Those that have succeeded or failed since the game's start, at most the last thousand, then those that run; each
+  /// in the order in which they ended or started.
+  std::vector<EventRecord> getRecords() const;
 
   /// Takes the event over, gives it its id, starts it up and runs it. Null if its startup says no; it is gone then.
   FreeplayEvent* startEvent(std::unique_ptr<FreeplayEvent> event);
@@ -46,6 +72,7 @@ private:
   void removeFinishedEvents();
 
   std::vector<std::unique_ptr<FreeplayEvent>> mEvents;
+  std::deque<EventRecord> mEndedEvents;
   std::uint64_t mNextId = 1;
   std::size_t mNumberOfSucceeded = 0;
   std::size_t mNumberOfFailed = 0;

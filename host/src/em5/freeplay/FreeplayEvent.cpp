@@ -16,6 +16,8 @@ namespace em5 {
 
 static const qsf::DeclaredClass<FreeplayEvent> declared;
 
+static constexpr const char* TIME_IS_OVER = "its time is over";
+
 void FreeplayEvent::declareCamp() {
   camp::Class::declare<FreeplayEvent>("em5::FreeplayEvent").base<qsf::Object>().constructor0();
 }
@@ -29,10 +31,11 @@ bool FreeplayEvent::onRun() {
   return true;
 }
 
-bool FreeplayEvent::finish(State result) {
+bool FreeplayEvent::finish(State result, const std::string& reason) {
   const bool mayEnd = result == State::SUCCEEDED ? mCanWinEvent : result == State::FAILED && mCanLoseEvent;
   if (!isRunning() || !mayEnd) return false;
   mState = result;
+  mEndReason = reason;
   if (result == State::SUCCEEDED)
     onSuccess();
   else
@@ -45,15 +48,21 @@ void FreeplayEvent::checkObjectivesState() {
   const auto isReachedFailure = [](const auto& objective) {
     return objective->getType() == OBJECTIVE_FAIL && objective->isReached();
   };
-  const auto isOpen = [](const auto& objective) {
-    return objective->getType() == OBJECTIVE_REQUIRED && !objective->isReached();
-  };
-  if (std::ranges::any_of(objectives, isReachedFailure) && finish(State::FAILED)) return;
-  if (std::ranges::none_of(objectives, isOpen)) finish(State::SUCCEEDED);
+  const auto isRequired = [](const auto& objective) { return objective->getType() == OBJECTIVE_REQUIRED; };
+  const auto isOpen = [&](const auto& objective) { return isRequired(objective) && !objective->isReached(); };
+  const auto failure = std::ranges::find_if(objectives, isReachedFailure);
+  if (failure != objectives.end() && finish(State::FAILED, (*failure)->getShownText())) return;
+  if (std::ranges::none_of(objectives, isOpen))
+    finish(State::SUCCEEDED, std::ranges::any_of(objectives, isRequired) ? "all required objectives are reached"
+                                                                         : "there is no required objective");
 }
 
-void FreeplayEvent::addEntityToEvent(qsf::Entity& entity, int reason) {
-  entity.getOrCreateComponent<EventIdComponent>()->addToEvent(*this, reason);
+void FreeplayEvent::addEntityToEvent(qsf::Entity& entity, int reason, bool evenIfInEvent) {
+  auto* membership = entity.getOrCreateComponent<EventIdComponent>();
+  if (evenIfInEvent)
+    membership->setEvent(*this, reason);
+  else
+    membership->addToEvent(*this, reason);
 }
 
 std::vector<qsf::Entity*> FreeplayEvent::getEntities() const {
@@ -92,8 +101,8 @@ void FreeplayEvent::serialize(EventArchive& archive) {
 }
 
 void FreeplayEvent::updateFreeplayEvent(qsf::Time) {
-  if (mSucceedsAfter > qsf::Time() && mRunningTime >= mSucceedsAfter) finish(State::SUCCEEDED);
-  if (mFailsAfter > qsf::Time() && mRunningTime >= mFailsAfter) finish(State::FAILED);
+  if (mSucceedsAfter > qsf::Time() && mRunningTime >= mSucceedsAfter) finish(State::SUCCEEDED, TIME_IS_OVER);
+  if (mFailsAfter > qsf::Time() && mRunningTime >= mFailsAfter) finish(State::FAILED, TIME_IS_OVER);
 }
 
 }

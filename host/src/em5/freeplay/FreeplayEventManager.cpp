@@ -5,6 +5,7 @@
 #include "qsf/log/FaultCounter.h"
 #include "qsf/log/LogSystem.h"
 #include "qsf/reflection/ClassRegistry.h"
+#include "qsf/reflection/PropertyText.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -16,6 +17,17 @@ namespace {
 /// One event's fault costs that event that call, and nothing else.
 template <class Call> void guarded(const FreeplayEvent& event, Call&& call) {
   qsf::callGuarded(call, [&] { return "the event " + event.getEventName(); });
+}
+
+constexpr std::size_t MOST_ENDED_EVENTS = 1000;
+
+EventRecord recordOf(const FreeplayEvent& event) {
+  EventRecord record{event.getId(),    event.getCampClassName(), event.getEventName(),   event.getDefinition(),
+                     event.getState(), event.getEndReason(),     event.getRunningTime(), {}};
+  for (const auto& objective : event.getObjectives().getObjectives())
+    record.objectives.push_back({qsf::toText(objective->getTypeId()), objective->getShownText(), objective->getType(),
+                                 objective->getCurrentNumber(), objective->getNeededNumber(), objective->isReached()});
+  return record;
 }
 
 }
@@ -84,9 +96,18 @@ void FreeplayEventManager::removeFinishedEvents() {
     if (event->isFinished()) finished.push_back(std::move(event));
   mEvents.erase(std::remove(mEvents.begin(), mEvents.end(), nullptr), mEvents.end());
   for (const auto& event : finished) {
+    guarded(*event, [&] { mEndedEvents.push_back(recordOf(*event)); });
+    if (mEndedEvents.size() > MOST_ENDED_EVENTS) mEndedEvents.pop_front();
     ++(event->getState() == FreeplayEvent::State::SUCCEEDED ? mNumberOfSucceeded : mNumberOfFailed);
     guarded(*event, [&] { event->onShutdown(); });
   }
+}
+
+std::vector<EventRecord> FreeplayEventManager::getRecords() const {
+  std::vector<EventRecord> records(mEndedEvents.begin(), mEndedEvents.end());
+  for (const FreeplayEvent* event : getCurrentEvents())
+    records.push_back(recordOf(*event));
+  return records;
 }
 
 void FreeplayEventManager::endAllEvents() {
@@ -101,6 +122,7 @@ void FreeplayEventManager::shutdownAllEvents() {
   endAllEvents();
   mNumberOfSucceeded = 0;
   mNumberOfFailed = 0;
+  mEndedEvents.clear();
 }
 
 std::string FreeplayEventManager::saveEvents() const {

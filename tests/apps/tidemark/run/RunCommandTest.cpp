@@ -300,6 +300,39 @@ TEST_F(WritingScripts, TheProgramsOwnReportGoesAnywhere) {
   EXPECT_NE(readAll(outside() + "/report.json").find("\"frames\""), std::string::npos);
 }
 
+TEST_F(RunCommand, TheReportTellsWhatBecameOfMissionsAndWhy) {
+  writeProject(
+      "InitNewTrigger(\"Start\", true, false);\nInitEffects();\n"
+      "StartScriptedEvent(\"1\", \"Won\");\n"
+      "CreateObjective(\"1\", \"Count (%d / %d)\", \"count\", \"2\");\n"
+      "ObjectiveSetCurrentNumber(\"1\", \"count\", \"2\");\nAllowScriptedEventToFinish(\"1\");\n"
+      "StartScriptedEvent(\"2\", \"Lost\");\n"
+      "CreateObjective(\"2\", \"Lives lost: %d\", \"lives\", \"1\", \"FAIL\");\n"
+      "CreateObjective(\"2\", \"Never\", \"never\", \"9\");\n"
+      "ObjectiveSetCurrentNumber(\"2\", \"lives\", \"1\");\nAllowScriptedEventToFinish(\"2\");\n"
+      "StartScriptedEvent(\"3\", \"Open\");\nCreateObjective(\"3\", \"Maybe\", \"maybe\", \"1\", \"OPTIONAL\");\n");
+  const Outcome outcome = run({"run", folder(), "--seconds", "1", "--report", folder() + "/r.json"});
+  EXPECT_EQ(outcome.code, 0) << outcome.output;
+  EXPECT_NE(outcome.output.find("event \"Won\"  succeeded after"), std::string::npos) << outcome.output;
+  EXPECT_NE(outcome.output.find("event \"Lost\"  failed after"), std::string::npos) << outcome.output;
+  EXPECT_NE(outcome.output.find(": Lives lost: 1\n"), std::string::npos) << outcome.output;
+  const auto events = nlohmann::json::parse(readAll(folder() + "/r.json"))["events"];
+  ASSERT_EQ(events.size(), 3u);
+  EXPECT_EQ(events[0]["name"], "Won");
+  EXPECT_EQ(events[0]["class"], "script::ScenarioEvent");
+  EXPECT_EQ(events[0]["state"], "succeeded");
+  EXPECT_EQ(events[0]["reason"], "all required objectives are reached");
+  const nlohmann::json count = {{"id", "count"}, {"text", "Count (2 / 2)"}, {"kind", "required"}, {"current", 2},
+                                {"needed", 2},   {"reached", true}};
+  EXPECT_EQ(events[0]["objectives"], nlohmann::json::array({count}));
+  EXPECT_EQ(events[1]["state"], "failed");
+  EXPECT_EQ(events[1]["reason"], "Lives lost: 1");
+  EXPECT_EQ(events[1]["objectives"][0]["kind"], "fail");
+  EXPECT_EQ(events[1]["objectives"][1]["reached"], false);
+  EXPECT_EQ(events[2]["state"], "running");
+  EXPECT_EQ(events[2]["objectives"][0]["kind"], "optional");
+}
+
 }
 
 }

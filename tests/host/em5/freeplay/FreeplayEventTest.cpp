@@ -281,4 +281,54 @@ TEST_F(FreeplayEventTest, ATextThatNobodySavedChangesNothing) {
   EXPECT_TRUE(manager().getCurrentEvents().empty());
 }
 
+TEST_F(FreeplayEventTest, RecordsTellOfThoseThatRunAndHaveEndedAndWhy) {
+  play();
+  em5::FreeplayEvent& won = startJudged();
+  won.setEventName("Won");
+  em5::Objective& objective = add(won, "a", em5::OBJECTIVE_REQUIRED, 2);
+  objective.setText("Done %d of %d");
+  em5::FreeplayEvent& lost = startJudged();
+  lost.setEventName("Lost");
+  em5::Objective& failure = add(lost, "b", em5::OBJECTIVE_FAIL, 1);
+  add(lost, "c", em5::OBJECTIVE_REQUIRED, 1);
+  failure.setText("Dead: %d");
+  em5::FreeplayEvent& running = startJudged();
+  add(running, "d", em5::OBJECTIVE_REQUIRED, 1);
+  run(0.1);
+  ASSERT_EQ(manager().getRecords().size(), 3u);
+  EXPECT_EQ(manager().getRecords()[0].state, em5::FreeplayEvent::State::RUNNING);
+  objective.setCurrentNumber(2);
+  failure.setCurrentNumber(1);
+  run(0.05);
+  const std::vector<em5::EventRecord> records = manager().getRecords();
+  ASSERT_EQ(records.size(), 3u);
+  EXPECT_EQ(records[0].name, "Won");
+  EXPECT_EQ(records[0].state, em5::FreeplayEvent::State::SUCCEEDED);
+  EXPECT_EQ(records[0].reason, "all required objectives are reached");
+  EXPECT_NEAR(records[0].runningTime.getSecondsAsDouble(), 0.15, 0.001);
+  ASSERT_EQ(records[0].objectives.size(), 1u);
+  EXPECT_EQ(records[0].objectives[0].text, "Done 2 of 2");
+  EXPECT_TRUE(records[0].objectives[0].reached);
+  EXPECT_EQ(records[1].name, "Lost");
+  EXPECT_EQ(records[1].state, em5::FreeplayEvent::State::FAILED);
+  EXPECT_EQ(records[1].reason, "Dead: 1");
+  EXPECT_EQ(records[1].objectives.size(), 2u);
+  EXPECT_EQ(records[2].state, em5::FreeplayEvent::State::RUNNING);
+  EXPECT_EQ(records[2].reason, "");
+  session->endGame();
+  EXPECT_TRUE(manager().getRecords().empty());
+}
+
+TEST_F(FreeplayEventTest, AnEntityTakesTheNewReasonOnlyIfTold) {
+  play();
+  em5::FreeplayEvent& event = startJudged();
+  add(event, "a", em5::OBJECTIVE_REQUIRED, 1);
+  qsf::Entity& entity = create("barrel", 100);
+  event.addEntityToEvent(entity, 0);
+  event.addEntityToEvent(entity, 1);
+  EXPECT_EQ(entity.getComponent<em5::EventIdComponent>()->getReason(), 0);
+  event.addEntityToEvent(entity, 1, true);
+  EXPECT_EQ(entity.getComponent<em5::EventIdComponent>()->getReason(), 1);
+}
+
 }
