@@ -18,6 +18,8 @@ namespace script {
   ENTRY(AddEntitiesToEventObjective)                                                                                   \
   ENTRY(EntityOperationIsDone)                                                                                         \
   ENTRY(AddEntitiesByEventTagToEntityList)                                                                             \
+  ENTRY(AddGangsterToEvent)                                                                                            \
+  ENTRY(SetGangsterFleeing)                                                                                            \
   ENTRY(SetupBurningBuildingWithTrappedPersons)                                                                        \
   ENTRY(SetupBurningBuildingWithPersonAtWindow)                                                                        \
   ENTRY(BuildingExplode)                                                                                               \
@@ -25,7 +27,10 @@ namespace script {
   ENTRY(ExecuteVehicleFire)                                                                                            \
   ENTRY(ObjectStartBurning)                                                                                            \
   ENTRY(ObjectInjure)                                                                                                  \
-  ENTRY(CreatePersonThatNeedToBeResucedByDLK)
+  ENTRY(CreatePersonThatNeedToBeResucedByDLK)                                                                          \
+  ENTRY(DamageObject)                                                                                                  \
+  ENTRY(DamageEbox)                                                                                                    \
+  ENTRY(AddDivingSpotToEvent)
 EFFECT_GROUP(ScenarioEffects_Event, MANIFEST)
 
 }

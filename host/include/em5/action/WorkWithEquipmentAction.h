@@ -1,30 +1,28 @@
 #pragma once
-#include "qsf/action/Action.h"
-#include "qsf/base/Ids.h"
+#include "em5/action/WorkAtTargetAction.h"
 
 namespace em5 {
 
-/// Lets a person work on something with what it holds: it walks there and works for a time; then a fire is out, a tree
-/// is down, a closed door opens. Ends without that if the target is gone or can't be reached.
-class QSF_API WorkWithEquipmentAction : public qsf::Action {
+/// Lets a person work on something with what it holds.
+class QSF_API WorkWithEquipmentAction : public WorkAtTargetAction {
   CAMP_RTTI()
 public:
   static constexpr qsf::StringHash ACTION_ID{"em5::WorkWithEquipmentAction"};
   static void declareCamp();
 
-  void init(const qsf::Entity& target, qsf::Time workingTime);
-  qsf::action::Description describe() const override;
+  enum class Work {
+    EXTINGUISH,     ///< a fire goes out
+    BREAK,          ///< a tree is down, a closed door opens
+    REPAIR,         ///< what an engineer can use is used up, a defective box is intact; the message says so
+    SEARCH_IN_WATER ///< what lies below a diving spot is found, which the message says; the spot is searched
+  };
+  void init(const qsf::Entity& target, qsf::Time workingTime, Work work);
 
 protected:
-  qsf::action::Result updateAction(const qsf::Clock& clock) override;
+  void finishOn(qsf::Entity& target) override;
 
 private:
-  void walkTo(qsf::Entity& target);
-  static void finishOn(qsf::Entity& target);
-
-  std::uint64_t mTargetId = qsf::UNINITIALIZED_ID;
-  qsf::Time mTimeLeft;
-  bool mHasWalked = false;
+  Work mWork = Work::EXTINGUISH;
 };
 
 }

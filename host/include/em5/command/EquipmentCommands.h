@@ -1,4 +1,5 @@
 #pragma once
+#include "em5/action/WorkWithEquipmentAction.h"
 #include "em5/command/Command.h"
 
 #include <string_view>
@@ -18,10 +19,12 @@ public:
   void execute(const qsf::game::CommandContext& context) override;
 
 protected:
-  EquipmentCommand(qsf::game::CommandManager* manager, qsf::StringHash id, int priority, float seconds);
+  EquipmentCommand(qsf::game::CommandManager* manager, qsf::StringHash id, int priority, float seconds,
+                   WorkWithEquipmentAction::Work work);
 
 private:
   float mSeconds;
+  WorkWithEquipmentAction::Work mWork;
 };
 
 /// "hose", for what burns. Priority 100, 4 seconds.
@@ -54,8 +57,30 @@ public:
   bool checkContext(const qsf::game::CommandContext& context) override;
 };
 
+/// "toolbox", for what an engineer can repair or use. Priority 70, 5 seconds.
+class QSF_API RepairWithToolboxCommand : public EquipmentCommand {
+  CAMP_RTTI()
+public:
+  static constexpr qsf::StringHash COMMAND_ID{"em5::RepairWithToolboxCommand"};
+  explicit RepairWithToolboxCommand(qsf::game::CommandManager* manager);
+  static void declareCamp();
+  bool checkContext(const qsf::game::CommandContext& context) override;
+};
+
+/// "diving_gear", for a diving spot that is intact. Priority 60, 6 seconds.
+class QSF_API DiveCommand : public EquipmentCommand {
+  CAMP_RTTI()
+public:
+  static constexpr qsf::StringHash COMMAND_ID{"em5::DiveCommand"};
+  explicit DiveCommand(qsf::game::CommandManager* manager);
+  static void declareCamp();
+  bool checkContext(const qsf::game::CommandContext& context) override;
+};
+
 }
 CAMP_TYPE_NONCOPYABLE(em5::EquipmentCommand)
 CAMP_TYPE_NONCOPYABLE(em5::ExtinguishWithHoseCommand)
 CAMP_TYPE_NONCOPYABLE(em5::ExtinguishWithExtinguisherCommand)
 CAMP_TYPE_NONCOPYABLE(em5::UseAxeCommand)
+CAMP_TYPE_NONCOPYABLE(em5::RepairWithToolboxCommand)
+CAMP_TYPE_NONCOPYABLE(em5::DiveCommand)

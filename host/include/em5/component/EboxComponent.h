@@ -1,12 +1,15 @@
 #pragma once
 #include "qsf/base/Ids.h"
 #include "qsf/component/Component.h"
+#include "qsf/job/JobProxy.h"
+
+#include <set>
 
 namespace em5 {
 
-/// An electrical box, intact at first. A defective one sparks and may attract onlookers. Properties "Defect",
-/// "GapeChance" (of a person that comes near, 0 to 1), "GapeRadius" (units), "LightningEntity", "SparksEntity" (ids of
-/// its particles, uninitialised without).
+/// An electrical box, intact at first. A defective one sparks and may attract onlookers: each civilian that comes
+/// within the radius goes there with that chance, once. Properties "Defect", "GapeChance" (0 to 1), "GapeRadius"
+/// (units), "LightningEntity", "SparksEntity" (ids of its particles, uninitialised without).
 class QSF_API EboxComponent : public qsf::Component {
   CAMP_RTTI()
 public:
@@ -29,9 +32,17 @@ public:
   std::uint64_t getSparksEntity() const { return mSparksEntity; }
   void setSparksEntity(std::uint64_t entityId) { mSparksEntity = entityId; }
 
+protected:
+  bool onStartup() override;
+  void onShutdown() override;
+
 private:
   void destroyParticles();
+  void updateJob();
+  void attractOnlookers();
 
+  qsf::JobProxy mGapeJob;
+  std::set<std::uint64_t> mAskedIds; ///< persons that have made up their minds
   std::uint64_t mLightningEntity = qsf::UNINITIALIZED_ID;
   std::uint64_t mSparksEntity = qsf::UNINITIALIZED_ID;
   float mGapeChance = 0;

@@ -29,8 +29,9 @@ public:
   float getDamage() const { return mDamage; }
   /// Clamped to 0 to 1; a value that isn't a number changes nothing.
   void setDamage(float damage);
-  /// Adds damage. A destroyed vehicle stands still and its siren is off.
-  void applyDamage(float damage);
+  /// Adds damage. A destroyed vehicle stands still and its siren is off. With an event, the vehicle is put into it
+  /// (reason 1).
+  void applyDamage(float damage, FreeplayEvent* event = nullptr);
   bool isDestroyed() const { return mDamage >= 1.0f; }
 
 protected:

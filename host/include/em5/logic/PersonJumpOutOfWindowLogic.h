@@ -1,15 +1,29 @@
 #pragma once
 #include "qsf/base/StringHash.h"
+#include "qsf/job/JobProxy.h"
 #include "qsf/logic/GameLogic.h"
 
 namespace em5 {
 
-/// Marks a person that stands at a window, or as high, and jumps if nobody comes in time.
+/// Marks a person that stands at a window, or as high, and jumps as soon as there is something to fall on: a jump
+/// cushion on the ground (equipment of the name "jump_cushion" that nobody carries), near enough for a while. It stands
+/// on the ground there then, out of the building, and the message EM5_ACTION_JUMPEDOUTOFWINDOW_PERSON tells of it. See
+/// docs/host-game.md.
 class QSF_API PersonJumpOutOfWindowLogic : public qsf::GameLogic {
   CAMP_RTTI()
 public:
   static constexpr qsf::StringHash GAME_LOGIC_ID{"em5::PersonJumpOutOfWindowLogic"};
   static void declareCamp();
+
+protected:
+  void onStartup() override;
+  void onShutdown() override { mJob.unregister(); }
+
+private:
+  void update(qsf::Time timePassed);
+
+  qsf::JobProxy mJob;
+  qsf::Time mCourage; ///< how long a cushion has been there
 };
 
 }

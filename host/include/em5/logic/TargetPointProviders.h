@@ -20,6 +20,16 @@ public:
   qsf::logic::TargetPoint computeTargetPoint(qsf::Entity& mover, qsf::Entity& target) const override;
 };
 
+/// Where a ladder vehicle stands for whoever waits up there: below, at the height on which it drives.
+class QSF_API LadderTargetPointProvider : public qsf::logic::TargetPointProvider {
+  CAMP_RTTI()
+public:
+  static constexpr qsf::StringHash TARGET_POINT_ID{"em5::LadderTargetPointProvider"};
+  static void declareCamp();
+  qsf::logic::TargetPoint computeTargetPoint(qsf::Entity& mover, qsf::Entity& target) const override;
+};
+
 }
 CAMP_TYPE_NONCOPYABLE(em5::GetEquipmentTargetPointProvider)
 CAMP_TYPE_NONCOPYABLE(em5::EnterVehicleTargetPointProvider)
+CAMP_TYPE_NONCOPYABLE(em5::LadderTargetPointProvider)

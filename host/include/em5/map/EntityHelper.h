@@ -1,5 +1,6 @@
 #pragma once
 #include "qsf/base/Ids.h"
+#include "qsf/base/StringHash.h"
 #include "qsf/map/EntityHelper.h"
 
 #include <cstdint>
@@ -53,6 +54,10 @@ public:
   /// The nearest road vehicle of this unit's player that has equipment of that name on board, is in a valid state and
   /// within the map; the first of equally near ones. Null if there is none or this is no player's unit.
   qsf::Entity* getReachableRoadVehicleWithEquipment(const std::string& equipmentName) const;
+
+  /// Gives a person the logic of that class, which derives from GangsterBaseLogic, in the place of another such one. A
+  /// class that isn't one does nothing and is logged at severity 3. `isSilent` is kept for those who read records.
+  void turnIntoGangster(qsf::StringHash gangsterLogicId, bool isSilent) const;
 
   /// Makes the entity burn, if it can, as a part of the event if one is given (see FireComponent). Returns whether it
   /// burns.

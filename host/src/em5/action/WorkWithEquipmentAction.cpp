@@ -1,60 +1,59 @@
 #include "em5/action/WorkWithEquipmentAction.h"
 
-#include "em5/action/MoveAction.h"
+#include "em5/base/Messages.h"
+#include "em5/component/DivingSpotComponent.h"
 #include "em5/component/DoorComponent.h"
+#include "em5/component/EboxComponent.h"
 #include "em5/component/TreeComponent.h"
-#include "em5/logic/TargetPointProviders.h"
+#include "em5/component/UsableByEngineerComponent.h"
 #include "em5/map/EntityHelper.h"
-#include "qsf/action/ActionComponent.h"
-#include "qsf/ai/ReachObjectGoal.h"
-#include "qsf/map/Map.h"
+#include "qsf/Qsf.h"
+#include "qsf/message/MessageSystem.h"
 #include "qsf/reflection/ClassRegistry.h"
-#include "qsf/reflection/PropertyText.h"
 
 namespace em5 {
 
-static const qsf::DeclaredClass<WorkWithEquipmentAction> declared;
+namespace {
+
+void breakDown(qsf::Entity& target) {
+  if (auto* tree = target.getComponent<TreeComponent>()) tree->setBroken(true);
+  if (auto* door = target.getComponent<DoorComponent>()) door->openDoor();
+}
+
+void repair(qsf::Entity& target) {
+  if (auto* ebox = target.getComponent<EboxComponent>()) ebox->setEboxIntact();
+  target.destroyComponentById(UsableByEngineerComponent::COMPONENT_ID);
+  qsf::Qsf::instance()->getMessageSystem().emitMessage(
+      qsf::MessageConfiguration(Messages::EM5_ACTION_REPAIRED_OR_USED, target.getId()));
+}
+
+const qsf::DeclaredClass<WorkWithEquipmentAction> declared;
+
+}
 
 void WorkWithEquipmentAction::declareCamp() {
-  camp::Class::declare<WorkWithEquipmentAction>("em5::WorkWithEquipmentAction").base<Action>().constructor0();
+  qsf::ClassRegistry::declareOnce<WorkAtTargetAction>();
+  camp::Class::declare<WorkWithEquipmentAction>("em5::WorkWithEquipmentAction")
+      .base<WorkAtTargetAction>()
+      .constructor0();
 }
 
-void WorkWithEquipmentAction::init(const qsf::Entity& target, qsf::Time workingTime) {
-  mTargetId = target.getId();
-  mTimeLeft = workingTime;
-}
-
-qsf::action::Description WorkWithEquipmentAction::describe() const {
-  return {{"target", std::to_string(mTargetId)}, {"time", qsf::toText(mTimeLeft.getSecondsAsDouble())}};
-}
-
-qsf::action::Result WorkWithEquipmentAction::updateAction(const qsf::Clock& clock) {
-  qsf::Entity* target = getMap().getEntityById(mTargetId);
-  if (!target) return qsf::action::RESULT_DONE;
-  if (!qsf::logic::TargetPointProvider::isWithinReach(getEntity(), *target)) {
-    if (std::exchange(mHasWalked, true)) return qsf::action::RESULT_DONE;
-    walkTo(*target);
-    return qsf::action::RESULT_CONTINUE;
-  }
-  mTimeLeft -= clock.getTimePassed();
-  if (mTimeLeft > qsf::Time()) return qsf::action::RESULT_CONTINUE;
-  finishOn(*target);
-  return qsf::action::RESULT_DONE;
-}
-
-void WorkWithEquipmentAction::walkTo(qsf::Entity& target) {
-  auto goal = std::make_unique<qsf::ai::ReachObjectGoal>(getEntity(), target,
-                                                         GetEquipmentTargetPointProvider::TARGET_POINT_ID, true);
-  getActionComponent()
-      .pushAction<MoveAction>(getPriority(), qsf::action::INSERT_BEFORE_CURRENT)
-      .init(std::move(goal), MOVEMENT_MODE_RUN);
+void WorkWithEquipmentAction::init(const qsf::Entity& target, qsf::Time workingTime, Work work) {
+  WorkAtTargetAction::init(target, workingTime);
+  mWork = work;
 }
 
 void WorkWithEquipmentAction::finishOn(qsf::Entity& target) {
-  const EntityHelper helper(target);
-  if (helper.isBurning()) return helper.stopFire();
-  if (auto* tree = target.getComponent<TreeComponent>()) tree->setBroken(true);
-  if (auto* door = target.getComponent<DoorComponent>()) door->openDoor();
+  switch (mWork) {
+  case Work::EXTINGUISH:
+    return EntityHelper(target).stopFire();
+  case Work::BREAK:
+    return breakDown(target);
+  case Work::REPAIR:
+    return repair(target);
+  case Work::SEARCH_IN_WATER:
+    if (auto* spot = target.getComponent<DivingSpotComponent>()) spot->search();
+  }
 }
 
 }

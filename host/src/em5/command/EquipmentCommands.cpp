@@ -1,14 +1,17 @@
 #include "em5/command/EquipmentCommands.h"
 
-#include "em5/action/WorkWithEquipmentAction.h"
+#include "em5/component/DivingSpotComponent.h"
 #include "em5/component/DoorComponent.h"
 #include "em5/component/TreeComponent.h"
+#include "em5/component/UsableByEngineerComponent.h"
 #include "em5/map/EntityHelper.h"
 #include "qsf/action/ActionComponent.h"
 #include "qsf/game/EquipmentComponent.h"
 #include "qsf/reflection/ClassRegistry.h"
 
 namespace em5 {
+
+using Work = WorkWithEquipmentAction::Work;
 
 namespace {
 
@@ -18,7 +21,9 @@ struct Pairing {
 };
 constexpr Pairing PAIRINGS[] = {{"hose", ExtinguishWithHoseCommand::COMMAND_ID},
                                 {"extinguisher", ExtinguishWithExtinguisherCommand::COMMAND_ID},
-                                {"axe", UseAxeCommand::COMMAND_ID}};
+                                {"axe", UseAxeCommand::COMMAND_ID},
+                                {"toolbox", RepairWithToolboxCommand::COMMAND_ID},
+                                {"diving_gear", DiveCommand::COMMAND_ID}};
 
 bool isTargetBurning(const qsf::game::CommandContext& context) {
   return context.mTargetEntity && EntityHelper(*context.mTargetEntity).isBurning();
@@ -27,6 +32,8 @@ bool isTargetBurning(const qsf::game::CommandContext& context) {
 const qsf::DeclaredClass<ExtinguishWithHoseCommand> declaredHose;
 const qsf::DeclaredClass<ExtinguishWithExtinguisherCommand> declaredExtinguisher;
 const qsf::DeclaredClass<UseAxeCommand> declaredAxe;
+const qsf::DeclaredClass<RepairWithToolboxCommand> declaredToolbox;
+const qsf::DeclaredClass<DiveCommand> declaredDivingGear;
 
 template <class T> void declare(const char* name) {
   qsf::ClassRegistry::declareOnce<EquipmentCommand>();
@@ -46,8 +53,9 @@ qsf::StringHash EquipmentCommand::findByEquipmentName(std::string_view equipment
   return {};
 }
 
-EquipmentCommand::EquipmentCommand(qsf::game::CommandManager* manager, qsf::StringHash id, int priority, float seconds)
-    : Command(manager, id), mSeconds(seconds) {
+EquipmentCommand::EquipmentCommand(qsf::game::CommandManager* manager, qsf::StringHash id, int priority, float seconds,
+                                   Work work)
+    : Command(manager, id), mSeconds(seconds), mWork(work) {
   setPriority(priority);
 }
 
@@ -62,22 +70,20 @@ bool EquipmentCommand::checkCaller(qsf::Entity& caller) {
 void EquipmentCommand::execute(const qsf::game::CommandContext& context) {
   context.mCaller->getOrCreateComponent<qsf::ActionComponent>()
       ->pushAction<WorkWithEquipmentAction>(qsf::ActionComponent::DEFAULT_PRIORITY, qsf::action::REPLACE_WHOLE_PLAN)
-      .init(*context.mTargetEntity, qsf::Time::fromSeconds(static_cast<double>(mSeconds)));
+      .init(*context.mTargetEntity, qsf::Time::fromSeconds(static_cast<double>(mSeconds)), mWork);
 }
 
 ExtinguishWithHoseCommand::ExtinguishWithHoseCommand(qsf::game::CommandManager* manager)
-    : EquipmentCommand(manager, COMMAND_ID, 100, 4) {}
+    : EquipmentCommand(manager, COMMAND_ID, 100, 4, Work::EXTINGUISH) {}
 
-void ExtinguishWithHoseCommand::declareCamp() {
-  declare<ExtinguishWithHoseCommand>("em5::ExtinguishWithHoseCommand");
-}
+void ExtinguishWithHoseCommand::declareCamp() { declare<ExtinguishWithHoseCommand>("em5::ExtinguishWithHoseCommand"); }
 
 bool ExtinguishWithHoseCommand::checkContext(const qsf::game::CommandContext& context) {
   return isTargetBurning(context);
 }
 
 ExtinguishWithExtinguisherCommand::ExtinguishWithExtinguisherCommand(qsf::game::CommandManager* manager)
-    : EquipmentCommand(manager, COMMAND_ID, 90, 8) {}
+    : EquipmentCommand(manager, COMMAND_ID, 90, 8, Work::EXTINGUISH) {}
 
 void ExtinguishWithExtinguisherCommand::declareCamp() {
   declare<ExtinguishWithExtinguisherCommand>("em5::ExtinguishWithExtinguisherCommand");
@@ -87,7 +93,8 @@ bool ExtinguishWithExtinguisherCommand::checkContext(const qsf::game::CommandCon
   return isTargetBurning(context);
 }
 
-UseAxeCommand::UseAxeCommand(qsf::game::CommandManager* manager) : EquipmentCommand(manager, COMMAND_ID, 80, 3) {}
+UseAxeCommand::UseAxeCommand(qsf::game::CommandManager* manager)
+    : EquipmentCommand(manager, COMMAND_ID, 80, 3, Work::BREAK) {}
 
 void UseAxeCommand::declareCamp() { declare<UseAxeCommand>("em5::UseAxeCommand"); }
 
@@ -96,6 +103,26 @@ bool UseAxeCommand::checkContext(const qsf::game::CommandContext& context) {
   const auto* tree = context.mTargetEntity->getComponent<TreeComponent>();
   const auto* door = context.mTargetEntity->getComponent<DoorComponent>();
   return (tree && !tree->isBroken()) || (door && door->getDoorState() == DoorComponent::DOOR_CLOSED);
+}
+
+RepairWithToolboxCommand::RepairWithToolboxCommand(qsf::game::CommandManager* manager)
+    : EquipmentCommand(manager, COMMAND_ID, 70, 5, Work::REPAIR) {}
+
+void RepairWithToolboxCommand::declareCamp() { declare<RepairWithToolboxCommand>("em5::RepairWithToolboxCommand"); }
+
+bool RepairWithToolboxCommand::checkContext(const qsf::game::CommandContext& context) {
+  return context.mTargetEntity && context.mTargetEntity->getComponent<UsableByEngineerComponent>() &&
+         !isTargetBurning(context);
+}
+
+DiveCommand::DiveCommand(qsf::game::CommandManager* manager)
+    : EquipmentCommand(manager, COMMAND_ID, 60, 6, Work::SEARCH_IN_WATER) {}
+
+void DiveCommand::declareCamp() { declare<DiveCommand>("em5::DiveCommand"); }
+
+bool DiveCommand::checkContext(const qsf::game::CommandContext& context) {
+  const auto* spot = context.mTargetEntity ? context.mTargetEntity->getComponent<DivingSpotComponent>() : nullptr;
+  return spot && spot->isIntact();
 }
 
 }

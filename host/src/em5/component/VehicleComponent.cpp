@@ -86,6 +86,10 @@ void VehicleComponent::setDamage(float damage) {
   if (isDestroyed() && !wasDestroyed) mSirenEnabled = false;
 }
 
-void VehicleComponent::applyDamage(float damage) { setDamage(mDamage + damage); }
+void VehicleComponent::applyDamage(float damage, FreeplayEvent* event) {
+  constexpr int PART_OF_EVENT = 1;
+  if (event) event->addEntityToEvent(getEntity(), PART_OF_EVENT);
+  setDamage(mDamage + damage);
+}
 
 }

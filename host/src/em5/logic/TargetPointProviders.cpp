@@ -29,4 +29,17 @@ qsf::logic::TargetPoint EnterVehicleTargetPointProvider::computeTargetPoint(qsf:
   return qsf::logic::TargetPoint(getPlaceBeside(mover, target, edge));
 }
 
+static const qsf::DeclaredClass<LadderTargetPointProvider> ladderTargetPointProviderClass;
+
+void LadderTargetPointProvider::declareCamp() {
+  qsf::ClassRegistry::declareOnce<TargetPointProvider>();
+  camp::Class::declare<LadderTargetPointProvider>("em5::LadderTargetPointProvider")
+      .base<TargetPointProvider>()
+      .constructor0();
+}
+
+qsf::logic::TargetPoint LadderTargetPointProvider::computeTargetPoint(qsf::Entity& mover, qsf::Entity& target) const {
+  return qsf::logic::TargetPoint(getPlaceBeside(mover, target, Edge::NEAREST), true);
+}
+
 }

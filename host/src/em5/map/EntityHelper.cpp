@@ -10,15 +10,24 @@
 #include "em5/component/RoadVehicleComponent.h"
 #include "em5/component/VehicleComponent.h"
 #include "em5/game/Game.h"
+#include "em5/logic/GangsterLogic.h"
 #include "em5/order/OrderInfoManager.h"
+#include "qsf/base/RecordedOperation.h"
 #include "qsf/component/LinkComponent.h"
 #include "qsf/game/InventoryComponent.h"
+#include "qsf/log/LogSystem.h"
+#include "qsf/logic/GameLogicComponent.h"
 #include "qsf/map/Map.h"
 #include "qsf/physics/BulletCollisionComponent.h"
+#include "qsf/reflection/ClassRegistry.h"
+#include "qsf/reflection/PropertyText.h"
 
 #include <limits>
 
 namespace em5 {
+
+static const qsf::RecordedOperation turnIntoGangsterCall{"em5::EntityHelper::turnIntoGangster",
+                                                         "class of the gangster's logic, `1` if nobody is told"};
 
 bool EntityHelper::isVehicle() const {
   const qsf::Entity& entity = getEntity();
@@ -134,6 +143,22 @@ qsf::Entity* EntityHelper::getReachableRoadVehicleWithEquipment(const std::strin
 FreeplayEvent* EntityHelper::getFreeplayEvent() const {
   const EventIdComponent* membership = getEntity().getComponent<EventIdComponent>();
   return membership ? membership->getFreeplayEvent() : nullptr;
+}
+
+void EntityHelper::turnIntoGangster(qsf::StringHash gangsterLogicId, bool isSilent) const {
+  turnIntoGangsterCall.record({qsf::toText(gangsterLogicId), isSilent ? "1" : "0"});
+  const camp::Class* wanted = qsf::ClassRegistry::findClass(gangsterLogicId);
+  if (!wanted || !qsf::ClassRegistry::isOrDerivesFrom(*wanted, camp::classByType<GangsterBaseLogic>())) {
+    qsf::logMessage(qsf::LogSystem::WARNING, "\"" + qsf::toText(gangsterLogicId) + "\" is no gangster logic");
+    return;
+  }
+  auto* logics = getEntity().getOrCreateComponent<qsf::GameLogicComponent>();
+  const auto* former = logics->getGameLogic<GangsterBaseLogic>();
+  const bool flagged = former && former->isFlagged();
+  if (former && &former->getCampClass() != wanted)
+    logics->deleteGameLogicByTypeId(qsf::StringHash(former->getCampClass().name()));
+  if (logics->createGameLogicByTypeId(gangsterLogicId))
+    logics->getGameLogic<GangsterBaseLogic>()->setAsGangsterFlagged(flagged);
 }
 
 bool EntityHelper::startFire(FreeplayEvent* event) const {

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <sstream>
 #include <stdexcept>
+#include <utility>
 
 namespace qsf {
 
@@ -16,11 +17,18 @@ bool isOfType(const GameLogic& gameLogic, StringHash typeId) {
   return StringHash(gameLogic.getCampClass().name()) == typeId;
 }
 
+template <class Logics> GameLogic* findOfType(const Logics& logics, StringHash typeId) {
+  const auto found = std::ranges::find_if(logics, [&](const auto& logic) { return isOfType(*logic, typeId); });
+  return found == logics.end() ? nullptr : found->get();
+}
+
 }
 
 static const DeclaredClass<GameLogic> gameLogicClass;
 
 void GameLogic::declareCamp() { camp::Class::declare<GameLogic>("qsf::GameLogic").base<Object>(); }
+
+Entity* GameLogic::findEntity() const { return mComponent ? mComponent->findEntity() : nullptr; }
 
 static const DeclaredClass<GameLogicComponent> declared;
 
@@ -31,23 +39,56 @@ void GameLogicComponent::declareCamp() {
       .property("GameLogics", &GameLogicComponent::getNames, &GameLogicComponent::setNames);
 }
 
+GameLogicComponent::~GameLogicComponent() = default;
+
+bool GameLogicComponent::onStartup() {
+  // By index: a logic that starts may add another one.
+  for (std::size_t i = 0; i < mGameLogics.size(); ++i)
+    start(*mGameLogics[i]);
+  return true;
+}
+
+void GameLogicComponent::onShutdown() {
+  for (const auto& logic : mGameLogics)
+    stop(*logic);
+}
+
+void GameLogicComponent::start(GameLogic& logic) const {
+  logic.mComponent = this;
+  if (!std::exchange(logic.mStarted, true)) logic.onStartup();
+}
+
+void GameLogicComponent::stop(GameLogic& logic) {
+  if (std::exchange(logic.mStarted, false)) logic.onShutdown();
+}
+
 GameLogic* GameLogicComponent::createGameLogicByTypeId(StringHash typeId) {
-  if (GameLogic* present = getGameLogicByTypeId(typeId)) return present;
+  if (GameLogic* present = findOfType(mGameLogics, typeId)) return present;
   std::unique_ptr<GameLogic> made = ClassRegistry::createObject<GameLogic>(typeId);
   if (!made) {
     logMessage(LogSystem::ERROR, "There is no game logic \"" + toText(typeId) + "\"");
     return nullptr;
   }
-  return mGameLogics.emplace_back(std::move(made)).get();
+  GameLogic& logic = *mGameLogics.emplace_back(std::move(made));
+  logic.mComponent = this;
+  if (isRunning()) start(logic);
+  return &logic;
 }
 
 GameLogic* GameLogicComponent::getGameLogicByTypeId(StringHash typeId) const {
-  const auto found = std::ranges::find_if(mGameLogics, [&](const auto& logic) { return isOfType(*logic, typeId); });
+  const camp::Class* wanted = ClassRegistry::findClass(typeId);
+  if (!wanted) return findOfType(mGameLogics, typeId);
+  const auto found = std::ranges::find_if(
+      mGameLogics, [&](const auto& logic) { return ClassRegistry::isOrDerivesFrom(logic->getCampClass(), *wanted); });
   return found == mGameLogics.end() ? nullptr : found->get();
 }
 
 void GameLogicComponent::deleteGameLogicByTypeId(StringHash typeId) {
-  std::erase_if(mGameLogics, [&](const auto& logic) { return isOfType(*logic, typeId); });
+  const auto found = std::ranges::find_if(mGameLogics, [&](const auto& logic) { return isOfType(*logic, typeId); });
+  if (found == mGameLogics.end()) return;
+  const std::unique_ptr<GameLogic> deleted = std::move(*found);
+  mGameLogics.erase(found);
+  stop(*deleted);
 }
 
 std::string GameLogicComponent::getNames() const {
@@ -70,7 +111,13 @@ void GameLogicComponent::setNames(const std::string& names) {
   for (auto& logic : made)
     for (auto& present : mGameLogics)
       if (present && isOfType(*present, StringHash(logic->getCampClass().name()))) logic = std::move(present);
-  mGameLogics = std::move(made);
+  std::swap(mGameLogics, made);
+  for (const auto& left : made)
+    if (left) stop(*left);
+  for (std::size_t i = 0; i < mGameLogics.size(); ++i) {
+    mGameLogics[i]->mComponent = this;
+    if (isRunning()) start(*mGameLogics[i]);
+  }
 }
 
 }

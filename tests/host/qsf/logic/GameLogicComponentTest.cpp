@@ -1,15 +1,57 @@
 #include "qsf/logic/GameLogicComponent.h"
 #include "em5/logic/FiremanLogic.h"
 #include "host/qsf/TestWorld.h"
+#include "qsf/reflection/ClassRegistry.h"
+
+namespace game_logic_test {
+
+/// Notes when it starts and ends.
+class NotedLogic : public qsf::GameLogic {
+  CAMP_RTTI()
+public:
+  static constexpr qsf::StringHash GAME_LOGIC_ID{"test::NotedLogic"};
+  static void declareCamp() {
+    qsf::ClassRegistry::declareOnce<qsf::GameLogic>();
+    camp::Class::declare<NotedLogic>("test::NotedLogic").base<qsf::GameLogic>().constructor0();
+  }
+  static std::string course;
+
+protected:
+  void onStartup() override { course += "start" + std::to_string(findEntity()->getId()) + " "; }
+  void onShutdown() override { course += "end "; }
+};
+std::string NotedLogic::course;
+
+/// Of the same kind.
+class DerivedLogic : public NotedLogic {
+  CAMP_RTTI()
+public:
+  static constexpr qsf::StringHash GAME_LOGIC_ID{"test::DerivedLogic"};
+  static void declareCamp() {
+    qsf::ClassRegistry::declareOnce<NotedLogic>();
+    camp::Class::declare<DerivedLogic>("test::DerivedLogic").base<NotedLogic>().constructor0();
+  }
+};
+
+}
+CAMP_TYPE_NONCOPYABLE(game_logic_test::NotedLogic)
+CAMP_TYPE_NONCOPYABLE(game_logic_test::DerivedLogic)
 
 namespace {
 
 using em5::FiremanLogic;
+using game_logic_test::DerivedLogic;
+using game_logic_test::NotedLogic;
 using qsf::GameLogicComponent;
 
 class GameLogicComponentTest : public host_test::WorldTest {
 protected:
-  GameLogicComponentTest() { mountBase(); }
+  GameLogicComponentTest() {
+    mountBase();
+    qsf::ClassRegistry::declareOnce<NotedLogic>();
+    qsf::ClassRegistry::declareOnce<DerivedLogic>();
+    NotedLogic::course.clear();
+  }
   GameLogicComponent& logics = *makeEntity(100).getOrCreateComponent<GameLogicComponent>();
 };
 
@@ -51,6 +93,39 @@ TEST_F(GameLogicComponentTest, FirefightersHaveTheirLogicOthersDoNot) {
   ASSERT_NE(nullptr, firefighter);
   EXPECT_NE(nullptr, firefighter->getGameLogic<FiremanLogic>());
   EXPECT_EQ(nullptr, make("em5/prefab/test/paramedic")->getComponent<GameLogicComponent>());
+}
+
+TEST_F(GameLogicComponentTest, ALogicStartsAndEndsWithItsComponent) {
+  logics.createGameLogicByTypeId(NotedLogic::GAME_LOGIC_ID);
+  EXPECT_EQ("", NotedLogic::course) << "the map isn't started";
+  map.startup();
+  EXPECT_EQ("start100 ", NotedLogic::course);
+  logics.shutdown();
+  EXPECT_EQ("start100 end ", NotedLogic::course);
+  logics.startup();
+  EXPECT_EQ("start100 end start100 ", NotedLogic::course);
+}
+
+TEST_F(GameLogicComponentTest, ALogicThatComesLaterStartsAtOnceAndEndsWhenItIsDeleted) {
+  map.startup();
+  logics.createGameLogicByTypeId(NotedLogic::GAME_LOGIC_ID);
+  EXPECT_EQ("start100 ", NotedLogic::course);
+  logics.deleteGameLogicByTypeId(NotedLogic::GAME_LOGIC_ID);
+  EXPECT_EQ("start100 end ", NotedLogic::course);
+  logics.setPropertyByString("GameLogics", "test::NotedLogic");
+  logics.setPropertyByString("GameLogics", "test::NotedLogic em5::FiremanLogic");
+  EXPECT_EQ("start100 end start100 ", NotedLogic::course) << "one that stays goes on";
+  logics.setPropertyByString("GameLogics", "em5::FiremanLogic");
+  EXPECT_EQ("start100 end start100 end ", NotedLogic::course);
+}
+
+TEST_F(GameLogicComponentTest, ADerivedLogicIsFoundByItsBase) {
+  qsf::GameLogic* derived = logics.createGameLogicByTypeId(DerivedLogic::GAME_LOGIC_ID);
+  EXPECT_EQ(derived, logics.getGameLogic<NotedLogic>());
+  EXPECT_EQ(nullptr, logics.getGameLogic<FiremanLogic>());
+  EXPECT_NE(derived, logics.createGameLogicByTypeId(NotedLogic::GAME_LOGIC_ID)) << "it is another class";
+  logics.deleteGameLogicByTypeId(NotedLogic::GAME_LOGIC_ID);
+  EXPECT_EQ("test::DerivedLogic", logics.getPropertyAsString("GameLogics"));
 }
 
 }
