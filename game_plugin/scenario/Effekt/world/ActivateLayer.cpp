@@ -1,6 +1,6 @@
-#include "game_plugin/scenario/hints/Hints.h"
 #include "game_plugin/scenario/program/ParameterReader.h"
 #include "game_plugin/scenario/tick/ScenarioHandler.h"
+#include "game_plugin/scenario/world/WorldHints.h"
 
 #include "qsf/Qsf.h"
 #include "qsf/map/LayerManager.h"
@@ -21,19 +21,12 @@ static void read(ActivateLayerEffect& effect, ParameterReader& in) {
   effect.layer = in.of(ParameterRole::LAYER, 2, "unknown_layer", "Layername", "Name of a layer of the map");
 }
 
-static void hintMissingLayer(const std::string& name) {
-  std::vector<std::string> names;
-  for (const qsf::Layer* layer : qsf::Qsf::instance()->getLayerManager().getLayers())
-    names.push_back(layer->getName());
-  hints::tell(HintKind::NAME, "the map has no layer \"" + name + "\"", hints::nearest(name, names));
-}
-
 static void run(const ActivateLayerEffect& effect, ScenarioHandler& handler) {
   const std::string name = handler.ResolveString(effect.layer);
   qsf::LayerManager& layers = qsf::Qsf::instance()->getLayerManager();
   qsf::Layer* layer = layers.getLayerByName(qsf::StringHash(name));
   if (!layer) {
-    if (hints::isOn()) hintMissingLayer(name);
+    if (hints::isOn()) hintUnknownLayer(name);
   } else if (effect.enable) {
     layers.activateLayer(*layer);
   } else {

@@ -151,7 +151,7 @@ TEST_F(MapFileTest, EveryMapAndPrefabOfTheBaseProjectLoads) {
   mountBase();
   for (const std::string& name : host.getProjectManager().getAssetNamesByType("map"))
     EXPECT_NO_THROW(map.load(name)) << name;
-  for (const std::string& name : host.getProjectManager().getAssetNamesByType("prefab")) {
+  for (const std::string& name : host_test::findPrefabsOfTheHost(host.getProjectManager())) {
     EXPECT_NO_THROW(host.getMainPrototypeManager().getPrefabByLocalAssetId(name)) << name;
     qsf::Entity* entity = map.createObjectByLocalPrefabAssetId(name);
     ASSERT_NE(nullptr, entity) << name;

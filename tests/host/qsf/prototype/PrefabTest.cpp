@@ -63,7 +63,7 @@ protected:
 
 TEST_F(PrefabTest, AnEntityHasThePropertiesOfItsPrefab) {
   mountBase();
-  const std::vector<std::string> names = host.getProjectManager().getAssetNamesByType("prefab");
+  const std::vector<std::string> names = host_test::findPrefabsOfTheHost(host.getProjectManager());
   ASSERT_GT(names.size(), 10u);
   for (const std::string& name : names) {
     const qsf::Prefab& prefab = *host.getMainPrototypeManager().getPrefabByLocalAssetId(name);
