@@ -12,7 +12,8 @@ public:
 
   enum class Work {
     EXTINGUISH,     ///< a fire goes out
-    BREAK,          ///< a tree is down, a closed door opens
+    BREAK,          ///< a tree is down, a closed door opens, one of those trapped in a building comes out
+    CUT_OPEN,       ///< a vehicle needs no cutting any more
     REPAIR,         ///< what an engineer can use is used up, a defective box is intact; the message says so
     SEARCH_IN_WATER ///< what lies below a diving spot is found, which the message says; the spot is searched
   };

@@ -47,12 +47,23 @@ public:
   bool checkContext(const qsf::game::CommandContext& context) override;
 };
 
-/// "axe", for a tree that stands and a door that is closed. Priority 80, 3 seconds.
+/// "axe", for a tree that stands, a door that is closed, and a building with persons trapped inside. Priority 80, 3
+/// seconds.
 class QSF_API UseAxeCommand : public EquipmentCommand {
   CAMP_RTTI()
 public:
   static constexpr qsf::StringHash COMMAND_ID{"em5::UseAxeCommand"};
   explicit UseAxeCommand(qsf::game::CommandManager* manager);
+  static void declareCamp();
+  bool checkContext(const qsf::game::CommandContext& context) override;
+};
+
+/// "cutter", for a vehicle that can be cut open. Priority 75, 5 seconds.
+class QSF_API CutVehicleCommand : public EquipmentCommand {
+  CAMP_RTTI()
+public:
+  static constexpr qsf::StringHash COMMAND_ID{"em5::CutVehicleCommand"};
+  explicit CutVehicleCommand(qsf::game::CommandManager* manager);
   static void declareCamp();
   bool checkContext(const qsf::game::CommandContext& context) override;
 };
@@ -82,5 +93,6 @@ CAMP_TYPE_NONCOPYABLE(em5::EquipmentCommand)
 CAMP_TYPE_NONCOPYABLE(em5::ExtinguishWithHoseCommand)
 CAMP_TYPE_NONCOPYABLE(em5::ExtinguishWithExtinguisherCommand)
 CAMP_TYPE_NONCOPYABLE(em5::UseAxeCommand)
+CAMP_TYPE_NONCOPYABLE(em5::CutVehicleCommand)
 CAMP_TYPE_NONCOPYABLE(em5::RepairWithToolboxCommand)
 CAMP_TYPE_NONCOPYABLE(em5::DiveCommand)

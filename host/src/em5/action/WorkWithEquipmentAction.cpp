@@ -1,11 +1,13 @@
 #include "em5/action/WorkWithEquipmentAction.h"
 
 #include "em5/base/Messages.h"
+#include "em5/component/BuildingComponent.h"
 #include "em5/component/DivingSpotComponent.h"
 #include "em5/component/DoorComponent.h"
 #include "em5/component/EboxComponent.h"
 #include "em5/component/TreeComponent.h"
 #include "em5/component/UsableByEngineerComponent.h"
+#include "em5/component/VehicleComponent.h"
 #include "em5/map/EntityHelper.h"
 #include "qsf/Qsf.h"
 #include "qsf/message/MessageSystem.h"
@@ -18,6 +20,7 @@ namespace {
 void breakDown(qsf::Entity& target) {
   if (auto* tree = target.getComponent<TreeComponent>()) tree->setBroken(true);
   if (auto* door = target.getComponent<DoorComponent>()) door->openDoor();
+  if (auto* building = target.getComponent<BuildingComponent>()) building->freeTrappedPerson();
 }
 
 void repair(qsf::Entity& target) {
@@ -49,6 +52,9 @@ void WorkWithEquipmentAction::finishOn(qsf::Entity& target) {
     return EntityHelper(target).stopFire();
   case Work::BREAK:
     return breakDown(target);
+  case Work::CUT_OPEN:
+    if (auto* vehicle = target.getComponent<VehicleComponent>()) vehicle->setCanBeCut(false);
+    return;
   case Work::REPAIR:
     return repair(target);
   case Work::SEARCH_IN_WATER:

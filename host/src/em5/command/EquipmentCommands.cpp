@@ -1,9 +1,11 @@
 #include "em5/command/EquipmentCommands.h"
 
+#include "em5/component/BuildingComponent.h"
 #include "em5/component/DivingSpotComponent.h"
 #include "em5/component/DoorComponent.h"
 #include "em5/component/TreeComponent.h"
 #include "em5/component/UsableByEngineerComponent.h"
+#include "em5/component/VehicleComponent.h"
 #include "em5/map/EntityHelper.h"
 #include "qsf/action/ActionComponent.h"
 #include "qsf/game/EquipmentComponent.h"
@@ -22,6 +24,7 @@ struct Pairing {
 constexpr Pairing PAIRINGS[] = {{"hose", ExtinguishWithHoseCommand::COMMAND_ID},
                                 {"extinguisher", ExtinguishWithExtinguisherCommand::COMMAND_ID},
                                 {"axe", UseAxeCommand::COMMAND_ID},
+                                {"cutter", CutVehicleCommand::COMMAND_ID},
                                 {"toolbox", RepairWithToolboxCommand::COMMAND_ID},
                                 {"diving_gear", DiveCommand::COMMAND_ID}};
 
@@ -32,6 +35,7 @@ bool isTargetBurning(const qsf::game::CommandContext& context) {
 const qsf::DeclaredClass<ExtinguishWithHoseCommand> declaredHose;
 const qsf::DeclaredClass<ExtinguishWithExtinguisherCommand> declaredExtinguisher;
 const qsf::DeclaredClass<UseAxeCommand> declaredAxe;
+const qsf::DeclaredClass<CutVehicleCommand> declaredCutter;
 const qsf::DeclaredClass<RepairWithToolboxCommand> declaredToolbox;
 const qsf::DeclaredClass<DiveCommand> declaredDivingGear;
 
@@ -102,7 +106,19 @@ bool UseAxeCommand::checkContext(const qsf::game::CommandContext& context) {
   if (!context.mTargetEntity) return false;
   const auto* tree = context.mTargetEntity->getComponent<TreeComponent>();
   const auto* door = context.mTargetEntity->getComponent<DoorComponent>();
-  return (tree && !tree->isBroken()) || (door && door->getDoorState() == DoorComponent::DOOR_CLOSED);
+  const auto* building = context.mTargetEntity->getComponent<BuildingComponent>();
+  return (tree && !tree->isBroken()) || (door && door->getDoorState() == DoorComponent::DOOR_CLOSED) ||
+         (building && building->getTrappedPersons() > 0);
+}
+
+CutVehicleCommand::CutVehicleCommand(qsf::game::CommandManager* manager)
+    : EquipmentCommand(manager, COMMAND_ID, 75, 5, Work::CUT_OPEN) {}
+
+void CutVehicleCommand::declareCamp() { declare<CutVehicleCommand>("em5::CutVehicleCommand"); }
+
+bool CutVehicleCommand::checkContext(const qsf::game::CommandContext& context) {
+  const auto* vehicle = context.mTargetEntity ? context.mTargetEntity->getComponent<VehicleComponent>() : nullptr;
+  return vehicle && vehicle->getCanBeCut();
 }
 
 RepairWithToolboxCommand::RepairWithToolboxCommand(qsf::game::CommandManager* manager)
