@@ -74,8 +74,7 @@ void FleeFromFireLogic::update(qsf::Time timePassed) {
     mJob.unregister(); // calm, or not able to run any more
     return;
   }
-  const glm::vec3 place =
-      findSafePlace(person->getMap(), position, EntityHelper(fire->getEntity()).getPosition());
+  const glm::vec3 place = findSafePlace(person->getMap(), position, EntityHelper(fire->getEntity()).getPosition());
   person->getOrCreateComponent<qsf::ActionComponent>()
       ->pushAction<MoveAction>(qsf::ActionComponent::DEFAULT_PRIORITY, qsf::action::REPLACE_WHOLE_PLAN)
       .init(std::make_unique<qsf::ai::ReachSinglePointGoal>(qsf::logic::TargetPoint(place)), MOVEMENT_MODE_RUN_PANIC);

@@ -6,6 +6,7 @@
 #include "em5/logic/TargetPointProviders.h"
 #include "host/em5/action/ActionTest.h"
 #include "qsf/action/WaitAction.h"
+#include "qsf/ai/NavigationComponent.h"
 #include "qsf/ai/ReachObjectGoal.h"
 #include "qsf/ai/ReachSinglePointGoal.h"
 #include "qsf/component/LinkComponent.h"
@@ -54,6 +55,20 @@ TEST_F(MoveActionTest, AUnitDrivesThereAndTakesUpTheRotation) {
   EXPECT_EQ(glm::vec3(30, 0, -40), positionOf(engine));
   runSeconds(1); // nothing turns it away again
   EXPECT_GT(std::abs(glm::dot(rotation, engine.getComponent<qsf::TransformComponent>()->getRotation())), 0.99999f);
+}
+
+TEST_F(MoveActionTest, AUnitWhoseNavigationRestsStaysWhereItIs) {
+  qsf::Entity& unit = make(100, "civilian");
+  auto* navigation = unit.getOrCreateComponent<qsf::ai::NavigationComponent>();
+  navigation->setActive(false);
+  send(unit, TargetPoint({10, 0, 0}));
+  runSeconds(1);
+  EXPECT_TRUE(isIdle(unit));
+  EXPECT_EQ(unit.getComponent<qsf::TransformComponent>()->getPosition(), glm::vec3(0, 0, 0));
+  navigation->setActive(true);
+  send(unit, TargetPoint({10, 0, 0}));
+  EXPECT_GE(framesUntilIdle(unit), 0);
+  EXPECT_NEAR(unit.getComponent<qsf::TransformComponent>()->getPosition().x, 10, 0.1);
 }
 
 TEST_F(MoveActionTest, WithoutARotationAUnitKeepsTheHeadingOfItsWay) {
