@@ -1,5 +1,6 @@
 #include "game_plugin/component/MP_LOG_COMPONENT.h"
 
+#include "game_plugin/multiplayer/MP_LOG_Handler.h"
 #include "game_plugin/plugin/ModuleFolder.h"
 #include "game_plugin/scenario/Log.h"
 
@@ -44,6 +45,16 @@ std::optional<int> localPlayer() {
   const qsf::UniqueInstance<em5::Game> game;
   if (!game) return std::nullopt;
   return static_cast<int>(game->getPlayerManager()->getLocalPlayer()->getPlayerIndex());
+}
+
+/// To the machines of a session.
+void tellOthers(const std::string& text, int player) {
+  const multiplayer::MP_LOG_Handler* handler = multiplayer::MP_LOG_Handler::get();
+  if (!handler) return;
+  if (player != 0)
+    handler->sendLogToHost(text, static_cast<std::uint8_t>(player));
+  else
+    handler->sendLogFromHost(text, 0);
 }
 
 }
@@ -91,10 +102,12 @@ void MP_LOG_COMPONENT::setIncomingMessage(const std::string& text) {
 }
 
 void MP_LOG_COMPONENT::addLogEntry(const std::string& text, int player) {
-  if (player == LOCAL_PLAYER) player = localPlayer().value_or(player);
+  const bool isOwn = player == LOCAL_PLAYER;
+  if (isOwn) player = localPlayer().value_or(player);
   Lines* const lists[] = {&mPlayer1, &mPlayer2, &mPlayer3, &mPlayer4};
   if (player >= 0 && player < static_cast<int>(std::size(lists))) append(*lists[player], PLAYER_FILES[player], text);
   append(mMixed, MIXED_FILE, "Player ->" + std::to_string(player) + ": " + text);
+  if (isOwn) tellOthers(text, player);
 }
 
 const std::vector<std::string>& MP_LOG_COMPONENT::getLines(int player) const {

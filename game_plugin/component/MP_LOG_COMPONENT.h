@@ -20,7 +20,8 @@ public:
   explicit MP_LOG_COMPONENT(qsf::Prototype* prototype);
   static void declareCamp();
 
-  /// Logs a line for a player, from 0; LOCAL_PLAYER is the one at this machine. A player beyond the four has a line in
+  /// Logs a line for a player, from 0; LOCAL_PLAYER is the one at this machine, whose lines go to the other machines of
+  /// a session, too. A player beyond the four has a line in
   /// the mixed list only. A file that can't be opened loses the line without a word.
   void addLogEntry(const std::string& text, int player);
 

@@ -9,6 +9,8 @@
 #include "game_plugin/component/EventTargetComponent.h"
 #include "game_plugin/component/MP_LOG_COMPONENT.h"
 #include "game_plugin/component/MeshAnimationComponent.h"
+#include "game_plugin/component/MultiplayerSynchronizationHelperComponent.h"
+#include "game_plugin/component/MultiplayerSynchronizationMasterComponent.h"
 #include "game_plugin/component/NewDoorComponent.h"
 #include "game_plugin/component/OpenHouseComponent.h"
 #include "game_plugin/component/ScenarioCommandableComponent.h"
@@ -41,6 +43,8 @@ std::vector<const camp::Class*> declareCampClasses() {
       declareOnce<ScenarioEvent>(),
       declareOnce<ScenarioCommandableComponent>(),
       declareOnce<EventTargetComponent>(),
+      declareOnce<MultiplayerSynchronizationHelperComponent>(),
+      declareOnce<MultiplayerSynchronizationMasterComponent>(),
       declareOnce<SmokeComponent>(),
       declareOnce<bt::NewDoorComponent>(),
       declareOnce<OpenHouseComponent>(),

@@ -67,6 +67,8 @@ bool Plugin::onStartup() {
   FiringLedger::clear();
   mDebuggerStarter.emplace();
   MapScriptManager::replace(true);
+  em5::multiplayer::DataCacheItemFactory::addListener(mDataCacheListener);
+  mSessionListener = std::make_unique<multiplayer::SessionListener>();
   for (const char* name : messages::ALL)
     qsf::Qsf::instance()->getMessageSystem().addMessageName(name);
   mReloadMessageProxy.registerAt(qsf::StringHash(messages::RELOAD_IN_EDITOR),
@@ -77,6 +79,8 @@ bool Plugin::onStartup() {
 void Plugin::onShutdown() {
   logInfo("Start Shutdown of Tidemark Plugin");
   delete MapScriptManager::get();
+  em5::multiplayer::DataCacheItemFactory::removeListener(mDataCacheListener);
+  mSessionListener.reset();
   mReloadMessageProxy.unregister();
   mDebuggerStarter.reset();
   logInfo("Tidemark Plugin was shutdown succesfully");

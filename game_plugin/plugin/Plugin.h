@@ -1,10 +1,13 @@
 #pragma once
 #include "game_plugin/gui/DebuggerStarter.h"
+#include "game_plugin/multiplayer/SessionListener.h"
+#include "game_plugin/multiplayer/SynchronizationItems.h"
 #include "game_plugin/plugin/CampClasses.h"
 
 #include "qsf/message/MessageProxy.h"
 #include "qsf/plugin/Plugin.h"
 
+#include <memory>
 #include <optional>
 
 namespace script {
@@ -35,6 +38,8 @@ private:
   DeclareClasses mDeclareClasses;
   qsf::MessageProxy mReloadMessageProxy;
   std::optional<DebuggerStarter> mDebuggerStarter; ///< from startup to shutdown
+  multiplayer::DataCacheItemFactoryListenerMultiplayerSchronizationHelperComponent mDataCacheListener;
+  std::unique_ptr<multiplayer::SessionListener> mSessionListener; ///< from startup to shutdown
 };
 
 }

@@ -123,7 +123,7 @@ ScriptView viewOf(const MapScriptEntry& entry) {
 
 std::string_view nameOf(HintKind kind) {
   static constexpr std::string_view NAMES[] = {"word",   "operator", "conversion", "component", "property",
-                                               "entity", "asset",    "name",       "link"};
+                                               "entity", "asset",    "name",       "link",      "network"};
   return NAMES[static_cast<std::size_t>(kind)];
 }
 

@@ -77,7 +77,7 @@ struct Origin {
 /// What the language passed over without a word, at one place of a script.
 struct HintView {
   Origin origin;
-  std::string kind; ///< "word", "operator", "conversion", "component", "property", "entity", "asset", "name", "link"
+  std::string kind; ///< "word", "operator", "conversion", "component", "property", "entity", "asset", "name", "link", "network"
   std::string text;
   std::string nearest; ///< the nearest right name; empty if none comes close
   std::uint64_t count = 0;

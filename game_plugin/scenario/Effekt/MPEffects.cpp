@@ -3,6 +3,11 @@
 
 namespace script {
 
-EMPTY_EFFECT_GROUP(MPEffects)
+// The entries in the order in which they are asked; each stands in a file of its name.
+#define MANIFEST(ENTRY)                                                                                                \
+  ENTRY(GUISync_ReadCallersAndTargetEffect)                                                                            \
+  ENTRY(ActivateTriggerOnClientSide)
+
+EFFECT_GROUP(MPEffects, MANIFEST)
 
 }

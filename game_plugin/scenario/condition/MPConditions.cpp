@@ -1,7 +1,11 @@
+#include "game_plugin/scenario/program/EntryGroup.h"
 #include "game_plugin/scenario/tick/ScenarioConditions.h"
 
 namespace script {
 
-EMPTY_CONDITION_GROUP(MPConditions)
+// The entries in the order in which they are asked; each stands in a file of its name.
+#define MANIFEST(ENTRY) ENTRY(GUISync_SetCallersAndTargetCondition)
+
+CONDITION_GROUP(MPConditions, MANIFEST)
 
 }

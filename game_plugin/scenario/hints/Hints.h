@@ -17,7 +17,8 @@ enum class HintKind : unsigned char {
   ENTITY,     ///< an id without an entity
   ASSET,      ///< an asset that nobody has
   NAME,       ///< a name that is read and that nobody has ever written
-  LINK        ///< a link that is refused
+  LINK,       ///< a link that is refused
+  NETWORK     ///< what other machines get to see otherwise
 };
 
 /// Something that the language passes over without a word, at one place of a script.

@@ -146,6 +146,14 @@ void ScenarioHandler::Update(const qsf::JobArguments& arguments) {
                    [this] { return describeFaultyLine(*mDocument->program, executionPoint.line); });
 }
 
+void ScenarioHandler::runEffectsOf(const ScenarioTrigger& trigger) {
+  if (!mDocument || mStopped) return;
+  const RunningScope scope(*mDocument);
+  const std::shared_ptr<ScriptDocument> document = mDocument; // an effect may stop the script
+  qsf::callGuarded([&] { mEffects.run(trigger.program->effects, trigger.globalNameHash()); },
+                   [&] { return describeFaultyLine(*document->program, executionPoint.line); });
+}
+
 void ScenarioHandler::walkTriggers() {
   bool isClient = isLocalPlayerClient();
   for (std::size_t i = 0; i < mDocument->triggers.size() && !mStopped; ++i) {
@@ -205,8 +213,7 @@ void ScenarioHandler::fire(ScenarioTrigger& trigger) {
 void ScenarioHandler::fireOnClient(ScenarioTrigger& trigger, const std::vector<std::uint64_t>& callers,
                                    std::uint64_t target) {
   trigger.lastTimeActive = mDocument->time;
-  if (!trigger.looped) trigger.active = false;
-  ++trigger.timesFired;
+  if (!trigger.looped) trigger.active = false; // it counts as fired where its effects run
   if (!sendTriggerToHost(trigger.globalNameHash(), callers, target)) logInfo("Cant send Instructions (GUISYNC)");
 }
 

@@ -67,6 +67,9 @@ public:
   void Start(StartKind kind);
   /// One tick.
   void Update(const qsf::JobArguments& arguments);
+  /// Runs the trigger's effects now, on another machine's behalf: nobody asks for conditions, the trigger's clock and
+  /// switches stay, and it doesn't count as a firing. Faults cost what is left of the effects.
+  void runEffectsOf(const ScenarioTrigger& trigger);
   /// Stopped by retire: no further effect runs.
   bool isStopped() const { return mStopped; }
 

@@ -1,5 +1,7 @@
 #include "game_plugin/scenario/world/LocalPlayer.h"
 
+#include "game_plugin/multiplayer/ScriptHandler.h"
+
 #include "em5/game/Game.h"
 
 namespace script {
@@ -13,10 +15,11 @@ unsigned int getLocalPlayerIndex() {
 
 bool isLocalPlayerClient() { return getLocalPlayerIndex() != 0; }
 
-bool sendTriggerToHost(std::uint32_t /*triggerHash*/, const std::vector<std::uint64_t>& /*callers*/,
-                       std::uint64_t /*target*/) {
-  // The module registers its message handler with a session; there is none in single player.
-  return false;
+bool sendTriggerToHost(std::uint32_t triggerHash, const std::vector<std::uint64_t>& callers, std::uint64_t target) {
+  const multiplayer::ScriptHandler* handler = multiplayer::ScriptHandler::get();
+  if (!handler) return false;
+  handler->sendTriggerToHost(triggerHash, static_cast<std::uint8_t>(getLocalPlayerIndex()), callers, target);
+  return true;
 }
 
 }

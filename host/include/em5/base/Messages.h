@@ -3,6 +3,7 @@
 
 /// The game's messages: MESSAGE(NAME). A line here is all that a message needs to be known to the log and to tools.
 ///
+/// - APPLICATION_STARTUP_FINISHED: the plug-ins stand; no game has run yet.
 /// - GAME_STARTUP_FINISHED: the map of a game runs.
 /// - GAME_SHUTDOWN_STARTING: the game ends; everything is still there.
 /// - EM5_PRE_COMMAND_EXECUTE: filter 1 command id, filter 2 caller, filter 3 target; parameter "context" a
@@ -20,6 +21,7 @@
 /// - EM5_ACTION_REPAIRED_OR_USED: filter 1 what an engineer has repaired or used.
 /// - EM5_ACTION_FIND_ENTITY_FROM_DIVINGSPOT: filter 1 a diving spot, filter 2 what a diver has found there.
 #define EM5_MESSAGES(MESSAGE)                                                                                          \
+  MESSAGE(APPLICATION_STARTUP_FINISHED)                                                                                \
   MESSAGE(GAME_STARTUP_FINISHED)                                                                                       \
   MESSAGE(GAME_SHUTDOWN_STARTING)                                                                                      \
   MESSAGE(EM5_PRE_COMMAND_EXECUTE)                                                                                     \

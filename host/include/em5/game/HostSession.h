@@ -7,6 +7,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace qsf {
 class Map;
@@ -15,6 +16,13 @@ class Qsf;
 }
 
 namespace em5 {
+
+class NetworkManager;
+
+namespace multiplayer {
+class SessionBase;
+class Transport;
+}
 
 /// A whole run of the game or the editor, for programs: makes the host, mounts projects, loads plug-ins, starts games
 /// and runs frames on an exact simulated clock. One lives at a time. The order of a run:
@@ -31,7 +39,8 @@ public:
     std::string language = "en";
     GameModeType gameMode = GameModeType::FREEPLAY_ENDLESS;
     std::string account;
-    unsigned int players = 1; ///< who play on this machine; the local player is the first
+    unsigned int players = 1;     ///< of the game
+    unsigned int localPlayer = 0; ///< the index of the one at this machine
     int logThreshold = 2;     ///< severity from which lines are logged, 0 to 5
   };
 
@@ -55,6 +64,12 @@ public:
   /// install or startup refused. Throws qsf::LoadError if the library or its factory can't be found.
   bool loadPlugin(const std::string& libraryPath);
 
+  /// Takes part in a session with other machines from now on: as host if the local player is 0, else as a client.
+  /// Called between loading the plug-ins and the first game; the session lasts as long as the host does.
+  multiplayer::SessionBase& createSession(std::unique_ptr<multiplayer::Transport> transport,
+                                          const std::vector<std::uint8_t>& others);
+  NetworkManager& getNetworkManager() const;
+
   /// Called on every start of a game, when the map is loaded and before its components start; places what the program
   /// wants there. What it throws leaves startGame.
   void setMapPreparation(std::function<void(qsf::Map&)> preparation);
@@ -69,7 +84,7 @@ public:
   /// True from startGame to endGame, in the editor too.
   bool isGameRunning() const;
 
-  /// One frame: input, network, message-driven work, job managers, then what waited for the frame's end (destroyed
+  /// One frame: input, network, message-driven work, job managers, what goes to other machines, then what waited for the frame's end (destroyed
   /// entities, a wished map change). A wished map that can't be loaded is logged at severity 4; an unknown one leaves
   /// the game as it is, a faulty one ends it.
   void runFrame(qsf::Time tick);

@@ -7,6 +7,7 @@
 #include "em5/game/Game.h"
 #include "em5/gui/EmergencyGui.h"
 #include "em5/gui/HintHelper.h"
+#include "em5/multiplayer/NetworkManager.h"
 #include "em5/order/OrderInfoManager.h"
 #include "em5/plugin/Plugin.h"
 #include "em5/settings/GameDebugGroup.h"
@@ -51,6 +52,7 @@ struct HostSession::Internals {
   qsf::Time time;
   std::uint64_t frameCount = 0;
   bool gameRunning = false;
+  bool applicationStarted = false;
   bool busy = false; ///< inside a frame, a start or an end: a wish has to wait
 
   bool isGame() const { return options.kind == Kind::GAME; }
@@ -59,6 +61,7 @@ struct HostSession::Internals {
   void start(const std::string& map);
   void end();
   void renewGame();
+  void finishApplicationStartup();
   void dropGame();
   void switchMap(const std::string& map);
   void restoreConfiguration();
@@ -115,6 +118,7 @@ void HostSession::Internals::start(const std::string& map) {
   if (!isGame()) return;
   emergencyGui->startGame();
   plugin.getFreeplaySystem().startGame();
+  plugin.getNetworkManager().startGame();
   emit(Messages::GAME_STARTUP_FINISHED);
 }
 
@@ -124,6 +128,7 @@ void HostSession::Internals::end() {
   if (isGame()) {
     emit(Messages::GAME_SHUTDOWN_STARTING);
     plugin.getFreeplaySystem().stopGame();
+    plugin.getNetworkManager().stopGame();
     HintHelper::clear();
   } else {
     editor->getSelectionSystem().clear();
@@ -140,6 +145,14 @@ void HostSession::Internals::renewGame() {
   game = std::make_unique<Game>();
   for (unsigned int index = 1; index < options.players; ++index)
     game->getPlayerManager()->addPlayer(index);
+  game->getPlayerManager()->setLocalPlayer(options.localPlayer);
+}
+
+/// Once, when the plug-ins stand and before the first game.
+void HostSession::Internals::finishApplicationStartup() {
+  if (applicationStarted || !isGame()) return;
+  applicationStarted = true;
+  emit(Messages::APPLICATION_STARTUP_FINISHED);
 }
 
 void HostSession::Internals::dropGame() {
@@ -185,10 +198,12 @@ void HostSession::Internals::frame(qsf::Time tick) {
   BusyScope scope(busy);
   qsf.getInputSystem().deliverEvents();
   HintHelper::update(tick);
+  plugin.getNetworkManager().receive();
   qsf.getJobManagers().runFrame(tick);
   if (game) game->getSelectionManager()->dropDestroyedEntities();
   qsf.getMainMap().collectGarbage();
   qsf.getInputSystem().endFrame();
+  plugin.getNetworkManager().finishFrame(tick);
   time += tick;
   ++frameCount;
 }
@@ -213,6 +228,7 @@ HostSession::HostSession(const Options& options) {
 HostSession::~HostSession() {
   Internals& internals = *mInternals;
   internals.end();
+  internals.plugin.getNetworkManager().endSession(); // its handlers are the plug-ins'
   // Plug-ins hold windows on the GUI and listeners at the host: they go before both. Prefabs hold components of theirs.
   internals.qsf.getMainPrototypeManager().clear();
   internals.qsf.getPluginSystem().unloadPlugins();
@@ -252,8 +268,19 @@ void HostSession::setMapPreparation(std::function<void(qsf::Map&)> preparation) 
   mInternals->mapPreparation = std::move(preparation);
 }
 
+multiplayer::SessionBase& HostSession::createSession(std::unique_ptr<multiplayer::Transport> transport,
+                                                     const std::vector<std::uint8_t>& others) {
+  startup();
+  mInternals->finishApplicationStartup();
+  return mInternals->plugin.getNetworkManager().createSession(
+      static_cast<std::uint8_t>(mInternals->options.localPlayer), std::move(transport), others);
+}
+
+NetworkManager& HostSession::getNetworkManager() const { return mInternals->plugin.getNetworkManager(); }
+
 void HostSession::startGame(const std::string& mapLocalAssetName) {
   startup();
+  mInternals->finishApplicationStartup();
   mInternals->end();
   mInternals->start(mapLocalAssetName);
 }

@@ -4,7 +4,10 @@
 
 namespace em5 {
 
-PlayerManager::PlayerManager() { mPlayers.push_back(std::make_unique<Player>(0)); }
+PlayerManager::PlayerManager() {
+  mPlayers.push_back(std::make_unique<Player>(0));
+  mLocalPlayer = mPlayers.front().get();
+}
 
 std::vector<Player*> PlayerManager::getAllPlayers() const {
   std::vector<Player*> players;
@@ -21,14 +24,20 @@ Player* PlayerManager::getPlayerByIndex(unsigned int playerIndex) const {
 
 Player* PlayerManager::addPlayer(unsigned int playerIndex) {
   if (getPlayerByIndex(playerIndex)) return nullptr;
-  mPlayers.push_back(std::make_unique<Player>(playerIndex));
-  return mPlayers.back().get();
+  const auto behind = std::find_if(mPlayers.begin(), mPlayers.end(),
+                                   [&](const auto& player) { return player->getPlayerIndex() > playerIndex; });
+  return mPlayers.insert(behind, std::make_unique<Player>(playerIndex))->get();
 }
 
 void PlayerManager::removePlayer(unsigned int playerIndex) {
-  mPlayers.erase(std::remove_if(mPlayers.begin() + 1, mPlayers.end(),
-                                [&](const auto& player) { return player->getPlayerIndex() == playerIndex; }),
-                 mPlayers.end());
+  std::erase_if(mPlayers, [&](const auto& player) {
+    return player.get() != mLocalPlayer && player->getPlayerIndex() == playerIndex;
+  });
+}
+
+void PlayerManager::setLocalPlayer(unsigned int playerIndex) {
+  Player* player = getPlayerByIndex(playerIndex);
+  mLocalPlayer = player ? player : addPlayer(playerIndex);
 }
 
 }

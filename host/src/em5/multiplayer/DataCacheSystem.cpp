@@ -1,0 +1,87 @@
+#include "em5/multiplayer/DataCacheSystem.h"
+
+#include "qsf/Qsf.h"
+#include "qsf/log/FaultCounter.h"
+#include "qsf/map/Entity.h"
+#include "qsf/map/Map.h"
+
+namespace em5::multiplayer {
+
+namespace {
+
+constexpr unsigned int TYPE_BITS = 8;
+constexpr unsigned int LENGTH_BITS = 32;
+
+}
+
+void DataCacheSystem::startGame() {
+  mItems.clear();
+  mSinceUpdate = {};
+  for (qsf::Entity* entity : qsf::Qsf::instance()->getMainMap().getEntities())
+    if (auto items = DataCacheItemFactory::createItems(*entity); !items.empty())
+      mItems.emplace(entity->getId(), std::move(items));
+}
+
+void DataCacheSystem::setUpdatesPerSecond(unsigned int updates) {
+  if (updates == 5 || updates == 10 || updates == 20) mUpdatesPerSecond = updates;
+}
+
+bool DataCacheSystem::advance(qsf::Time timePassed) {
+  const qsf::Time interval = qsf::Time::fromMilliseconds(1000 / static_cast<int>(mUpdatesPerSecond));
+  mSinceUpdate += timePassed;
+  if (mSinceUpdate < interval) return false;
+  // A long frame makes one update, since there is nothing in between to tell.
+  mSinceUpdate -= interval;
+  if (mSinceUpdate >= interval) mSinceUpdate = {};
+  ++mTick;
+  return true;
+}
+
+std::vector<DataCacheSystem::Item> DataCacheSystem::writeUpdate(qsf::game::BitStream& stream) {
+  std::vector<Item> written;
+  for (const auto& [entity, items] : mItems) {
+    for (const auto& [type, item] : items) {
+      qsf::game::BitStream part;
+      bool told = false;
+      qsf::callGuarded(
+          [&, &item = item] {
+            if (!item->includeForPrepare() || !item->prepare()) return;
+            item->write(part);
+            told = true;
+          },
+          [&, entity = entity] { return "the data cache item of entity " + std::to_string(entity); });
+      if (!told) continue;
+      stream.write(entity);
+      stream.write(static_cast<std::uint8_t>(type), TYPE_BITS);
+      stream.write(static_cast<std::uint32_t>(part.getNumberOfBits()), LENGTH_BITS);
+      stream.append(part);
+      written.push_back({entity, part.getNumberOfBits()});
+    }
+  }
+  return written;
+}
+
+std::vector<DataCacheSystem::Item> DataCacheSystem::readUpdate(std::uint32_t tick, qsf::game::BitStream stream) {
+  std::vector<Item> done;
+  const qsf::Clock clock({}, tick);
+  std::uint64_t entity = 0;
+  std::uint8_t type = 0;
+  std::uint32_t bits = 0;
+  qsf::game::BitStream part;
+  while (stream.read(entity) && stream.read(type, TYPE_BITS) && stream.read(bits, LENGTH_BITS) &&
+         stream.read(part, bits)) {
+    const auto ofEntity = mItems.find(entity);
+    if (ofEntity == mItems.end()) continue;
+    const auto item = ofEntity->second.find(type);
+    if (item == ofEntity->second.end()) continue;
+    const bool fine = qsf::callGuarded([&] { item->second->read(part, clock); },
+                                       [&] { return "the data cache item of entity " + std::to_string(entity); });
+    if (!fine) continue;
+    qsf::callGuarded([&] { item->second->apply(clock); },
+                     [&] { return "the data cache item of entity " + std::to_string(entity); });
+    done.push_back({entity, bits});
+  }
+  return done;
+}
+
+}
