@@ -3,6 +3,7 @@
 #include "game_plugin/component/EventTargetComponent.h"
 #include "game_plugin/component/MP_LOG_COMPONENT.h"
 #include "game_plugin/event/ScenarioEvent.h"
+#include "game_plugin/multiplayer/Instructions.h"
 #include "game_plugin/scenario/documentation/ReferenceFiles.h"
 #include "game_plugin/scenario/hints/ExecutionPoint.h"
 #include "game_plugin/scenario/hints/Hints.h"
@@ -25,6 +26,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <map>
 
 namespace script::tooling {
 
@@ -218,6 +220,20 @@ public:
       for (const auto& row : manager->getScriptedCommands().rows())
         views.push_back({row->commandName, row->mouseIcon, row->priority, row->armed});
     return views;
+  }
+
+  std::vector<InstructionView> getInstructions() const override {
+    std::map<std::uint32_t, InstructionView> views;
+    for (const auto& [hash, count] : multiplayer::Instructions::sent())
+      views[hash].sent = count;
+    for (const auto& [hash, count] : multiplayer::Instructions::lost())
+      views[hash].lost = count;
+    std::vector<InstructionView> all;
+    for (auto& [hash, view] : views) {
+      view.hash = hash;
+      all.push_back(view);
+    }
+    return all;
   }
 
   void blockExtinguishing(std::uint64_t entityId) override {

@@ -77,7 +77,8 @@ struct Origin {
 /// What the language passed over without a word, at one place of a script.
 struct HintView {
   Origin origin;
-  std::string kind; ///< "word", "operator", "conversion", "component", "property", "entity", "asset", "name", "link", "network"
+  std::string
+      kind; ///< "word", "operator", "conversion", "component", "property", "entity", "asset", "name", "link", "network"
   std::string text;
   std::string nearest; ///< the nearest right name; empty if none comes close
   std::uint64_t count = 0;
@@ -97,6 +98,13 @@ struct CommandBidView {
   std::string icon;
   float priority = 0; ///< 0: it is not offered
   bool armed = false; ///< the conditions of its trigger held when they were tested last
+};
+
+/// Trigger instructions between the machines of a session, for one trigger's hash, since the module's start.
+struct InstructionView {
+  std::uint32_t hash = 0;
+  std::uint64_t sent = 0; ///< by this machine
+  std::uint64_t lost = 0; ///< arrived here, where no running script has the trigger
 };
 
 /// An event that scripts drive.
@@ -131,6 +139,7 @@ public:
   virtual std::vector<DroppedLineView> getDroppedLines() const = 0;
   /// The table of scripted commands, in the order in which they were named first.
   virtual std::vector<CommandBidView> getCommandBids() const = 0;
+  virtual std::vector<InstructionView> getInstructions() const = 0;
   /// Puts an entity on the list of those that may not be extinguished.
   virtual void blockExtinguishing(std::uint64_t entityId) = 0;
 

@@ -95,6 +95,10 @@ ChildProcess ChildProcess::start(const std::vector<std::string>& command, const 
 std::optional<ExitStatus> ChildProcess::poll() {
   int status = 0;
   if (::waitpid(mProcess, &status, WNOHANG) == 0) return std::nullopt;
+  return toExitStatus(status);
+}
+
+ExitStatus toExitStatus(int status) {
   ExitStatus result;
   if (WIFSIGNALED(status)) {
     result.signal = WTERMSIG(status);

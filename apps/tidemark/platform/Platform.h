@@ -32,6 +32,9 @@ struct ExitStatus {
   std::string signalName; ///< "SIGSEGV"
 };
 
+/// From what the system tells of a process that has ended.
+ExitStatus toExitStatus(int status);
+
 /// Programs that run beside this one. They end with this one, however it ends.
 class ChildProcess {
 public:

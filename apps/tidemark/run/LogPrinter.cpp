@@ -28,13 +28,15 @@ struct LogPrinter::Output {
 
   std::string toText(const LogSystem::Record& record) const {
     const auto origin = sources.origin();
-    return fmt::format("[{:9.3f}] {:<7} {}{}{}", sources.time().getSecondsAsDouble(),
+    const std::string machine = sources.machine ? fmt::format("{} ", *sources.machine) : "";
+    return fmt::format("{}[{:9.3f}] {:<7} {}{}{}", machine, sources.time().getSecondsAsDouble(),
                        LogSystem::getSeverityName(record.severity), toUtf8(record.message), origin ? "    " : "",
                        origin ? describe(*origin) : "");
   }
 
   std::string toJson(const LogSystem::Record& record) const {
     nlohmann::ordered_json line;
+    if (sources.machine) line["machine"] = *sources.machine;
     line["time"] = sources.time().getSecondsAsDouble();
     line["severity"] = LogSystem::getSeverityName(record.severity);
     line["message"] = toUtf8(record.message);

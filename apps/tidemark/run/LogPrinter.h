@@ -23,6 +23,8 @@ public:
   struct Sources {
     std::function<qsf::Time()> time;
     std::function<std::optional<script::tooling::Origin>()> origin;
+    /// Of a game of several machines: the one that logs.
+    std::optional<unsigned int> machine = std::nullopt;
   };
 
   /// To standard error.

@@ -60,6 +60,22 @@ void addOptions(CLI::App& command, RunOptions& options) {
       ->capture_default_str()
       ->check(wholeNumber())
       ->type_name("N");
+  CLI::Option* peers = command
+                           .add_option("--peers", options.machines,
+                                       "Play a multiplayer game of so many machines, all on this computer and in "
+                                       "step; the table then tells in what they have come apart")
+                           ->check(CLI::Range(2u, 4u))
+                           ->type_name("N");
+  command.add_option("--delay", options.delay, "Frames that a message between the machines takes, beyond the next one")
+      ->capture_default_str()
+      ->check(CLI::Range(0u, 1000u))
+      ->needs(peers)
+      ->type_name("FRAMES");
+  command.add_option("--loss", options.loss, "Percent of the messages that are lost once and come later")
+      ->capture_default_str()
+      ->check(CLI::Range(0u, 99u))
+      ->needs(peers)
+      ->type_name("PERCENT");
   addChoice(command, "--log-level", LOG_LEVELS, options.logLevel, "Least severity of log lines that are shown");
   addChoice(command, "--log-format", LOG_FORMATS, options.logFormat, "How log lines are written");
   CLI::Option* noHints = command.add_flag_callback(

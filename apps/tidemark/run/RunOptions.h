@@ -18,6 +18,9 @@ struct RunOptions {
   em5::GameModeType gameMode = em5::GameModeType::FREEPLAY_ENDLESS;
   std::string language = "en";
   std::uint64_t seed = 1;
+  unsigned int machines = 1; ///< of a multiplayer game in step, on this computer
+  unsigned int delay = 0;    ///< of their network, in frames
+  unsigned int loss = 0;     ///< of their network, in percent
   int logLevel = 2;
   enum class LogFormat { TEXT, JSON_LINES } logFormat = LogFormat::TEXT;
   bool hints = true;      ///< tell what the language passes over without a word

@@ -107,6 +107,7 @@ Json triggerToJson(const TriggerView& trigger) {
           {"fired", trigger.timesFired},
           {"active", trigger.active},
           {"looped", trigger.looped},
+          {"multiplayerMode", trigger.multiplayerMode},
           {"conditions", trigger.conditions.size()},
           {"fulfilled", trigger.fulfilledConditions},
           {"required", trigger.requiredConditions},
@@ -155,6 +156,10 @@ Json hintToJson(const HintView& hint) {
           {"count", hint.count}};
 }
 
+Json instructionToJson(const script::tooling::InstructionView& instruction) {
+  return {{"hash", instruction.hash}, {"sent", instruction.sent}, {"lost", instruction.lost}};
+}
+
 template <class Views, class ToJson> Json listToJson(const Views& views, ToJson toJson) {
   Json list = Json::array();
   for (const auto& view : views)
@@ -188,6 +193,7 @@ RunReport collectReport(const Tooling& tooling) {
   report.global = collectStores(tooling, std::nullopt);
   report.droppedLines = tooling.getDroppedLines();
   report.hints = tooling.getHints();
+  report.instructions = tooling.getInstructions();
   return report;
 }
 
@@ -226,7 +232,8 @@ std::string toJson(const RunReport& report) {
                {"global", storesToJson(report.global)},
                {"events", eventsToJson(report.events)},
                {"droppedLines", listToJson(report.droppedLines, droppedLineToJson)},
-               {"hints", listToJson(report.hints, hintToJson)}};
+               {"hints", listToJson(report.hints, hintToJson)},
+               {"instructions", listToJson(report.instructions, instructionToJson)}};
   addWorld(report.world, root);
   addEditorSteps(report.editorSteps, root);
   return root.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";

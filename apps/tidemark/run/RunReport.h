@@ -44,6 +44,7 @@ struct RunReport {
   std::optional<std::vector<EditorStep>> editorSteps; ///< nothing in a game
   std::vector<script::tooling::DroppedLineView> droppedLines;
   std::vector<script::tooling::HintView> hints;
+  std::vector<script::tooling::InstructionView> instructions; ///< between the machines of a session
 };
 
 /// Reads scripts, stores, dropped lines and hints; the other fields are the caller's.

@@ -3,9 +3,12 @@
 #include "apps/tidemark/ExitCode.h"
 #include "apps/tidemark/OutputFile.h"
 #include "apps/tidemark/Subcommand.h"
+#include "apps/tidemark/peers/Machines.h"
+#include "apps/tidemark/peers/StepTransport.h"
 #include "apps/tidemark/platform/Platform.h"
 #include "apps/tidemark/platform/WriteLimit.h"
 #include "apps/tidemark/run/LogPrinter.h"
+#include "apps/tidemark/run/MachinesApart.h"
 #include "apps/tidemark/run/RunReport.h"
 #include "apps/tidemark/session/Installation.h"
 #include "apps/tidemark/session/Languages.h"
@@ -21,16 +24,22 @@
 
 #include <fmt/format.h>
 #include <fmt/ranges.h>
+#include <nlohmann/json.hpp>
 
 #include <chrono>
 #include <cmath>
 #include <cstdio>
 #include <filesystem>
+#include <memory>
+#include <sstream>
 #include <thread>
+#include <utility>
 
 namespace tidemark::run {
 
 namespace {
+
+using Json = nlohmann::ordered_json;
 
 em5::HostSession::Options toHostOptions(const RunOptions& options) {
   em5::HostSession::Options host;
@@ -100,16 +109,45 @@ void requireConfigurations(const script::tooling::Tooling& tooling) {
     throw std::runtime_error(fmt::format("{}", fmt::join(unreadable, "\n")));
 }
 
-RunReport play(const RunOptions& options, const std::vector<std::string>& writable) {
+/// Which machine of how many plays in this process.
+struct Machine {
+  unsigned int index = 0;
+  platform::BlockSocket* socket = nullptr; ///< null: the only one
+  std::ostringstream log;                  ///< where a machine of several writes
+
+  std::string takeLines() { return std::exchange(log, std::ostringstream()).str(); }
+};
+
+std::unique_ptr<LogPrinter> makeLogPrinter(const RunOptions& options, em5::HostSession& session,
+                                           const LoadedModule& module, Machine& machine) {
+  const auto format =
+      options.logFormat == RunOptions::LogFormat::TEXT ? LogPrinter::Format::TEXT : LogPrinter::Format::JSON_LINES;
+  LogPrinter::Sources sources{[&session] { return session.getTime(); },
+                              [&module] { return module.tooling().getOrigin(); }};
+  qsf::LogSystem& log = session.getQsf().getLogSystem();
+  if (!machine.socket) return std::make_unique<LogPrinter>(log, format, std::move(sources));
+  sources.machine = machine.index;
+  return std::make_unique<LogPrinter>(log, format, std::move(sources), machine.log);
+}
+
+void joinOthers(const RunOptions& options, em5::HostSession& session, Machine& machine) {
+  std::vector<std::uint8_t> others;
+  for (unsigned int other = 0; other < options.machines; ++other)
+    if (other != machine.index) others.push_back(static_cast<std::uint8_t>(other));
+  session.createSession(
+      std::make_unique<peers::StepTransport>(*machine.socket, [&machine] { return machine.takeLines(); }), others);
+}
+
+RunReport play(const RunOptions& options, const std::vector<std::string>& writable, Machine& machine) {
   const LoadedModule module;
   module.tooling().switchHints(options.hints);
   module.tooling().switchReferenceFiles(options.writeDocs);
-  em5::HostSession session(toHostOptions(options));
+  em5::HostSession::Options host = toHostOptions(options);
+  host.players = options.machines;
+  host.localPlayer = machine.index;
+  em5::HostSession session(host);
   limitHostWrites(writable);
-  const auto format =
-      options.logFormat == RunOptions::LogFormat::TEXT ? LogPrinter::Format::TEXT : LogPrinter::Format::JSON_LINES;
-  const LogPrinter log(session.getQsf().getLogSystem(), format,
-                       {[&session] { return session.getTime(); }, [&module] { return module.tooling().getOrigin(); }});
+  const auto log = makeLogPrinter(options, session, module, machine);
   session.mountBaseProject(baseProjectDirectory());
   for (const std::string& project : options.projects)
     session.mountMod(project);
@@ -122,6 +160,7 @@ RunReport play(const RunOptions& options, const std::vector<std::string>& writab
   if (!session.loadPlugin(modulePath()))
     throw std::runtime_error("the module refuses to start; its log lines above tell why");
   requireConfigurations(module.tooling());
+  if (machine.socket) joinOthers(options, session, machine);
   session.startGame(map);
   playFrames(session, options);
   RunReport report = makeReport(session, module.tooling());
@@ -135,13 +174,79 @@ bool isFaulty(const RunReport& report, const RunOptions& options) {
   return report.faults > 0 || !report.droppedLines.empty() || (options.strict && !report.hints.empty());
 }
 
+// One machine of several, in its own process: what it has come to goes to the process that runs them.
+int playMachine(const RunOptions& options, const std::vector<std::string>& writable, unsigned int index,
+                platform::BlockSocket& socket) {
+  Machine machine;
+  machine.index = index;
+  machine.socket = &socket;
+  Json result;
+  try {
+    RunReport report;
+    platform::callWithWriteLimit(writable, [&] { report = play(options, writable, machine); });
+    result = {{"text", toText(report)}, {"report", toJson(report)}, {"faulty", isFaulty(report, options)}};
+  } catch (const std::exception& fault) {
+    result = {{"fault", fault.what()}};
+  }
+  peers::sendResult(socket, machine.takeLines(), result.dump(-1, ' ', false, Json::error_handler_t::replace));
+  return 0;
+}
+
+std::string nameOf(unsigned int machine) {
+  return machine == 0 ? "machine 0, the host" : fmt::format("machine {}, player {}", machine, machine);
+}
+
+// The machines' last words. Throws for a machine that has none, or that could not play.
+std::vector<Json> readResults(const std::vector<peers::MachineEnd>& ends) {
+  std::vector<Json> results;
+  for (unsigned int i = 0; i < ends.size(); ++i) {
+    if (!ends[i].result)
+      throw std::runtime_error(fmt::format(
+          "{} {}", nameOf(i),
+          ends[i].status.signal != 0 ? fmt::format("crashed with {}", ends[i].status.signalName) : "ended too early"));
+    results.push_back(Json::parse(*ends[i].result));
+    if (results.back().contains("fault")) throw std::runtime_error(results.back().at("fault").get<std::string>());
+  }
+  return results;
+}
+
+int runMachines(const RunOptions& options) {
+  OutputFile file("--report", options.report);
+  const std::vector<std::string> writable = writableFolders(options.projects.front(), options.allowWrite);
+  platform::catchInterrupts();
+  const auto ends = peers::runMachines(
+      {options.machines, options.delay, options.loss, options.seed}, [](unsigned int) { return std::string(); },
+      [&](unsigned int index, platform::BlockSocket& socket) { return playMachine(options, writable, index, socket); },
+      [](unsigned int, const std::string& lines) { fmt::print(stderr, "{}", lines); });
+  const std::vector<Json> results = readResults(ends);
+  std::vector<Json> reports;
+  bool faulty = false;
+  for (const Json& result : results) {
+    reports.push_back(Json::parse(result.at("report").get<std::string>()));
+    faulty = faulty || result.at("faulty").get<bool>();
+  }
+  const std::vector<Apart> apart = findMachinesApart(reports);
+  if (!file.isStandardOutput()) {
+    for (unsigned int i = 0; i < results.size(); ++i)
+      fmt::print("\n{}\n{}", nameOf(i), results[i].at("text").get<std::string>());
+    fmt::print("{}", toText(apart));
+  }
+  if (file.isWanted())
+    file.write(
+        Json{{"machines", reports}, {"apart", toJson(apart)}}.dump(2, ' ', false, Json::error_handler_t::replace) +
+        "\n");
+  return faulty ? EXIT_FAULT : EXIT_FINE;
+}
+
 }
 
 int runProjects(const RunOptions& options) {
+  if (options.machines > 1) return runMachines(options);
   OutputFile file("--report", options.report);
   const std::vector<std::string> writable = writableFolders(options.projects.front(), options.allowWrite);
   RunReport report;
-  platform::callWithWriteLimit(writable, [&] { report = play(options, writable); });
+  Machine machine;
+  platform::callWithWriteLimit(writable, [&] { report = play(options, writable, machine); });
   if (!file.isStandardOutput()) fmt::print("{}", toText(report));
   if (file.isWanted()) file.write(toJson(report));
   return isFaulty(report, options) ? EXIT_FAULT : EXIT_FINE;

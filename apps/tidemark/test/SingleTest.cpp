@@ -1,16 +1,23 @@
 #include "apps/tidemark/test/SingleTest.h"
 
+#include "apps/tidemark/peers/Machines.h"
+#include "apps/tidemark/peers/StepTransport.h"
 #include "apps/tidemark/platform/WriteLimit.h"
 #include "apps/tidemark/session/WritableFolders.h"
 #include "apps/tidemark/test/Discovery.h"
 #include "apps/tidemark/test/TestResult.h"
 #include "apps/tidemark/test/TestSession.h"
 #include "apps/tidemark/test/project/ProjectWriter.h"
+#include "apps/tidemark/text/Encoding.h"
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
+#include <memory>
+#include <sstream>
 
 namespace tidemark::test {
 
@@ -18,20 +25,78 @@ namespace {
 
 namespace fs = std::filesystem;
 
-Outcome runPlan(const TestPlan& plan, const fs::path& folder, const std::vector<std::string>& allowWrite) {
+/// Which machine of how many runs the plan in this process.
+struct Machine {
+  unsigned int index = 0;
+  platform::BlockSocket* socket = nullptr; ///< null: the only one
+};
+
+std::unique_ptr<TestSession> makeSession(const TestPlan& plan, const std::string& projects,
+                                         const std::vector<std::string>& writable, const Machine& machine) {
+  if (!machine.socket) return std::make_unique<TestSession>(plan, projects, writable);
+  return std::make_unique<TestSession>(plan, projects, writable, machine.index, *machine.socket);
+}
+
+Outcome runMachine(const TestPlan& plan, const fs::path& folder, const std::vector<std::string>& allowWrite,
+                   const Machine& machine = {}) {
   const std::string projects = (folder / "projects").string();
   writeProjects(plan, projects);
   const std::string workingDirectory = projectDirectory(plan.projects.front(), projects);
   const std::vector<std::string> writable = writableFolders(workingDirectory, allowWrite);
-  TestSession session(plan, projects, writable);
+  const auto session = makeSession(plan, projects, writable, machine);
   fs::current_path(workingDirectory);
   std::ofstream log(folder / LOG_FILE, std::ios::binary);
-  session.setLogEcho([&log](const qsf::LogSystem::Record& record) {
+  session->setLogEcho([&log](const qsf::LogSystem::Record& record) {
     log << qsf::LogSystem::getSeverityName(record.severity) << ' ' << record.message << '\n' << std::flush;
   });
   Outcome outcome;
-  platform::callWithWriteLimit(writable, [&] { outcome = session.run(); });
+  platform::callWithWriteLimit(writable, [&] { outcome = session->run(); });
   return outcome;
+}
+
+// A machine that didn't come to its end.
+Failure describeCrash(unsigned int machine, const platform::ExitStatus& status, const fs::path& folder) {
+  const std::string how = status.signal != 0 ? fmt::format("crashed with {}", status.signalName)
+                                             : fmt::format("ended with exit code {}", status.code);
+  Failure failure{0, Failure::Kind::ERROR, fmt::format("the process of machine {} {}", machine, how), "", {}};
+  appendTail(failure.log, folder / LOG_FILE, "last lines of its log:");
+  appendTail(failure.log, folder / OUTPUT_FILE, "last lines of its output:");
+  return failure;
+}
+
+void add(Outcome& all, Outcome machine) {
+  std::ranges::move(machine.failures, std::back_inserter(all.failures));
+  for (Note& note : machine.notes) // each machine reads the same scripts
+    if (std::ranges::none_of(all.notes,
+                             [&](const Note& told) { return told.line == note.line && told.text == note.text; }))
+      all.notes.push_back(std::move(note));
+}
+
+Outcome runMachines(const TestPlan& plan, const fs::path& folder, const std::vector<std::string>& allowWrite) {
+  const auto folderOf = [&](unsigned int machine) { return folder / fmt::format("machine{}", machine); };
+  for (unsigned int i = 0; i < plan.machines; ++i)
+    fs::create_directory(folderOf(i));
+  const auto run = [&](unsigned int index, platform::BlockSocket& socket) {
+    const Outcome outcome = runMachine(plan, folderOf(index), allowWrite, {index, &socket});
+    peers::sendResult(socket, "", encodeOutcome(outcome));
+    return 0;
+  };
+  const auto ends = peers::runMachines(
+      {plan.machines, plan.delay, plan.loss, plan.seed},
+      [&](unsigned int machine) { return (folderOf(machine) / OUTPUT_FILE).string(); }, run,
+      [](unsigned int, const std::string&) {});
+  Outcome outcome;
+  for (unsigned int i = 0; i < ends.size(); ++i) {
+    if (ends[i].result)
+      add(outcome, decodeOutcome(*ends[i].result));
+    else
+      outcome.failures.push_back(describeCrash(i, ends[i].status, folderOf(i)));
+  }
+  return outcome;
+}
+
+Outcome runPlan(const TestPlan& plan, const fs::path& folder, const std::vector<std::string>& allowWrite) {
+  return plan.machines > 1 ? runMachines(plan, folder, allowWrite) : runMachine(plan, folder, allowWrite);
 }
 
 Outcome runFile(const std::string& file, const fs::path& folder, const std::vector<std::string>& allowWrite,
@@ -58,6 +123,19 @@ void runSingleTest(const std::string& file, const std::string& folder, const std
   std::ofstream result(target / RESULT_FILE, std::ios::binary);
   result << encodeOutcome(outcome);
   if (!result.flush()) throw std::runtime_error(fmt::format("{}: can't be written", (target / RESULT_FILE).string()));
+}
+
+void appendTail(std::vector<std::string>& lines, const fs::path& file, std::string_view title) {
+  constexpr std::size_t MOST_LINES = 12;
+  std::error_code ignored;
+  if (!fs::exists(file, ignored) || fs::file_size(file, ignored) == 0) return;
+  std::istringstream text(readFile(file.string()));
+  std::vector<std::string> all;
+  for (std::string line; std::getline(text, line);)
+    all.push_back(toUtf8(line));
+  lines.push_back(std::string(title));
+  all.erase(all.begin(), all.end() - static_cast<std::ptrdiff_t>(std::min(all.size(), MOST_LINES)));
+  lines.insert(lines.end(), all.begin(), all.end());
 }
 
 }

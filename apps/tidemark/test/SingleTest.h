@@ -1,7 +1,9 @@
 #pragma once
 #include "apps/tidemark/test/TestPlan.h"
 
+#include <filesystem>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tidemark::test {
@@ -16,5 +18,8 @@ inline constexpr const char* OUTPUT_FILE = "output.txt";
 /// Throws std::exception only if even that can't be written.
 void runSingleTest(const std::string& file, const std::string& folder, const std::vector<std::string>& allowWrite,
                    const BlankedEntry& blanked);
+
+/// Appends the title and the last lines of a file that a process left, if there are any: what a crash is told with.
+void appendTail(std::vector<std::string>& lines, const std::filesystem::path& file, std::string_view title);
 
 }

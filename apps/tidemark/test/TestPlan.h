@@ -29,7 +29,8 @@ using Action = std::function<void(TestSession&)>;
 
 struct Expectation {
   int line = 0;
-  std::string text; ///< as written, behind `expect`
+  unsigned int machine = 0; ///< the one that judges
+  std::string text;         ///< as written, behind `expect`
   std::function<Verdict(TestSession&)> check;
   /// Log lines that it names; `no other log` lets them pass.
   std::vector<LogPattern> logs;
@@ -43,6 +44,7 @@ struct Expectation {
 /// An action or expectation at a time.
 struct Step {
   int line = 0;
+  unsigned int machine = 0; ///< where it happens
   std::string text;
   double time = 0; ///< seconds
   Action action;   ///< empty for an expectation
@@ -105,6 +107,10 @@ struct TestPlan {
   std::string language = "en";
   std::string account;
   unsigned int players = 1;
+  unsigned int machines = 1; ///< more than one: a multiplayer game, a player at each
+  unsigned int delay = 0;    ///< of its network, in frames
+  unsigned int loss = 0;     ///< of its network, in percent
+  int machinesLine = 0;
   std::uint64_t seed = 1;
   double tick = 0.05;    ///< seconds
   double duration = 1.0; ///< seconds

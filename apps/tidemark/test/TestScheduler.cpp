@@ -19,7 +19,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::chrono::milliseconds POLL_INTERVAL{2};
-constexpr std::size_t LINES_OF_A_CRASH = 12;
 
 // A temporary folder that goes with this object.
 class TemporaryFolder {
@@ -36,18 +35,6 @@ public:
 private:
   std::string mPath;
 };
-
-void appendTail(std::vector<std::string>& lines, const fs::path& file, std::string_view title) {
-  std::error_code ignored;
-  if (!fs::exists(file, ignored) || fs::file_size(file, ignored) == 0) return;
-  std::istringstream text(readFile(file.string()));
-  std::vector<std::string> all;
-  for (std::string line; std::getline(text, line);)
-    all.push_back(toUtf8(line));
-  lines.push_back(std::string(title));
-  all.erase(all.begin(), all.end() - static_cast<std::ptrdiff_t>(std::min(all.size(), LINES_OF_A_CRASH)));
-  lines.insert(lines.end(), all.begin(), all.end());
-}
 
 // A test whose process didn't come to its end.
 Failure describeEnd(const std::string& folder, const std::string& text) {

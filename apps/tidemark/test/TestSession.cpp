@@ -4,6 +4,7 @@
 #include "apps/tidemark/session/Maps.h"
 #include "apps/tidemark/session/ModuleAccess.h"
 #include "apps/tidemark/session/WritableFolders.h"
+#include "apps/tidemark/test/Peer.h"
 #include "apps/tidemark/test/project/ProjectWriter.h"
 #include "apps/tidemark/test/steps/ScriptScope.h"
 
@@ -31,7 +32,20 @@ TestSession::TestSession(const TestPlan& plan, std::string projects, std::vector
     : mPlan(plan), mProjects(std::move(projects)), mBaseProject(baseProjectDirectory()),
       mWritable(std::move(writable)) {}
 
+TestSession::TestSession(const TestPlan& plan, std::string projects, std::vector<std::string> writable,
+                         unsigned int machine, platform::BlockSocket& socket)
+    : TestSession(plan, std::move(projects), std::move(writable)) {
+  mPeer = std::make_unique<Peer>(machine, plan.machines, socket);
+}
+
 TestSession::~TestSession() = default;
+
+Peer& TestSession::peer() const {
+  if (!mPeer) throw DirectiveError("the test has one machine only; '@peers 2' makes it a multiplayer game");
+  return *mPeer;
+}
+
+unsigned int TestSession::machine() const { return mPeer ? mPeer->index() : 0; }
 
 script::tooling::Tooling& TestSession::tooling() const { return mModule->tooling(); }
 
@@ -45,8 +59,7 @@ Outcome TestSession::run() {
   mHost.reset();
   mModule.reset();
   // What an aborted test would have logged tells nothing.
-  for (const Expectation& expectation : mPlan.expectations)
-    if (mCompleted && expectation.moment == Expectation::Moment::AFTER_SHUTDOWN) check(expectation);
+  if (mCompleted) checkAll(Expectation::Moment::AFTER_SHUTDOWN);
   return std::move(mOutcome);
 }
 
@@ -60,8 +73,7 @@ void TestSession::runHost() {
     mHost->runFrame(tick);
     runSteps(mFrame);
   }
-  for (const Expectation& expectation : mPlan.expectations)
-    if (expectation.moment == Expectation::Moment::END) check(expectation);
+  checkAll(Expectation::Moment::END);
   mOutcome.notes = collectNotes(*this, mProjects);
   mCompleted = true;
 }
@@ -73,7 +85,8 @@ void TestSession::startHost() {
   options.language = mPlan.language;
   options.gameMode = mPlan.gameMode;
   options.account = mPlan.account;
-  options.players = mPlan.players;
+  options.players = std::max(mPlan.players, mPlan.machines);
+  options.localPlayer = machine();
   options.logThreshold = qsf::LogSystem::TRACE;
   mModule = std::make_unique<LoadedModule>();
   tooling().switchHints(true);
@@ -95,6 +108,7 @@ void TestSession::startHost() {
     });
   mHost->startup();
   if (!mHost->loadPlugin(modulePath())) throw std::runtime_error("the module refuses to start");
+  if (mPeer) mPeer->join(*mHost);
   mHost->setMapPreparation([this](qsf::Map&) { prepareMap(); });
   guard(mPlan.mapLine, "", [this] {
     requireMap(mHost->getQsf().getProjectManager(), mPlan.map);
@@ -134,11 +148,17 @@ void TestSession::runSteps(std::uint64_t frame) {
 }
 
 void TestSession::runStep(const Step& step) {
+  if (step.machine != machine()) return;
   if (step.expectation) {
     check(*step.expectation);
     return;
   }
   guard(step.line, step.text, [&] { step.action(*this); });
+}
+
+void TestSession::checkAll(Expectation::Moment moment) {
+  for (const Expectation& expectation : mPlan.expectations)
+    if (expectation.moment == moment && expectation.machine == machine()) check(expectation);
 }
 
 void TestSession::check(const Expectation& expectation) {

@@ -26,8 +26,13 @@ class Entity;
 namespace tidemark {
 class LoadedModule;
 }
+namespace tidemark::platform {
+class BlockSocket;
+}
 
 namespace tidemark::test {
+
+class Peer;
 
 /// Something that an expectation or action names isn't there at this moment. An expectation then fails with this text.
 class NotThere : public std::runtime_error {
@@ -57,6 +62,9 @@ public:
   /// `projects` holds the installed projects of the plan, by name; scripts may write below the folders `writable` only.
   /// Throws std::runtime_error if the base project isn't found.
   TestSession(const TestPlan& plan, std::string projects, std::vector<std::string> writable);
+  /// One machine of the plan's several; the socket leads to the process that runs them.
+  TestSession(const TestPlan& plan, std::string projects, std::vector<std::string> writable, unsigned int machine,
+              platform::BlockSocket& socket);
   ~TestSession();
   TestSession(const TestSession&) = delete;
   TestSession& operator=(const TestSession&) = delete;
@@ -74,6 +82,8 @@ public:
   std::optional<std::string>& savedEvents() { return mSavedEvents; }
   em5::HostSession& host() const { return *mHost; }
   script::tooling::Tooling& tooling() const;
+  /// This machine among those of the game. Throws DirectiveError if the test has one machine only.
+  Peer& peer() const;
 
   /// The verdict of a check, which fails if something that it names isn't there.
   static Verdict judge(const std::function<Verdict()>& check);
@@ -98,7 +108,11 @@ private:
   void check(const Expectation& expectation);
   void fail(int line, const std::string& fault, const std::string& text);
 
+  unsigned int machine() const;
+  void checkAll(Expectation::Moment moment);
+
   const TestPlan& mPlan;
+  std::unique_ptr<Peer> mPeer; ///< null for a test of one machine; outlives the host
   std::string mProjects;
   std::string mBaseProject;
   std::vector<std::string> mWritable;

@@ -49,6 +49,12 @@ unsigned int takePlayers(WordCursor& words) {
   return static_cast<unsigned int>(players);
 }
 
+// `on I`, the machine of a game of several; machine 0 without it.
+unsigned int takeMachine(WordCursor& words) {
+  if (!words.takeIf("on")) return 0;
+  return static_cast<unsigned int>(std::min<std::uint64_t>(words.takeId("the machine's number behind 'on'"), 99));
+}
+
 // A line with a dollar sign anywhere is a comment to the language.
 bool isCode(std::string_view line) {
   return line.find('$') == std::string_view::npos && line.find_first_not_of(" \t\r\n") != std::string_view::npos;
@@ -270,6 +276,8 @@ bool PlanReader::readGameSetting(const Directive& directive, WordCursor& words) 
     plan.account = words.take("the account's name");
   } else if (directive.name == "players") {
     plan.players = takePlayers(words);
+  } else if (directive.name == "peers") {
+    readPeers(directive, words);
   } else if (directive.name == "seed") {
     plan.seed = words.takeId("the seed");
   } else if (directive.name == "tick") {
@@ -292,7 +300,9 @@ bool PlanReader::readStep(const Directive& directive, WordCursor& words) {
   } else if (directive.name == "set") {
     plan.world.push_back({directive.line, directive.text, readSetDirective(words)});
   } else if (directive.name == "expect") {
+    const unsigned int machine = takeMachine(words);
     Expectation expectation = readExpectation(words);
+    expectation.machine = machine;
     expectation.line = directive.line;
     expectation.text = directive.text;
     plan.expectations.push_back(std::move(expectation));
@@ -304,14 +314,34 @@ bool PlanReader::readStep(const Directive& directive, WordCursor& words) {
   return true;
 }
 
+void PlanReader::readPeers(const Directive& directive, WordCursor& words) {
+  constexpr std::uint64_t MOST_MACHINES = 4;
+  constexpr std::uint64_t MOST_DELAY = 1000;
+  constexpr std::uint64_t MOST_LOSS = 99;
+  TestPlan& plan = mResult.plan;
+  const auto take = [&words](const char* what, std::uint64_t least, std::uint64_t most) {
+    const std::uint64_t value = words.takeId(what);
+    if (value < least || value > most)
+      throw DirectiveError(fmt::format("{} is not between {} and {}", what, least, most));
+    return static_cast<unsigned int>(value);
+  };
+  plan.machines = take("the number of machines", 2, MOST_MACHINES);
+  if (words.takeIf("delay")) plan.delay = take("the delay in frames", 0, MOST_DELAY);
+  if (words.takeIf("loss")) plan.loss = take("the loss in percent", 0, MOST_LOSS);
+  plan.machinesLine = directive.line;
+}
+
 void PlanReader::readTimedStep(const Directive& directive, WordCursor& words) {
   Step step;
   step.line = directive.line;
   step.time = takePositive(words, "the time", 0, LONGEST_TEST);
   step.text = directive.text.substr(std::min(directive.text.find_first_of(" \t"), directive.text.size()));
   step.text.erase(0, std::min(step.text.find_first_not_of(" \t"), step.text.size()));
+  step.machine = takeMachine(words);
   if (words.takeIf("expect")) {
+    if (words.peekKeyword("on")) step.machine = takeMachine(words);
     Expectation expectation = readExpectation(words);
+    expectation.machine = step.machine;
     if (expectation.moment == Expectation::Moment::AFTER_SHUTDOWN)
       throw DirectiveError("'after shutdown' has its own time; write it without @at");
     expectation.line = step.line;
@@ -331,6 +361,7 @@ void PlanReader::finish() {
   std::stable_sort(plan.steps.begin(), plan.steps.end(),
                    [&](const Step& a, const Step& b) { return plan.framesUntil(a.time) < plan.framesUntil(b.time); });
   checkTimes();
+  checkMachines();
   const bool expects =
       !plan.expectations.empty() ||
       std::any_of(plan.steps.begin(), plan.steps.end(), [](const Step& step) { return step.expectation.has_value(); });
@@ -361,6 +392,21 @@ void PlanReader::checkTimes() {
     if (plan.framesUntil(step.time) > plan.numberOfFrames())
       addFault(step.line, fmt::format("@at: {} s is behind the end of the test, which runs {} s; write '@for {}'",
                                       step.time, plan.duration, step.time));
+}
+
+void PlanReader::checkMachines() {
+  const TestPlan& plan = mResult.plan;
+  if (plan.machines > 1 && plan.editor) addFault(plan.machinesLine, "@peers: an editing session has one machine");
+  const auto checkMachine = [&](int line, unsigned int machine) {
+    if (machine >= plan.machines)
+      addFault(line, fmt::format("on: there is no machine {}; {}", machine,
+                                 plan.machines > 1 ? fmt::format("the test has {}, from 0", plan.machines)
+                                                   : "'@peers 2' makes the test a game of two machines"));
+  };
+  for (const Step& step : plan.steps)
+    checkMachine(step.line, step.machine);
+  for (const Expectation& expectation : plan.expectations)
+    checkMachine(expectation.line, expectation.machine);
 }
 
 PlanResult readPlan(const std::string& file, const std::string& text) { return PlanReader(file).read(text); }

@@ -30,10 +30,12 @@ private:
   void mountProject(const Directive& directive, WordCursor& words);
   void playProject(const Directive& directive, WordCursor& words);
   std::string takeFolder(WordCursor& words) const;
+  void readPeers(const Directive& directive, WordCursor& words);
   void readTimedStep(const Directive& directive, WordCursor& words);
   void finish();
   void finishPlay();
   void checkTimes();
+  void checkMachines();
   void addFault(int line, std::string text) { mResult.faults.push_back({line, std::move(text)}); }
   /// Main keeps an empty line for each line of a section, so that a line of it has the number that its author sees.
   std::string& mainText() { return mResult.plan.projects.front().scripts.front().text; }

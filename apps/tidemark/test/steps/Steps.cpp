@@ -21,6 +21,7 @@ namespace tidemark::test {
   THEME(Gamepad)                                                                                                       \
   THEME(Document)                                                                                                      \
   THEME(Event)                                                                                                         \
+  THEME(Network)                                                                                                       \
   THEME(Lifecycle)
 #define EXPECTATION_THEMES(THEME)                                                                                      \
   THEME(Log)                                                                                                           \
@@ -40,6 +41,7 @@ namespace tidemark::test {
   THEME(Overlay)                                                                                                       \
   THEME(Bone)                                                                                                          \
   THEME(Event)                                                                                                         \
+  THEME(Network)                                                                                                       \
   THEME(Property) // the last: it takes whatever else stands behind an entity
 
 #define DECLARE_ACTIONS(NAME) std::optional<Action> read##NAME##Action(WordCursor& words);
