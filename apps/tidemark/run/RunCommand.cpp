@@ -27,6 +27,31 @@ const Names<int> LOG_LEVELS = {{"trace", 0}, {"debug", 1}, {"info", 2}, {"warnin
 const Names<RunOptions::LogFormat> LOG_FORMATS = {{"text", RunOptions::LogFormat::TEXT},
                                                   {"jsonl", RunOptions::LogFormat::JSON_LINES}};
 
+// A game with other computers.
+void addNetworkOptions(CLI::App& command, RunOptions& options, CLI::Option& peers, CLI::Option& editor) {
+  peers.excludes(&editor);
+  CLI::Option* serve =
+      command
+          .add_option_function<std::string>(
+              "--serve", [&options](const std::string& address) { options.serve = address; },
+              "Play at the clock's pace and let other computers join, up to three; without an address at 127.0.0.1, a "
+              "port of the system's choice. 0.0.0.0 is every address of this computer")
+          ->expected(0, 1)
+          ->excludes(&peers)
+          ->excludes(&editor)
+          ->type_name("[ADDRESS:PORT]");
+  command
+      .add_option_function<std::string>(
+          "--join", [&options](const std::string& address) { options.join = address; },
+          "Join a game that another computer serves, with its map and at its pace")
+      ->excludes(&peers)
+      ->excludes(&editor)
+      ->excludes(serve)
+      ->type_name("ADDRESS:PORT");
+  command.add_flag("--allow-difference", options.allowDifference,
+                   "Let machines join whose scripts are not the host's; triggers that both don't have then get lost");
+}
+
 void addOptions(CLI::App& command, RunOptions& options) {
   command.add_option("project", options.projects, "Folders of projects, mounted in this order after the base project")
       ->required()
@@ -48,7 +73,7 @@ void addOptions(CLI::App& command, RunOptions& options) {
   command.add_flag_callback(
       "--realtime", [&options] { options.pace = RunOptions::Pace::REAL_TIME; },
       "Run as fast as the clock, not as fast as possible");
-  command.add_flag_callback(
+  CLI::Option* editor = command.add_flag_callback(
       "--editor", [&options] { options.program = RunOptions::Program::EDITOR; },
       "Run an editing session: only scripts of the mode EDITOR_STARTUP start");
   addChoice(command, "--mode", GAME_MODES, options.gameMode, "Game mode");
@@ -76,6 +101,7 @@ void addOptions(CLI::App& command, RunOptions& options) {
       ->check(CLI::Range(0u, 99u))
       ->needs(peers)
       ->type_name("PERCENT");
+  addNetworkOptions(command, options, *peers, *editor);
   addChoice(command, "--log-level", LOG_LEVELS, options.logLevel, "Least severity of log lines that are shown");
   addChoice(command, "--log-format", LOG_FORMATS, options.logFormat, "How log lines are written");
   CLI::Option* noHints = command.add_flag_callback(

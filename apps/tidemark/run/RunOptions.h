@@ -2,6 +2,7 @@
 #include "em5/game/GameSessionConfiguration.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,9 +19,12 @@ struct RunOptions {
   em5::GameModeType gameMode = em5::GameModeType::FREEPLAY_ENDLESS;
   std::string language = "en";
   std::uint64_t seed = 1;
-  unsigned int machines = 1; ///< of a multiplayer game in step, on this computer
-  unsigned int delay = 0;    ///< of their network, in frames
-  unsigned int loss = 0;     ///< of their network, in percent
+  unsigned int machines = 1;        ///< of a multiplayer game in step, on this computer
+  unsigned int delay = 0;           ///< of their network, in frames
+  unsigned int loss = 0;            ///< of their network, in percent
+  std::optional<std::string> serve; ///< address at which a game over a real network is offered
+  std::optional<std::string> join;  ///< address of one to take part in
+  bool allowDifference = false;     ///< other machines may have other scripts
   int logLevel = 2;
   enum class LogFormat { TEXT, JSON_LINES } logFormat = LogFormat::TEXT;
   bool hints = true;      ///< tell what the language passes over without a word

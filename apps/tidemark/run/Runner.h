@@ -8,4 +8,7 @@ namespace tidemark::run {
 /// can't be loaded and reports that can't be written, UsageError for a language that nobody has texts in.
 int runProjects(const RunOptions& options);
 
+/// The same for a game of several machines on this computer.
+int runMachines(const RunOptions& options);
+
 }

@@ -34,7 +34,10 @@ public:
   /// The other machines that are there, by player index.
   const std::set<std::uint8_t>& getOthers() const { return mOthers; }
 
+  /// Its player comes into the game, if there is one and it isn't there yet.
   void addOther(std::uint8_t player);
+  /// A new game gets the players of all machines.
+  void addPlayersToGame() const;
   /// The machine has gone, with a word or without: a log line, and nothing is sent to it any more. Its player stays in
   /// the game, as its units do.
   void removeOther(std::uint8_t player);

@@ -42,7 +42,9 @@ void NetworkManager::setTrafficListener(multiplayer::TrafficListener listener) {
 
 void NetworkManager::startGame() {
   mGameRunning = true;
-  if (mSession) mSession->getDataCacheSystem().startGame();
+  if (!mSession) return;
+  mSession->addPlayersToGame();
+  mSession->getDataCacheSystem().startGame();
 }
 
 void NetworkManager::stopGame() {

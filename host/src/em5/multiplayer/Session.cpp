@@ -1,5 +1,6 @@
 #include "em5/multiplayer/Session.h"
 
+#include "em5/game/Game.h"
 #include "qsf/log/LogSystem.h"
 
 #include <string>
@@ -16,7 +17,16 @@ void SessionBase::tell(const Traffic& traffic) const {
 }
 
 void SessionBase::addOther(std::uint8_t player) {
-  if (player != mLocalIndex && mOthers.insert(player).second) mHandlerManager.tellPlayerJoined(player);
+  if (player == mLocalIndex || !mOthers.insert(player).second) return;
+  addPlayersToGame();
+  mHandlerManager.tellPlayerJoined(player);
+}
+
+void SessionBase::addPlayersToGame() const {
+  const qsf::UniqueInstance<Game> game;
+  if (!game) return;
+  for (const std::uint8_t other : mOthers)
+    if (Player* player = game->getPlayerManager()->addPlayer(other)) player->getUnitPool().load("default_unitpool");
 }
 
 void SessionBase::removeOther(std::uint8_t player) {
