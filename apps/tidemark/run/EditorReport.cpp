@@ -57,8 +57,10 @@ std::string describeEditorSteps(const std::optional<std::vector<EditorStep>>& st
   if (!steps) return {};
   if (steps->empty()) return "\nno operations in the editor\n";
   std::vector<std::vector<std::string>> rows;
-  for (const EditorStep& step : *steps)
-    rows.push_back({fmt::format("{}", rows.size() + 1), step.text, step.undone ? "undone" : ""});
+  for (const EditorStep& step : *steps) {
+    rows.push_back({fmt::format("{}", rows.size() + 1), step.text});
+    if (step.undone) rows.back().emplace_back("undone");
+  }
   return fmt::format("\n{} operation{} in the editor\n", steps->size(), steps->size() == 1 ? "" : "s") +
          layOut(std::move(rows), "    ", LONGEST_SENTENCE);
 }

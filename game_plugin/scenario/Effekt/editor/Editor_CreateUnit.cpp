@@ -71,10 +71,20 @@ static std::uint32_t findLayerId(qsf::editor::Application& editor, const std::st
   return selected;
 }
 
+static void hintNoPrefab(const std::string& name) {
+  if (qsf::AssetProxy(name).getAsset())
+    hints::tell(HintKind::ASSET, "the asset \"" + name + "\" is no prefab");
+  else
+    hintMissingAsset(name);
+}
+
 /// Null, too, if the prefab's file is faulty, which is logged.
-static const qsf::Prefab* findPrefab(const std::string& localAssetName) {
+static const qsf::Prefab* findPrefab(const std::string& name) {
   try {
-    return qsf::Qsf::instance()->getMainPrototypeManager().getPrefabByLocalAssetId(qsf::StringHash(localAssetName));
+    const qsf::Prefab* prefab =
+        qsf::Qsf::instance()->getMainPrototypeManager().getPrefabByLocalAssetId(qsf::StringHash(name));
+    if (!prefab && hints::isOn()) hintNoPrefab(name);
+    return prefab;
   } catch (const std::exception& fault) {
     logError(fault.what());
     return nullptr;
@@ -122,10 +132,7 @@ static void run(const Editor_CreateUnitEffect& effect, ScenarioHandler& handler)
     const std::string name = handler.ResolveString(effect.localAssetId);
     const std::uint32_t layerId = findLayerId(*editor, handler.ResolveString(effect.layer));
     const qsf::Prefab* prefab = findPrefab(name);
-    if (!prefab) {
-      if (hints::isOn()) hintMissingAsset(name);
-      return; // nor will it be there for the next one
-    }
+    if (!prefab) return; // nor will it be there for the next one
     const std::uint64_t id = createUnit(*editor, *prefab, glm::vec3(0), layerId);
     if (findEntity(id)) handler.AddToEntityList(effect.entityList, id);
   }

@@ -1,6 +1,7 @@
 #include "game_plugin/scenario/program/ParameterReader.h"
-#include "game_plugin/scenario/shared/components/ComponentWalk.h"
+#include "game_plugin/scenario/shared/lists/ListOut.h"
 #include "game_plugin/scenario/tick/ScenarioHandler.h"
+#include "game_plugin/scenario/world/Reflection.h"
 
 #include <stdexcept>
 
@@ -26,13 +27,18 @@ static void read(Editor_SetPropertyOverrideFlagEffect& effect, ParameterReader& 
 }
 
 static void run(const Editor_SetPropertyOverrideFlagEffect& effect, ScenarioHandler& handler) {
-  const std::string className = handler.ResolveString(effect.component);
-  const std::string property = handler.ResolveString(effect.property);
-  forEachComponent(handler, effect.entityList, className, passOver, [&](const qsf::Entity&, qsf::Component& component) {
-    if (property == "All") return component.setAllPropertyOverrideFlags(true);
-    component.setPropertyOverrideState(qsf::StringHash(property), qsf::InheritedObject::OVERRIDDEN);
-    if (hints::isOn() && !component.getCampClass().hasProperty(property))
-      hintFailedAccess(component, property, std::invalid_argument("there is none"));
+  forEachEntity(handler, effect.entityList, [&](const qsf::Entity& entity) {
+    const std::string className = handler.ResolveString(effect.component);
+    qsf::Component* component = findComponent(entity, className);
+    if (!component) {
+      if (hints::isOn()) hintUnknownComponent(className);
+      return;
+    }
+    const std::string property = handler.ResolveString(effect.property);
+    if (property == "All") return component->setAllPropertyOverrideFlags(true);
+    component->setPropertyOverrideState(qsf::StringHash(property), qsf::InheritedObject::OVERRIDDEN);
+    if (hints::isOn() && !component->getCampClass().hasProperty(property))
+      hintFailedAccess(*component, property, std::invalid_argument("there is none"));
   });
 }
 
