@@ -70,6 +70,8 @@ qsf::Component* findComponent(const qsf::Entity& entity, const std::string& comp
 }
 
 std::string readProperty(const qsf::Entity& entity, const PropertyName& name) {
+  // An entity that was never hidden or shown has no component that tells so.
+  if (name.component == "qsf::game::HiddenComponent" && name.property == "Hidden") return entity.isHidden() ? "1" : "0";
   const qsf::Component& component = requireComponent(entity, name.component);
   requireProperty(component, name);
   return component.getPropertyAsString(name.property);
