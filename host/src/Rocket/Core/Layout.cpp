@@ -48,9 +48,17 @@ class Box : public litehtml::html_tag {
 public:
   Box(const std::shared_ptr<litehtml::document>& document, Work& work) : html_tag(document), mWork(work) {}
 
+  /// While its inside is laid out, a width in percent is the pixels that it comes to: litehtml would take the percents
+  /// of parent and child off the same width one after the other.
   int render(int x, int y, int maxWidth, bool secondPass) override {
     mWork.add(1 + m_children.size());
-    return html_tag::render(x, y, maxWidth, secondPass);
+    const litehtml::css_length width = m_css_width;
+    if (!width.is_predefined() && width.units() == litehtml::css_units_percentage)
+      m_css_width.set_value(static_cast<float>(secondPass ? m_pos.width : width.calc_percent(maxWidth)),
+                            litehtml::css_units_px);
+    const int used = html_tag::render(x, y, maxWidth, secondPass);
+    m_css_width = width;
+    return used;
   }
   int render_inline(const litehtml::element::ptr& container, int maxWidth) override {
     mWork.add(1 + m_children.size());

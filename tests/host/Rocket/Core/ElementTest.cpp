@@ -124,7 +124,7 @@ TEST_F(ElementTest, TheColumnIsThatOfTheFault) {
   Rocket::Core::RmlFault fault;
   EXPECT_FALSE(Rocket::Core::IsReadable("&nbsp;<p>\n12<q x></q></p>", &fault));
   EXPECT_EQ(fault.line, 2);
-  EXPECT_EQ(fault.column, 7);
+  EXPECT_EQ(fault.column, 8);
   EXPECT_FALSE(fault.reason.empty());
   EXPECT_TRUE(Rocket::Core::IsReadable("fine<br/>"));
 }
