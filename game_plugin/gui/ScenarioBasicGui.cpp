@@ -75,6 +75,7 @@ void ScenarioBasicGui::ShowText(const std::string& elementId, const std::string&
   }
   setStyle(*element, style);
   setStyle(*element, SHOWN);
+  if (mJobProxy.isRegistered()) return; // anew it would lose a frame, for all texts
   mJobProxy.registerAt(em5::Jobs::SIMULATION_LOGIC, [this](const qsf::JobArguments& arguments) { update(arguments); });
 }
 
