@@ -8,8 +8,8 @@ namespace em5 {
 
 /// A person. Properties "EquipmentId" (the entity held as active equipment), "ContainerId" (the vehicle or building
 /// that the person is in), "Gangster", "Drunk", "Masked" (wears its breathing
-/// mask and suit), "Animation" (local asset name of what it shows over and over, empty for nothing; it is played on the
-/// person's qsf::MeshAnimationComponent if it has one).
+/// mask and suit), "Animation" (local asset name of what it shows, empty for nothing; what is set is played over and
+/// over on the person's qsf::MeshAnimationComponent if it has one).
 class QSF_API PersonComponent : public qsf::Component {
   CAMP_RTTI()
 public:
@@ -32,7 +32,9 @@ public:
   enum PersonFlag { PERSON_FLAG_DRUNK = 0 };
   /// Sets or clears a flag by its number; one that isn't in PersonFlag does nothing.
   void setPersonFlags(int flag, bool set);
-  const std::string& getAnimation() const { return mAnimation; }
+  /// What the person's qsf::MeshAnimationComponent plays, whoever began it; without one what was set.
+  std::string getAnimation() const;
+  /// Over and over.
   void setAnimation(const std::string& localAssetName);
   void clearAnimation() { setAnimation(""); }
 

@@ -27,6 +27,14 @@ void PersonComponent::setPersonFlags(int flag, bool set) {
   if (flag == PERSON_FLAG_DRUNK) setDrunken(set);
 }
 
+std::string PersonComponent::getAnimation() const {
+  const qsf::Entity* entity = findEntity();
+  const auto* meshAnimation = entity ? entity->getComponent<qsf::MeshAnimationComponent>() : nullptr;
+  if (!meshAnimation) return mAnimation;
+  const auto& channel = meshAnimation->getChannel();
+  return channel ? channel->getAnimation().getLocalAssetName() : std::string();
+}
+
 void PersonComponent::setAnimation(const std::string& localAssetName) {
   mAnimation = localAssetName;
   const qsf::Entity* entity = findEntity();
