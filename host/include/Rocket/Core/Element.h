@@ -50,6 +50,7 @@ public:
   /// In the order of the RML, later ones behind.
   const Dictionary& GetAttributes() const { return mAttributes; }
 
+  /// Names with blanks between are several classes.
   void SetClass(const String& name, bool activate);
   bool IsClassSet(const String& name) const;
   /// Separated by blanks.

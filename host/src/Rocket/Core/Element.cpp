@@ -87,13 +87,14 @@ void Element::RemoveAttribute(const String& name) {
 }
 
 void Element::SetClass(const String& name, bool activate) {
-  if (name.empty() || IsClassSet(name) == activate) return;
   std::vector<std::string> classes = splitClasses(GetClassNames());
-  if (activate)
-    classes.push_back(name);
-  else
-    std::erase(classes, name);
-  SetAttribute("class", String(boost::algorithm::join(classes, " ")));
+  const std::size_t before = classes.size();
+  for (const std::string& part : splitClasses(name))
+    if (!activate)
+      std::erase(classes, part);
+    else if (std::find(classes.begin(), classes.end(), part) == classes.end())
+      classes.push_back(part);
+  if (classes.size() != before) SetAttribute("class", String(boost::algorithm::join(classes, " ")));
 }
 
 bool Element::IsClassSet(const String& name) const {

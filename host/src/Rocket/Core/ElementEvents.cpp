@@ -45,6 +45,7 @@ void Element::AddEventListener(const String& event, EventListener* listener, boo
   AttachedListener attached{event, listener, inCapturePhase};
   if (!listener || IsAttached(attached)) return;
   mListeners.push_back(std::move(attached));
+  std::erase_if(listener->mElements, [](const auto& element) { return element.expired(); });
   listener->mElements.push_back(weak_from_this());
   listener->OnAttach(this);
 }

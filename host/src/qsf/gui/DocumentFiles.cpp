@@ -8,7 +8,6 @@
 
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 
 namespace qsf {
 
@@ -23,8 +22,10 @@ bool readFile(const std::filesystem::path& file, std::string& text) {
   if (error || size > MAXIMUM_FILE_SIZE) return false;
   std::ifstream stream(file, std::ios::binary);
   if (!stream) return false;
-  text.assign(std::istreambuf_iterator<char>(stream), {});
-  return true;
+  text.resize(static_cast<std::size_t>(size));
+  stream.read(text.data(), static_cast<std::streamsize>(size));
+  text.resize(static_cast<std::size_t>(stream.gcount()));
+  return !stream.bad(); // some files of the system look ordinary and can't be read
 }
 
 const BaseAsset* findAsset(const std::string& name) {

@@ -63,6 +63,16 @@ TEST_F(ElementTest, ClassesAreSetAndTakenAway) {
   EXPECT_TRUE(element("p").IsClassSet("c"));
 }
 
+TEST_F(ElementTest, ANameWithBlanksIsSeveralClasses) {
+  read("<p id=\"p\" class=\"b\"/>");
+  for (int i = 0; i < 3; ++i)
+    element("p").SetClass(" a b ", true);
+  EXPECT_EQ(element("p").GetClassNames(), "b a");
+  element("p").SetClass("a c", false);
+  element("p").SetClass(" ", true);
+  EXPECT_EQ(element("p").GetClassNames(), "b");
+}
+
 TEST_F(ElementTest, EntitiesAreDecodedAndWrittenAgain) {
   read("<p id=\"p\" title=\"&quot;&lt;\">a &lt; b &amp; c&#33;&nbsp;&amp;lt;</p>");
   EXPECT_EQ(element("p").GetText(), "a < b & c!\xC2\xA0&lt;");

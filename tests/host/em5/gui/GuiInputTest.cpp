@@ -15,7 +15,8 @@ public:
   }
   void processEvent(const std::string& name, Rocket::Core::Event& event) override {
     heard += name + ":" + event.GetType() + ":" + event.GetParameter("key_identifier", Rocket::Core::String()) + " ";
-    if (onEvent) onEvent();
+    const std::function<void()> present = onEvent; // it may end this window
+    if (present) present();
   }
   void click(const char* id) { findElementById(id)->Click(); }
 

@@ -56,6 +56,13 @@ protected:
   std::unique_ptr<Window> window;
 };
 
+TEST_F(GuiDocumentTest, WhatLooksLikeAFileAndCannotBeReadIsNotLoaded) {
+  for (const char* path : {"/dev/zero", "/", ".", "", "/proc/self/fd/0/x"})
+    EXPECT_FALSE(window->loadByFilename(path)) << path;
+  EXPECT_EQ(window->getElementDocument(), nullptr);
+  EXPECT_NO_THROW(window->loadByFilename("/proc/self/mem")) << "an ordinary file, it says, of no length";
+}
+
 TEST_F(GuiDocumentTest, AFileIsLoadedByItsPath) {
   const std::string path = file("<p id=\"p\">hello</p>");
   EXPECT_EQ(window->getElementDocument(), nullptr);
