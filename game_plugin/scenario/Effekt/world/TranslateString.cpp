@@ -7,6 +7,10 @@
 namespace script {
 
 struct TranslateStringEffect : DefaultEffect {
+  static constexpr std::string_view ODDITIES[] = {
+      "Left out, the id is that of the string variable \"my_value)\", with a bracket.",
+  };
+
   Argument text;
   Argument context;
   Argument output;
