@@ -46,7 +46,7 @@ public:
   static bool isAllowed() { return !sIsChanging && (sDepth == 0 || sNumber < MOST); }
 
 private:
-  static constexpr int MOST = 100;
+  static constexpr int MOST = 30; // messages within messages end at 64
   inline static int sDepth = 0;
   inline static int sNumber = 0;
   inline static bool sIsChanging = false;
