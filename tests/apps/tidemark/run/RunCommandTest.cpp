@@ -203,6 +203,25 @@ TEST_F(RunCommand, WhatThePlayerSawIsToldAndReported) {
   EXPECT_EQ(report["audio"]["playing"], 0);
 }
 
+TEST_F(RunCommand, TheEditorsStepsAreToldAndReported) {
+  writeProject("InitNewTrigger(\"Plant\");\nInitEffects();\nEditor_CreateUnit(\"em5/prefab/test/tree\", \"trees\", "
+               "\"2\");\n");
+  write("x64/tidemark/MapScript.json",
+        R"({"MapScripts": {"main": {"Path": "main.script", "Mode": "EDITOR_STARTUP", "Maps": ["All"]}}})");
+  const Outcome outcome = run({"run", folder(), "--editor", "--seconds", "0.5", "--report", folder() + "/report.json"});
+  EXPECT_EQ(outcome.code, 0) << outcome.output;
+  EXPECT_NE(
+      outcome.output.find("\n2 operations in the editor\n    1  Create entity 2 \"tree\" on layer \"Base\"\n    2  "
+                          "Create entity 3 \"tree\" on layer \"Base\"\n"),
+      std::string::npos)
+      << outcome.output;
+  const auto report = nlohmann::json::parse(readAll(folder() + "/report.json"));
+  ASSERT_EQ(report["operations"].size(), 2u);
+  EXPECT_EQ(report["operations"][1]["text"], "Create entity 3 \"tree\" on layer \"Base\"");
+  EXPECT_EQ(report["operations"][1]["creates"][0]["entity"], 3);
+  EXPECT_EQ(report["operations"][1]["undone"], false);
+}
+
 TEST_F(RunCommand, HintsCanBeFaultsOrNotAskedFor) {
   writeProject(MISTYPED);
   EXPECT_EQ(run({"run", folder(), "--seconds", "0.1", "--strict"}).code, 1);
