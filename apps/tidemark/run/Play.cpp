@@ -23,6 +23,7 @@
 #include <cmath>
 #include <filesystem>
 #include <memory>
+#include <set>
 #include <thread>
 #include <utility>
 
@@ -69,14 +70,42 @@ private:
   std::chrono::steady_clock::time_point mStart = std::chrono::steady_clock::now();
 };
 
-void playFrames(em5::HostSession& session, const RunOptions& options) {
+// Takes the screens of the moments that are asked for, and of the end.
+class ScreenTaker {
+public:
+  explicit ScreenTaker(const RunOptions& options) : mWanted(!options.screens.empty()) {
+    for (const double seconds : options.screensAt)
+      mFrames.insert(static_cast<std::uint64_t>(std::llround(seconds / options.tick)));
+  }
+  void look(const em5::HostSession& session) {
+    if (mWanted && mFrames.contains(session.getFrameCount())) take(session);
+  }
+  std::vector<screens::Moment> finish(const em5::HostSession& session) {
+    if (mWanted && (mMoments.empty() || mMoments.back().seconds != session.getTime().getSecondsAsDouble()))
+      take(session);
+    return std::move(mMoments);
+  }
+
+private:
+  void take(const em5::HostSession& session) {
+    mMoments.push_back(screens::takeScreens(session.getTime().getSecondsAsDouble()));
+  }
+
+  bool mWanted;
+  std::set<std::uint64_t> mFrames;
+  std::vector<screens::Moment> mMoments;
+};
+
+void playFrames(em5::HostSession& session, const RunOptions& options, ScreenTaker& screens) {
   platform::catchInterrupts();
   const qsf::Time tick = qsf::Time::fromSeconds(options.tick);
   const auto frames = static_cast<std::uint64_t>(std::llround(options.seconds / options.tick));
   // Others are there in real time only.
   const Pacer pacer(options.serve || options.join ? RunOptions::Pace::REAL_TIME : options.pace);
+  screens.look(session);
   for (std::uint64_t i = 0; i < frames && !platform::isInterrupted(); ++i) {
     session.runFrame(tick);
+    screens.look(session);
     pacer.waitFor(session.getTime());
   }
 }
@@ -137,8 +166,10 @@ RunReport play(const RunOptions& options, const std::vector<std::string>& writab
   if (!seat.logFolder.empty()) module.tooling().setPlayerLogFolder(seat.logFolder);
   if (seat.transport) session.createSession(std::move(seat.transport), seat.others);
   session.startGame(map);
-  playFrames(session, options);
+  ScreenTaker screens(options);
+  playFrames(session, options, screens);
   RunReport report = makeReport(session, module.tooling());
+  report.screens = screens.finish(session);
   session.endGame();
   report.faults = session.getQsf().getFaultCounter().getCount();
   report.lastFault = session.getQsf().getFaultCounter().getLastFault();

@@ -27,6 +27,25 @@ const Names<int> LOG_LEVELS = {{"trace", 0}, {"debug", 1}, {"info", 2}, {"warnin
 const Names<RunOptions::LogFormat> LOG_FORMATS = {{"text", RunOptions::LogFormat::TEXT},
                                                   {"jsonl", RunOptions::LogFormat::JSON_LINES}};
 
+// Pages of the documents that are visible.
+void addScreenOptions(CLI::App& command, RunOptions& options, CLI::Option& peers) {
+  CLI::Option* screens =
+      command
+          .add_option("--screens", options.screens,
+                      "Write the documents that are visible at the end to this folder, as pages for a browser; "
+                      "index.html shows them together")
+          ->check(notEmpty("a folder"))
+          ->excludes(&peers)
+          ->type_name("DIR");
+  command
+      .add_option("--screens-at", options.screensAt,
+                  "Write those of this moment, too, in simulated seconds; can be repeated")
+      ->check(numberFrom(0.0, LONGEST_RUN))
+      ->allow_extra_args(false)
+      ->needs(screens)
+      ->type_name("S");
+}
+
 // A game with other computers.
 void addNetworkOptions(CLI::App& command, RunOptions& options, CLI::Option& peers, CLI::Option& editor) {
   peers.excludes(&editor);
@@ -102,6 +121,7 @@ void addOptions(CLI::App& command, RunOptions& options) {
       ->needs(peers)
       ->type_name("PERCENT");
   addNetworkOptions(command, options, *peers, *editor);
+  addScreenOptions(command, options, *peers);
   addChoice(command, "--log-level", LOG_LEVELS, options.logLevel, "Least severity of log lines that are shown");
   addChoice(command, "--log-format", LOG_FORMATS, options.logFormat, "How log lines are written");
   CLI::Option* noHints = command.add_flag_callback(

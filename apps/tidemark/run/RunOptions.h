@@ -32,6 +32,8 @@ struct RunOptions {
   bool writeDocs = false; ///< the module leaves its reference files in the working directory, as in the game
   std::vector<std::string> allowWrite; ///< folders in which scripts may write beside the working directory; absolute
   std::string report;                  ///< file, or - for standard output; empty: none
+  std::string screens;                 ///< folder for pages of the visible documents; empty: none
+  std::vector<double> screensAt;       ///< seconds at which such are made, beside the end
 };
 
 }

@@ -2,6 +2,7 @@
 #include "apps/tidemark/run/EditorReport.h"
 #include "apps/tidemark/run/EventReport.h"
 #include "apps/tidemark/run/WorldReport.h"
+#include "apps/tidemark/screens/Screens.h"
 
 #include "game_plugin/tooling/Tooling.h"
 
@@ -45,6 +46,7 @@ struct RunReport {
   std::vector<script::tooling::DroppedLineView> droppedLines;
   std::vector<script::tooling::HintView> hints;
   std::vector<script::tooling::InstructionView> instructions; ///< between the machines of a session
+  std::vector<screens::Moment> screens;                       ///< in no table
 };
 
 /// Reads scripts, stores, dropped lines and hints; the other fields are the caller's.

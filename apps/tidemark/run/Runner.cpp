@@ -14,6 +14,7 @@ namespace tidemark::run {
 int runProjects(const RunOptions& options) {
   if (options.machines > 1) return runMachines(options);
   OutputFile file("--report", options.report);
+  const std::string screenFolder = options.screens.empty() ? "" : screens::makeScreenFolder(options.screens);
   const std::vector<std::string> writable = writableFolders(options.projects.front(), options.allowWrite);
   RunReport report;
   // The road to other machines is made here: who may not write may still talk.
@@ -21,6 +22,7 @@ int runProjects(const RunOptions& options) {
   platform::callWithWriteLimit(writable, [&] { report = play(options, writable, seat); });
   if (!file.isStandardOutput()) fmt::print("{}", toText(report));
   if (file.isWanted()) file.write(toJson(report));
+  if (!screenFolder.empty()) screens::writeScreens(screenFolder, report.screens);
   return isFaulty(report, options) ? EXIT_FAULT : EXIT_FINE;
 }
 

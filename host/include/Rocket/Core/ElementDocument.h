@@ -25,7 +25,7 @@ public:
   /// The name by which it was loaded.
   const String& GetSourceURL() const { return mSourceUrl; }
   const String& GetTitle() const { return mTitle; }
-  /// Text of its style sheets, in their order.
+  /// The rules of its style sheets in their order, one a line, without comments and what is no rule.
   const String& GetStyleSheet() const { return mStyleSheet; }
 
   /// Whether it is on the screen. False at first.

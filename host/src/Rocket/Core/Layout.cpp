@@ -295,7 +295,7 @@ void Layout::Boxes::addContent(const Element& element, litehtml::element& box) {
 Layout::Boxes::Boxes(const ElementDocument& document) {
   mContext.load_master_stylesheet(BASE_STYLES);
   litehtml::css sheet;
-  sheet.parse_stylesheet(tidyStyleSheet(document.GetStyleSheet()).c_str(), nullptr, nullptr, nullptr);
+  sheet.parse_stylesheet(document.GetStyleSheet().c_str(), nullptr, nullptr, nullptr);
   sheet.sort_selectors();
 
   mPage = litehtml::document::createFromUTF8("<html><body></body></html>", &mScreen, &mContext);

@@ -2,6 +2,7 @@
 
 #include "Limits.h"
 #include "Rocket/Core/SystemInterface.h"
+#include "StyleSheet.h"
 
 #include <boost/algorithm/string/case_conv.hpp>
 #include <boost/algorithm/string/replace.hpp>
@@ -118,6 +119,7 @@ void RmlBuilder::fill(ElementDocument& document, const pugi::xml_document& xml, 
     return;
   }
   readHead(document, root.child("head"));
+  document.mStyleSheet = tidyStyleSheet(document.mStyleSheet);
   const pugi::xml_node body = root.child("body");
   readAttributes(body, document);
   document.Adopt(makeContent(body));
