@@ -117,6 +117,7 @@ RunReport makeReport(const em5::HostSession& session, const script::tooling::Too
   report.frames = session.getFrameCount();
   report.events = collectEvents();
   report.world = collectWorld(session.getQsf());
+  report.game = collectGame(session.getQsf());
   report.editorSteps = collectEditorSteps();
   return report;
 }

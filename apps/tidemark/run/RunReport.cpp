@@ -213,6 +213,7 @@ std::string toText(const RunReport& report) {
   if (!report.global.isEmpty()) text += "\nglobal entries\n" + describeStores(report.global, "    ");
   text += describeEvents(report.events);
   text += describeWorld(report.world);
+  text += describeGame(report.game);
   text += describeEditorSteps(report.editorSteps);
   if (!report.hints.empty()) text += describeHints(report.hints);
   if (!report.droppedLines.empty()) text += describeDroppedLines(report.droppedLines);
@@ -235,6 +236,7 @@ std::string toJson(const RunReport& report) {
                {"hints", listToJson(report.hints, hintToJson)},
                {"instructions", listToJson(report.instructions, instructionToJson)}};
   addWorld(report.world, root);
+  addGame(report.game, root);
   addEditorSteps(report.editorSteps, root);
   return root.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
 }

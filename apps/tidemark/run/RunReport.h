@@ -1,6 +1,7 @@
 #pragma once
 #include "apps/tidemark/run/EditorReport.h"
 #include "apps/tidemark/run/EventReport.h"
+#include "apps/tidemark/run/GameReport.h"
 #include "apps/tidemark/run/WorldReport.h"
 #include "apps/tidemark/screens/Screens.h"
 
@@ -42,6 +43,7 @@ struct RunReport {
   StoreReport global;
   std::vector<em5::EventRecord> events; ///< those that have ended first
   WorldReport world;
+  GameReport game;
   std::optional<std::vector<EditorStep>> editorSteps; ///< nothing in a game
   std::vector<script::tooling::DroppedLineView> droppedLines;
   std::vector<script::tooling::HintView> hints;
