@@ -40,8 +40,6 @@ public:
   std::uint64_t getObservedEntityId() const { return mObservedEntityId; }
   HeatRenderer& getHeatRenderer() { return mHeatRenderer; }
 
-  /// `onClose` hides it.
-  void processEvent(const std::string& name, Rocket::Core::Event& event) override;
   /// For the host: a game starts.
   void removeCamera();
 

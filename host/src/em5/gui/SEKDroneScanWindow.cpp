@@ -19,13 +19,6 @@ void SEKDroneScanWindow::setCameraDrone(const qsf::Entity& entity) {
   setCameraDroneCall.record({std::to_string(mObservedEntityId)});
 }
 
-void SEKDroneScanWindow::processEvent(const std::string& name, Rocket::Core::Event& event) {
-  if (name == "onClose")
-    hide();
-  else
-    GuiDocument::processEvent(name, event);
-}
-
 void SEKDroneScanWindow::removeCamera() {
   mObservedEntityId = qsf::UNINITIALIZED_ID;
   mHeatRenderer.mTexture.reset();
