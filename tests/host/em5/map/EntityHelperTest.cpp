@@ -67,8 +67,8 @@ TEST_F(EntityHelperTest, ThePrefabsAreWhatTheirNamesSay) {
     const char* prefab;
     const char* kinds; ///< squad vehicle, squad person, civilian, gangster, in a valid state, burnable
   };
-  for (const Row& row : {Row{"fire_engine", "V---+-"}, Row{"ambulance", "V---+-"}, Row{"police_car", "V---+-"},
-                         Row{"tow_truck", "V---+-"}, Row{"helicopter", "V---+-"}, Row{"civil_car", "------"},
+  for (const Row& row : {Row{"fire_engine", "V---+f"}, Row{"ambulance", "V---+f"}, Row{"police_car", "V---+f"},
+                         Row{"tow_truck", "V---+f"}, Row{"helicopter", "V---+f"}, Row{"civil_car", "-----f"},
                          Row{"firefighter", "-P--+-"}, Row{"paramedic", "-P--+-"}, Row{"police_officer", "-P--+-"},
                          Row{"engineer", "-P--+-"}, Row{"civilian", "--C---"}, Row{"gangster", "---G--"},
                          Row{"tree", "-----f"}, Row{"house", "-----f"}, Row{"barrel", "-----f"}, Row{"door", "------"},
