@@ -137,7 +137,8 @@ public:
     }
   }
   bool is_break() const override { return m_tag == "br"; }
-  bool is_body() const override { return m_tag == "body"; }
+  /// RML may call any element so; the page's body is the one right below its root.
+  bool is_body() const override { return m_tag == "body" && have_parent() && !parent()->have_parent(); }
 
 private:
   Work& mWork;

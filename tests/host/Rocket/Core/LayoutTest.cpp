@@ -79,6 +79,16 @@ TEST_F(LayoutTest, StyleSheetsAreLinkedFromBesideTheDocument) {
   EXPECT_FALSE(element("b").IsDisplayed());
 }
 
+TEST_F(LayoutTest, NamesInSelectorsMayHaveCapitals) {
+  readStyled("#LetterBox { width: 11px; } .MixedCase { width: 12px; } p[Onclick=Go] { width: 13px; }",
+             "<p id=\"LetterBox\"/><p id=\"m\" class=\"MixedCase\"/><p id=\"a\" Onclick=\"Go\"/><body id=\"b\"><p "
+             "id=\"in\"/></body>");
+  EXPECT_EQ(element("LetterBox").GetClientWidth(), 11);
+  EXPECT_EQ(element("m").GetClientWidth(), 12);
+  EXPECT_EQ(element("a").GetClientWidth(), 13);
+  EXPECT_EQ(element("in").GetClientWidth(), 1280); // a body inside the body is an element like others
+}
+
 TEST_F(LayoutTest, StatesOfElementsAreStyled) {
   readStyled("p { width: 1px; } p:hover { width: 2px; }", "<p id=\"p\"/>");
   EXPECT_EQ(element("p").GetClientWidth(), 1);

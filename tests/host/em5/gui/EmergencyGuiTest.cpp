@@ -1,5 +1,6 @@
 #include "em5/gui/EmergencyGui.h"
 
+#include "Rocket/Core/Element.h"
 #include "em5/gui/HintHelper.h"
 #include "host/em5/SessionFixture.h"
 #include "qsf/base/CallRecorder.h"
@@ -46,6 +47,53 @@ TEST_F(EmergencyGuiTest, TheDebuggingWindowIsHiddenAtFirst) {
   window->hide();
   EXPECT_FALSE(window->isVisible());
   EXPECT_EQ(gui.getGuiContext().findDocument("DebugGuiWindow"), window);
+}
+
+TEST_F(EmergencyGuiTest, AGameStartsWithTheHudAndWithoutTheMainMenu) {
+  open().startup();
+  em5::EmergencyGui& gui = *qsf::UniqueInstance<em5::EmergencyGui>();
+  em5::IngameHud& hud = *gui.getIngameHud();
+  em5::MainMenuManager& menu = *gui.getMainMenuManager();
+  hud.getMiniMapWindow()->hide();
+  hud.getIngameMainMenuWindow()->show();
+  hud.hideGui();
+  menu.getBaseLayer()->show();
+  gui.getLoadingScreen()->show();
+  session->startGame(EMPTY_MAP);
+  EXPECT_TRUE(hud.getMiniMapWindow()->isVisible());
+  EXPECT_TRUE(hud.getSupervisorWindow()->isVisible());
+  EXPECT_FALSE(hud.isHidden());
+  EXPECT_FALSE(hud.getIngameMainMenuWindow()->isVisible());
+  EXPECT_FALSE(hud.getSEKDroneScanWindow()->isVisible());
+  EXPECT_FALSE(menu.getBaseLayer()->isVisible());
+  EXPECT_FALSE(gui.getLoadingScreen()->isVisible());
+}
+
+TEST_F(EmergencyGuiTest, TheHudIsHiddenAndShownAsItWas) {
+  play();
+  em5::IngameHud& hud = *qsf::UniqueInstance<em5::EmergencyGui>()->getIngameHud();
+  hud.getMenuBar()->hide();
+  hud.hideGui();
+  hud.hideGui();
+  EXPECT_FALSE(hud.getMiniMapWindow()->isVisible());
+  hud.showGui();
+  EXPECT_TRUE(hud.getMiniMapWindow()->isVisible());
+  EXPECT_FALSE(hud.getMenuBar()->isVisible());
+  EXPECT_FALSE(hud.getIngameMainMenuWindow()->isVisible());
+}
+
+TEST_F(EmergencyGuiTest, TheMainMenuKeepsWhatItHolds) {
+  play();
+  em5::MainMenuManager& menu = *qsf::UniqueInstance<em5::EmergencyGui>()->getMainMenuManager();
+  menu.loadGui();
+  menu.getMainMenuWindow()->show();
+  menu.getMainMenuWindow()->findElementById("campaign")->SetInnerRML("mine");
+  menu.getFreeplayWindow()->unload();
+  menu.hideGui();
+  EXPECT_FALSE(menu.getMainMenuWindow()->isVisible());
+  menu.loadGui();
+  EXPECT_EQ(menu.getMainMenuWindow()->findElementById("campaign")->GetText(), "mine");
+  EXPECT_NE(menu.getFreeplayWindow()->findElementById("endless"), nullptr); // read anew
 }
 
 TEST_F(EmergencyGuiTest, TheCursorIsWhereTheMouseDevicePoints) {
