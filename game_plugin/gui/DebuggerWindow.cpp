@@ -73,7 +73,7 @@ void DebuggerWindow::startUp() {
   theWindow->refreshScriptList();
 }
 
-void DebuggerWindow::destroy() { delete theWindow; }
+void DebuggerWindow::destroy() { delete std::exchange(theWindow, nullptr); } // its end fires events
 
 void DebuggerWindow::listenToMainMenu() {
   for (const char* id : MENU_BUTTONS)
