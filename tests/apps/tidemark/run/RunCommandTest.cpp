@@ -53,7 +53,7 @@ TEST_F(RunCommand, UnknownMapsAreToldWithNearOnes) {
       << near.output;
   const Outcome far = run({"run", folder(), "--map", "mountains"});
   EXPECT_EQ(far.code, 3);
-  EXPECT_NE(far.output.find("; there are em5/map/test/empty, em5/map/test/other, "), std::string::npos) << far.output;
+  EXPECT_NE(far.output.find("; there are em5/map/test/empty, em5/map/test/layers, "), std::string::npos) << far.output;
   EXPECT_NE(far.output.find(", p/map/sea/coast\n"), std::string::npos) << far.output;
 }
 

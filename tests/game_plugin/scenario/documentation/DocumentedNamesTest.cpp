@@ -5,11 +5,9 @@
 #include "game_plugin/scenario/documentation/Dictionary.h"
 #include "game_plugin/scenario/tick/ScenarioConditions.h"
 #include "game_plugin/scenario/tick/ScenarioEffects.h"
-#include "tests/support/Paths.h"
 
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <set>
 #include <string>
 
@@ -33,15 +31,6 @@ std::set<std::string> namesOfManifests() {
   return names;
 }
 
-/// Names of the list whose entries aren't there yet. They are struck from that file as they come.
-std::set<std::string> namesToCome() {
-  std::ifstream file(paths::sourceDirectory() + "/tests/game_plugin/golden/entries_to_come.txt");
-  std::set<std::string> names;
-  for (std::string line; std::getline(file, line);)
-    if (!line.empty() && line.front() != '#') names.insert(line);
-  return names;
-}
-
 TEST(DocumentedNames, BeginAndEndAsAuthorsKnowThem) {
   const auto names = documentedNames();
   ASSERT_GT(names.size(), 8u);
@@ -60,19 +49,16 @@ TEST(DocumentedNames, EachEntryOfAManifestIsListedOnce) {
   EXPECT_EQ(listed.size(), std::set<std::string>(listed.begin(), listed.end()).size());
 }
 
-TEST(DocumentedNames, EachIsInAManifestOrIsToCome) {
+TEST(DocumentedNames, EachIsInAManifest) {
   const std::set<std::string> known = namesOfManifests();
-  const std::set<std::string> toCome = namesToCome();
   for (const std::string_view name : documentedNames())
-    EXPECT_TRUE(known.contains(std::string(name)) || toCome.contains(std::string(name)))
-        << name << " stands in no manifest";
+    EXPECT_TRUE(known.contains(std::string(name))) << name << " stands in no manifest";
 }
 
 TEST(DocumentedNames, TheDictionaryHoldsThemInTheirOrder) {
-  const std::set<std::string> known = namesOfManifests();
   Names expected;
   for (const std::string_view name : documentedNames())
-    if (known.contains(std::string(name))) expected.emplace_back(name);
+    expected.emplace_back(name);
   Names found;
   for (const DictionaryEntry& entry : makeDictionary())
     found.push_back(entry.name);
