@@ -11,6 +11,8 @@
 #include <boost/algorithm/string/split.hpp>
 
 #include <algorithm>
+#include <iterator>
+#include <set>
 
 namespace Rocket::Core {
 
@@ -89,11 +91,15 @@ void Element::RemoveAttribute(const String& name) {
 void Element::SetClass(const String& name, bool activate) {
   std::vector<std::string> classes = splitClasses(GetClassNames());
   const std::size_t before = classes.size();
-  for (const std::string& part : splitClasses(name))
-    if (!activate)
-      std::erase(classes, part);
-    else if (std::find(classes.begin(), classes.end(), part) == classes.end())
-      classes.push_back(part);
+  const std::vector<std::string> parts = splitClasses(name);
+  if (activate) {
+    std::set<std::string> present(classes.begin(), classes.end());
+    std::copy_if(parts.begin(), parts.end(), std::back_inserter(classes),
+                 [&](const std::string& part) { return present.insert(part).second; });
+  } else {
+    const std::set<std::string> unwanted(parts.begin(), parts.end());
+    std::erase_if(classes, [&](const std::string& present) { return unwanted.contains(present); });
+  }
   if (classes.size() != before) SetAttribute("class", String(boost::algorithm::join(classes, " ")));
 }
 
