@@ -21,7 +21,7 @@ using Rocket::Core::ElementDocument;
 // What the documents' own layout takes for granted. The weakest of all rules: any of the document goes above it.
 constexpr std::string_view BASE_STYLES = R"(html { background: #48584f; }
 html:has(#over:target) { background: transparent; }
-html, body { margin: 0; width: 1280px; height: 720px; overflow: hidden; position: relative; font: 16px sans-serif; }
+html, body { margin: 0; width: 1280px; height: 720px; overflow: hidden; position: relative; font: 16px sans-serif; color: #ffffff; }
 :where(rml-p, rml-h1, rml-h2, rml-h3, rml-h4, rml-h5, rml-h6, rml-ul, rml-ol, rml-li, rml-form, rml-header, rml-footer, rml-section) { display: block; }
 :where(img, rml-button, rml-input, rml-select, rml-textarea, rml-video, rml-progress) { display: inline-block; }
 :where(rml-title, rml-style, rml-script, rml-link, rml-head) { display: none; }
@@ -93,7 +93,10 @@ public:
       text += " " + std::string(isSafe ? "" : "data-") + name + "=\"" + escapeHtml(value) + "\"";
     }
     const std::string source = element.GetAttribute("src");
-    if (element.GetTagName() == "img" && !source.empty()) text += " src=\"" + pictureAddress(source, mUrl) + "\"";
+    if (element.GetTagName() == "img" && !source.empty()) {
+      const Picture picture = pictureOf(source, mUrl);
+      text += " src=\"" + picture.address + "\"" + (picture.isFrame ? " width=\"64\" height=\"64\"" : "");
+    }
     const std::string style = styleOf(element);
     return style.empty() ? text : text + " style=\"" + escapeHtml(style) + "\"";
   }

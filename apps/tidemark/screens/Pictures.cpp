@@ -56,19 +56,18 @@ std::optional<std::string> readPicture(const std::string& source, const std::str
 
 std::string frameAddress(const std::string& source) {
   const std::string picture =
-      "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"64\" height=\"64\">"
-      "<rect x=\"1\" y=\"1\" width=\"100%\" height=\"100%\" fill=\"#20262d\" stroke=\"#93a1ae\" "
-      "stroke-width=\"2\" stroke-dasharray=\"5 4\"/>"
-      "<text x=\"4\" y=\"16\" font-size=\"10\" font-family=\"sans-serif\" fill=\"#e8e6df\">" +
+      "<svg xmlns=\"http://www.w3.org/2000/svg\"><rect width=\"100%\" height=\"100%\" fill=\"#20262d\" "
+      "stroke=\"#93a1ae\" stroke-width=\"4\" stroke-dasharray=\"5 4\"/><text x=\"5\" y=\"15\" font-size=\"10\" "
+      "font-family=\"sans-serif\" fill=\"#e8e6df\">" +
       escapeHtml(std::filesystem::path(source).filename().generic_string()) + "</text></svg>";
   return "data:image/svg+xml;base64," + toBase64(picture);
 }
 
 }
 
-std::string pictureAddress(const std::string& source, const std::string& documentUrl) {
-  if (const auto picture = readPicture(source, documentUrl)) return *picture;
-  return frameAddress(source);
+Picture pictureOf(const std::string& source, const std::string& documentUrl) {
+  if (auto picture = readPicture(source, documentUrl)) return {std::move(*picture), false};
+  return {frameAddress(source), true};
 }
 
 std::string inlinePictures(std::string_view styles, const std::string& documentUrl) {

@@ -22,9 +22,10 @@ ShowChoiceDialogue("What now?", "Which way?", "Left", "a", "Right", "b");
 )";
 const char* const DESK = R"(<rml><head><title>Desk</title><style>
 .panel { position: absolute; left: 100px; top: 200px; width: 300px; height: 80px; background-color: #203040; }
-p.late { color: #ff0000; } img { width: 40px; height: 30px; } .off { display: none; }
+p.late { color: #ff0000; } #there, #missing { width: 40px; height: 30px; } .off { display: none; }
 </style></head><body><div class="panel"><p id="p" class="late" onclick="x">a &lt;b&gt; c</p><p id="gone" class="off">no</p>
 <img id="there" src="dot.png"/><img id="missing" src="none.dds"/><p id="outer"><div id="inner">in</div></p>
+<img id="sizeless" src="a.dds" style="position: absolute; left: 400px; top: 300px;"/>
 <script>document.title = 'run'</script><table><tr>cell</tr></table></div></body></rml>
 )";
 // A picture of one red pixel.
@@ -131,7 +132,12 @@ TEST_F(ScreensInABrowser, AnAuthorsDocumentLooksAsItsStyleSays) {
   EXPECT_EQ(browser.evaluate("document.querySelectorAll('script, table').length"), 0);
   EXPECT_EQ(browser.evaluate("document.querySelector('#there').naturalWidth"), 1);
   EXPECT_EQ(place("#missing")[2], 40);
-  EXPECT_EQ(browser.evaluate("document.querySelector('#missing').naturalWidth"), 64); // a frame in its place
+  // A frame with its name is in its place.
+  EXPECT_NE(browser.evaluate("atob(document.querySelector('#missing').src.split(',')[1])")
+                .get<std::string>()
+                .find(">none.dds</text>"),
+            std::string::npos);
+  EXPECT_EQ(place("#sizeless"), nlohmann::json({500, 500, 64, 64}));
   keepPicture("desk");
 }
 
