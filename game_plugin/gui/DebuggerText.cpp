@@ -70,13 +70,16 @@ class BoundedRml {
 public:
   explicit BoundedRml(std::string_view begin) : mText(begin) {}
   bool isFull() const { return mFull; }
-  /// A whole piece, with its number of elements.
-  void add(std::string_view piece, std::size_t elements) {
-    if (mFull) return;
+  /// A piece with its number of elements. False if it isn't taken.
+  bool add(std::string_view piece, std::size_t elements) {
+    if (mFull) return false;
     mElements += elements;
     mFull = mElements > MOST_ELEMENTS || mText.size() + piece.size() > MOST_BYTES;
     mText += mFull ? "..." : piece;
+    return !mFull;
   }
+  /// Ends of elements that were taken; they always have room.
+  void close(std::string_view tags) { mText += tags; }
   std::string take() { return std::move(mText); }
 
 private:
@@ -109,8 +112,8 @@ std::string_view classOfCondition(std::size_t index, std::uint32_t held, std::in
 
 constexpr const char* INDENTED = "<span style=\"padding-left: 15px;\"";
 
-std::string openTriggerRml(const ScenarioTrigger& trigger, const EntryTexts& texts) {
-  BoundedRml rml("<div style=\"padding-left: 15px;\"><span>Conditions:<br/>");
+void addOpenTrigger(BoundedRml& rml, const ScenarioTrigger& trigger, const EntryTexts& texts) {
+  if (!rml.add("<div style=\"padding-left: 15px;\"><span>Conditions:<br/>", 3)) return;
   std::size_t index = 0;
   for (const DefaultCondition* condition : trigger.program->conditions) {
     const std::string_view state =
@@ -122,7 +125,7 @@ std::string openTriggerRml(const ScenarioTrigger& trigger, const EntryTexts& tex
   rml.add("Effects:<br/>", 1);
   for (const DefaultEffect* effect : trigger.program->effects)
     rml.add(std::string(INDENTED) + ">" + escapeRml(texts.at(effect->line, effect->name())) + "</span><br/>", 2);
-  return rml.take() + "</span></div>";
+  rml.close("</span></div>");
 }
 
 std::string triggerRml(const ScenarioTrigger& trigger) {
@@ -146,9 +149,7 @@ std::string triggersRml(const ScriptDocument& document, const EntryTexts& texts,
   BoundedRml rml("");
   for (const ScenarioTrigger& trigger : document.triggers) {
     rml.add(triggerRml(trigger), 2);
-    if (trigger.name() == openTrigger)
-      rml.add(openTriggerRml(trigger, texts),
-              2 * (trigger.program->conditions.size() + trigger.program->effects.size()));
+    if (trigger.name() == openTrigger) addOpenTrigger(rml, trigger, texts);
     if (rml.isFull()) break;
   }
   return rml.take();

@@ -51,7 +51,8 @@ TEST(DebuggerText, TheFirstConditionThatDoesNotCountHasFailed) {
 
 TEST(DebuggerText, NothingHasFailedWhereEnoughConditionsHeld) {
   const LogCapture log;
-  Script script("InitNewTrigger(\"t\",true,true);\nInitConditions(1);\nAlways();\nCompareValues(\"1\",\"==\",\"2\");");
+  Script script("InitNewTrigger(\"t\",true,true);\nInitConditions(1);\nCompareValues(\"1\",\"==\",\"1\");\n"
+                "CompareValues(\"1\",\"==\",\"2\");");
   script.tick();
   const std::string rml = triggersRml(*script.document, namesOnly(script), "t");
   EXPECT_EQ(count(rml, "\"fail\""), 0u);
