@@ -26,6 +26,7 @@ for ((i = 0; i < processes; ++i)); do
   start fuzz_parser 1024 script.dict tests/scripts examples
   start fuzz_tokenizer 256 script.dict tests/scripts
   start fuzz_rml 1024 rml.dict data/em5/gui
+  start fuzz_network 512 network.dict
 done
 failed=0
 for job in $(jobs -p); do

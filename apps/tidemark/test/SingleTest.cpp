@@ -64,12 +64,23 @@ Failure describeCrash(unsigned int machine, const platform::ExitStatus& status, 
   return failure;
 }
 
-void add(Outcome& all, Outcome machine) {
-  std::ranges::move(machine.failures, std::back_inserter(all.failures));
-  for (Note& note : machine.notes) // each machine reads the same scripts
-    if (std::ranges::none_of(all.notes,
-                             [&](const Note& told) { return told.line == note.line && told.text == note.text; }))
-      all.notes.push_back(std::move(note));
+bool isTold(const std::vector<Note>& notes, const Note& note) {
+  return std::ranges::any_of(notes, [&](const Note& told) { return told.line == note.line && told.text == note.text; });
+}
+
+// A name that nobody has written is mistyped only if no machine has: each has stores of its own.
+bool isUnwrittenName(const Note& note) { return note.text.find("nobody has written it") != std::string::npos; }
+
+/// Each machine reads the same scripts, so what several tell is told once.
+std::vector<Note> mergeNotes(const std::vector<Outcome>& machines) {
+  std::vector<Note> notes;
+  for (const Outcome& machine : machines)
+    for (const Note& note : machine.notes) {
+      const bool everywhere =
+          std::ranges::all_of(machines, [&](const Outcome& other) { return isTold(other.notes, note); });
+      if (!isTold(notes, note) && (everywhere || !isUnwrittenName(note))) notes.push_back(note);
+    }
+  return notes;
 }
 
 Outcome runMachines(const TestPlan& plan, const fs::path& folder, const std::vector<std::string>& allowWrite) {
@@ -85,14 +96,18 @@ Outcome runMachines(const TestPlan& plan, const fs::path& folder, const std::vec
       {plan.machines, plan.delay, plan.loss, plan.seed},
       [&](unsigned int machine) { return (folderOf(machine) / OUTPUT_FILE).string(); }, run,
       [](unsigned int, const std::string&) {});
-  Outcome outcome;
+  std::vector<Outcome> outcomes;
+  Outcome all;
   for (unsigned int i = 0; i < ends.size(); ++i) {
-    if (ends[i].result)
-      add(outcome, decodeOutcome(*ends[i].result));
-    else
-      outcome.failures.push_back(describeCrash(i, ends[i].status, folderOf(i)));
+    if (!ends[i].result) {
+      all.failures.push_back(describeCrash(i, ends[i].status, folderOf(i)));
+      continue;
+    }
+    outcomes.push_back(decodeOutcome(*ends[i].result));
+    std::ranges::move(outcomes.back().failures, std::back_inserter(all.failures));
   }
-  return outcome;
+  all.notes = mergeNotes(outcomes);
+  return all;
 }
 
 Outcome runPlan(const TestPlan& plan, const fs::path& folder, const std::vector<std::string>& allowWrite) {

@@ -33,6 +33,7 @@ static void run(const GUISync_ReadCallersAndTargetEffectEffect& effect, Scenario
   handler.ClearEntityList(effect.callers);
   for (const std::uint64_t caller : trigger->callers())
     handler.AddToEntityList(effect.callers, caller);
+  handler.getEntityListSize(effect.callers); // an out list exists afterwards, also without any caller
   handler.ClearEntityList(effect.target);
   handler.AddToEntityList(effect.target, trigger->target());
   handler.SetFloatVariable(effect.player, static_cast<float>(trigger->player()));
