@@ -139,7 +139,8 @@ TEST(Catalogue, ParametersHaveNamesButForThoseThatNeverHad) {
       if (parameter.name.empty())
         unnamed.push_back(std::string(parameters.entry) + " " + std::to_string(parameter.index));
   EXPECT_EQ(unnamed, (std::vector<std::string>{"ShowDebuggingGui 1", "UseConditionalBlock 1", "UseConditionalBlock 2",
-                                               "StartScriptedEvent 4"}));
+                                               "StartScriptedEvent 4", "SetupBurningBuildingWithTrappedPersons 4",
+                                               "SetupBurningBuildingWithTrappedPersons 6"}));
 }
 
 TEST(Catalogue, ParametersStandSideBySideFromTheFirstPlaceOn) {
