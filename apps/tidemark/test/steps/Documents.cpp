@@ -60,6 +60,7 @@ constexpr GameDocument GAME_DOCUMENTS[] = {
     {"GUIDOC_STARTGAME", ofMenu<&Menu::getStartGameWindow>},
     {"mainmenu_ingame", ofHud<&Hud::getIngameMainMenuWindow>},
     {"drone", droneOf},
+    {"debug_gui", ofHud<&Hud::getDebugGuiWindow>},
 };
 
 /// Behind the last `/` stands a child's number: cuts it off and gives it, or nothing.

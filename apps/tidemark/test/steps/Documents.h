@@ -14,8 +14,8 @@ namespace tidemark::test {
 
 class TestSession;
 
-/// The document that a directive names: one of the game's (`GUIDOC_...`, `mainmenu_ingame`, `drone`), one of the
-/// module's, or a script's by its unique id. Null if there is none.
+/// The document that a directive names: one of the game's (`GUIDOC_...`, `mainmenu_ingame`, `drone`, `debug_gui`), one
+/// of the module's, or a script's by its unique id. Null if there is none.
 qsf::GuiDocument* findDocument(const TestSession& session, const std::string& name);
 
 /// DOC and ELEMENT of a directive.
