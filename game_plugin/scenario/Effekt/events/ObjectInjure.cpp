@@ -41,6 +41,6 @@ static void run(const ObjectInjureEffect& effect, ScenarioHandler& handler) {
   }
 }
 
-EFFECT(ObjectInjure, "Events", "Injure an Object.")
+EFFECT(ObjectInjure, "Events", "Injure an Object")
 
 }

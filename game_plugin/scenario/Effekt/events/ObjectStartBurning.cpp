@@ -35,6 +35,6 @@ static void run(const ObjectStartBurningEffect& effect, ScenarioHandler& handler
   }
 }
 
-EFFECT(ObjectStartBurning, "Events", "Ignite an Object.")
+EFFECT(ObjectStartBurning, "Events", "Ignite an Object")
 
 }
