@@ -13,6 +13,8 @@ Json trigger(const std::string& name, unsigned int line, unsigned int fired, uns
   return {{"name", name}, {"line", line}, {"fired", fired}, {"multiplayerMode", mode}, {"hash", line * 100}};
 }
 
+Json entry(const std::string& name, const Json& value) { return {{"name", name}, {"value", value}}; }
+
 Json stores(const Json& variables) {
   return {{"variables", variables}, {"strings", Json::array()}, {"bools", Json::array()}, {"lists", Json::array()}};
 }
@@ -30,15 +32,15 @@ Json report(const Json& triggers, const Json& variables = Json::array(), const J
 }
 
 TEST(MachinesApart, MachinesThatAreAlikeAreNotApart) {
-  const Json one = report({trigger("A", 3, 2, 2)}, {{{"name", "x"}, {"value", 1}}});
+  const Json one = report(Json::array({trigger("A", 3, 2, 2)}), Json::array({entry("x", 1)}));
   EXPECT_TRUE(findMachinesApart({one, one}).empty());
   EXPECT_NE(toText(findMachinesApart({one, one})).find("nowhere"), std::string::npos);
 }
 
 TEST(MachinesApart, ATriggerThatFiredHereAndNotThereIsToldWithTheModeThatWouldRunIt) {
-  const auto apart = findMachinesApart({report({trigger("A", 3, 2, 0), trigger("B", 9, 1, 2)}),
-                                        report({trigger("A", 3, 0, 0), trigger("B", 9, 5, 2)}),
-                                        report({trigger("A", 3, 0, 0), trigger("B", 9, 1, 2)})});
+  const auto apart = findMachinesApart({report(Json::array({trigger("A", 3, 2, 0), trigger("B", 9, 1, 2)})),
+                                        report(Json::array({trigger("A", 3, 0, 0), trigger("B", 9, 5, 2)})),
+                                        report(Json::array({trigger("A", 3, 0, 0), trigger("B", 9, 1, 2)}))});
   ASSERT_EQ(apart.size(), 1u) << "how often is each machine's own";
   EXPECT_EQ(apart[0].kind, "trigger");
   EXPECT_EQ(apart[0].script, "day.script");
@@ -49,8 +51,9 @@ TEST(MachinesApart, ATriggerThatFiredHereAndNotThereIsToldWithTheModeThatWouldRu
 }
 
 TEST(MachinesApart, StoresThatDifferAreToldOnce) {
-  const auto apart = findMachinesApart({report({}, {{{"name", "x"}, {"value", 1}}}, {{{"name", "g"}, {"value", 4}}}),
-                                        report({}, {{{"name", "x"}, {"value", 2}}}, Json::array())});
+  const auto apart =
+      findMachinesApart({report(Json::array(), Json::array({entry("x", 1)}), Json::array({entry("g", 4)})),
+                         report(Json::array(), Json::array({entry("x", 2)}), Json::array())});
   ASSERT_EQ(apart.size(), 2u);
   EXPECT_EQ(apart[0].script, "") << "global entries come first";
   EXPECT_EQ(apart[0].text, "4 on machine 0, missing on machine 1");
@@ -59,11 +62,12 @@ TEST(MachinesApart, StoresThatDifferAreToldOnce) {
 }
 
 TEST(MachinesApart, InstructionsThatNobodyTookAndListsThatWereCutAreTold) {
-  Json host = report({trigger("A", 3, 1, 1)});
-  Json client = report({trigger("A", 3, 1, 1)});
-  host["instructions"] = {{{"hash", 300}, {"sent", 0}, {"lost", 2}}, {{"hash", 77}, {"sent", 0}, {"lost", 1}}};
-  client["hints"] = {
-      {{"kind", "network"}, {"script", "day.script"}, {"line", 3}, {"trigger", "A"}, {"text", "a list"}}};
+  Json host = report(Json::array({trigger("A", 3, 1, 1)}));
+  Json client = report(Json::array({trigger("A", 3, 1, 1)}));
+  host["instructions"] =
+      Json::array({Json{{"hash", 300}, {"sent", 0}, {"lost", 2}}, Json{{"hash", 77}, {"sent", 0}, {"lost", 1}}});
+  client["hints"] = Json::array(
+      {Json{{"kind", "network"}, {"script", "day.script"}, {"line", 3}, {"trigger", "A"}, {"text", "a list"}}});
   const auto apart = findMachinesApart({host, client});
   ASSERT_EQ(apart.size(), 3u);
   EXPECT_EQ(apart[0].name, "trigger with the hash 77");
