@@ -47,7 +47,7 @@ void CommandLine::create(qsf::GuiContext& context) {
           std::to_string(NUMBER_OF_BUTTONS));
 }
 
-void CommandLine::destroy() { delete theCommandLine; }
+void CommandLine::destroy() { delete std::exchange(theCommandLine, nullptr); }
 
 void CommandLine::resetSelection() { mLastSelectedId = qsf::UNINITIALIZED_ID; }
 

@@ -39,7 +39,7 @@ void ScenarioBasicGui::create(qsf::GuiContext& context) {
   theGui = new ScenarioBasicGui(context);
 }
 
-void ScenarioBasicGui::destroy() { delete theGui; }
+void ScenarioBasicGui::destroy() { delete std::exchange(theGui, nullptr); }
 
 void ScenarioBasicGui::hideChildren() {
   Element* document = getElementDocument();

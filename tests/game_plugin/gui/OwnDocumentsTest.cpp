@@ -197,6 +197,21 @@ INSTANTIATE_TEST_SUITE_P(Ends, EndingOwnDocumentTest,
                            return std::string(std::get<0>(info.param).name) + "Of" + std::get<1>(info.param);
                          });
 
+TEST_F(OwnDocumentsTest, EndingInsideItsOwnEndIsNothingNew) {
+  start();
+  DebuggerWindow* window = DebuggerWindow::get();
+  window->show();
+  int ends = 0;
+  OnEvent killer([&] {
+    ++ends;
+    DebuggerWindow::destroy();
+  });
+  window->getElementDocument()->AddEventListener("hide", &killer);
+  DebuggerWindow::destroy();
+  EXPECT_EQ(ends, 1) << "it hides when it ends";
+  EXPECT_EQ(DebuggerWindow::get(), nullptr);
+}
+
 TEST_F(OwnDocumentsTest, AReloadFromTheMenuEndsTheWindowThatHearsIt) {
   addScript("idle", "MAP_STARTUP", "InitNewTrigger(\"a\", false, false);");
   start();
