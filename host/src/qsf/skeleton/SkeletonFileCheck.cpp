@@ -78,6 +78,8 @@ private:
     const std::size_t end = mBytes.find('\n', mPosition);
     if (end == std::string::npos) fail("a text has no end");
     std::string text = mBytes.substr(mPosition, end - mPosition);
+    // OGRE looks for the end of a text behind each of them, and would read on in the wrong place.
+    if (text.find('\0') != std::string::npos) fail("a text holds a zero byte");
     mPosition = end + 1;
     return text;
   }

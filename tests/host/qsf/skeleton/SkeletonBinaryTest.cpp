@@ -134,6 +134,11 @@ std::string swapped(std::string bytes, const std::string& what, const std::strin
   return bytes.replace(found, what.size(), by);
 }
 
+TEST_F(SkeletonBinaryTest, AZeroByteInANameIsRefused) {
+  using namespace std::string_literals;
+  EXPECT_FALSE(survive(swapped(bytes, "Hook", "Ho\0k"s)));
+}
+
 TEST_F(SkeletonBinaryTest, BonesOutOfPlaceAreRefused) {
   using namespace std::string_literals;
   const auto fault = [](const std::string& changed) {
