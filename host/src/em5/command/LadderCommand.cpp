@@ -1,6 +1,7 @@
 #include "em5/command/LadderCommand.h"
 
 #include "em5/base/Messages.h"
+#include "em5/command/CommandContext.h"
 #include "em5/component/CallForRescueComponent.h"
 #include "em5/component/PersonComponent.h"
 #include "em5/component/RoadVehicleComponent.h"
@@ -9,7 +10,6 @@
 #include "qsf/Qsf.h"
 #include "qsf/action/ActionComponent.h"
 #include "qsf/component/TransformComponent.h"
-#include "qsf/game/CommandContext.h"
 #include "qsf/map/Map.h"
 #include "qsf/message/MessageSystem.h"
 #include "qsf/reflection/ClassRegistry.h"

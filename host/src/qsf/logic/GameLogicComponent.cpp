@@ -43,8 +43,9 @@ GameLogicComponent::~GameLogicComponent() = default;
 
 bool GameLogicComponent::onStartup() {
   // By index: a logic that starts may add another one.
-  for (std::size_t i = 0; i < mGameLogics.size(); ++i)
-    start(*mGameLogics[i]);
+  std::size_t next = 0;
+  while (next < mGameLogics.size())
+    start(*mGameLogics[next++]);
   return true;
 }
 
@@ -114,10 +115,9 @@ void GameLogicComponent::setNames(const std::string& names) {
   std::swap(mGameLogics, made);
   for (const auto& left : made)
     if (left) stop(*left);
-  for (std::size_t i = 0; i < mGameLogics.size(); ++i) {
-    mGameLogics[i]->mComponent = this;
-    if (isRunning()) start(*mGameLogics[i]);
-  }
+  for (const auto& logic : mGameLogics)
+    logic->mComponent = this;
+  if (isRunning()) onStartup();
 }
 
 }
