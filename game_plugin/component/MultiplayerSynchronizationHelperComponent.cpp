@@ -46,7 +46,7 @@ bool MultiplayerSynchronizationHelperComponent::onStartup() {
 void MultiplayerSynchronizationHelperComponent::writeProperty() const {
   qsf::Entity* entity = qsf::Qsf::instance()->getMainMap().getEntityById(mSynchronizedEntity);
   if (!entity) return;
-  qsf::Component* component = entity->getOrCreateComponentById(qsf::StringHash(mComponentName));
+  qsf::Component* component = entity->getOrCreateComponentById(mComponentId);
   if (!component) {
     logInfo("Component does not exist " + mComponentName);
     return;

@@ -124,6 +124,8 @@ void MultiplayerSynchroniationHelperComponentData::read(qsf::game::BitStream& st
     if (item.stringChanged && !stream.read(item.currentText, 8)) failRead();
     update.items.push_back(std::move(item));
   }
+  // Whatever kept an earlier update from being applied doesn't hold up this one.
+  std::erase_if(mHistory, [&](const Update& earlier) { return earlier.tick != update.tick; });
   mHistory.push_back(std::move(update));
   logBits("read", getEntityId(), before - stream.getRemainingBits());
 }

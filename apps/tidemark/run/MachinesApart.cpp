@@ -175,11 +175,11 @@ void compareInstructions(const std::vector<Json>& reports, std::vector<Apart>& a
   }
 }
 
-void collectCuts(const std::vector<Json>& reports, std::vector<Apart>& apart) {
+void collectHints(const std::vector<Json>& reports, std::vector<Apart>& apart) {
   for (std::size_t machine = 0; machine < reports.size(); ++machine)
     for (const Json& hint : reports[machine].at("hints"))
       if (hint.at("kind") == "network")
-        apart.push_back({"cut", hint.at("script"), hint.at("line"), hint.at("trigger"),
+        apart.push_back({"hint", hint.at("script"), hint.at("line"), hint.at("trigger"),
                          fmt::format("{}, on machine {}", hint.at("text").get<std::string>(), machine), ""});
 }
 
@@ -202,7 +202,7 @@ std::vector<Apart> findMachinesApart(const std::vector<Json>& reports) {
     compareStores(script.file, local, apart);
   }
   compareInstructions(reports, apart);
-  collectCuts(reports, apart);
+  collectHints(reports, apart);
   return apart;
 }
 

@@ -8,7 +8,7 @@ namespace tidemark::run {
 
 /// Something in which the machines of a game have come apart: what an author doesn't see from any one of them.
 struct Apart {
-  std::string kind;   ///< "trigger", "variable", "string", "list", "bool", "instruction", "cut"
+  std::string kind;   ///< "trigger", "variable", "string", "list", "bool", "instruction", "hint"
   std::string script; ///< the file's name; empty for a global store
   unsigned int line;  ///< of the trigger, from 1; 0 for a store
   std::string name;   ///< of the trigger or the entry

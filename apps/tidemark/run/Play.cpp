@@ -10,6 +10,7 @@
 #include "apps/tidemark/session/WritableFolders.h"
 
 #include "em5/game/HostSession.h"
+#include "em5/settings/GameSettingsGroup.h"
 #include "qsf/Qsf.h"
 #include "qsf/asset/Project.h"
 #include "qsf/log/FaultCounter.h"
@@ -150,6 +151,7 @@ RunReport play(const RunOptions& options, const std::vector<std::string>& writab
   host.players = std::max(1u, options.machines);
   host.localPlayer = seat.player;
   em5::HostSession session(host);
+  qsf::UniqueInstance<em5::GameSettingsGroup>()->setMultiplayUpdatesPerSecond(options.syncRate);
   limitHostWrites(writable);
   const auto log = makeLogPrinter(options, session, module, seat);
   session.mountBaseProject(baseProjectDirectory());

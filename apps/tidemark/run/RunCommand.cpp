@@ -49,6 +49,13 @@ void addScreenOptions(CLI::App& command, RunOptions& options, CLI::Option& peers
 // A game with other computers.
 void addNetworkOptions(CLI::App& command, RunOptions& options, CLI::Option& peers, CLI::Option& editor) {
   peers.excludes(&editor);
+  CLI::Option* rate =
+      command
+          .add_option("--sync-rate", options.syncRate,
+                      "How often a second the host tells the others of changed properties that are kept alike")
+          ->capture_default_str()
+          ->check(CLI::IsMember({5u, 10u, 20u}))
+          ->type_name("N");
   CLI::Option* serve =
       command
           .add_option_function<std::string>(
@@ -66,6 +73,7 @@ void addNetworkOptions(CLI::App& command, RunOptions& options, CLI::Option& peer
       ->excludes(&peers)
       ->excludes(&editor)
       ->excludes(serve)
+      ->excludes(rate)
       ->type_name("ADDRESS:PORT");
   command.add_flag("--allow-difference", options.allowDifference,
                    "Let machines join whose scripts are not the host's; triggers that both don't have then get lost");

@@ -22,6 +22,7 @@ struct RunOptions {
   unsigned int machines = 1;        ///< of a multiplayer game in step, on this computer
   unsigned int delay = 0;           ///< of their network, in frames
   unsigned int loss = 0;            ///< of their network, in percent
+  unsigned int syncRate = 10;       ///< data cache updates of the host in a second
   std::optional<std::string> serve; ///< address at which a game over a real network is offered
   std::optional<std::string> join;  ///< address of one to take part in
   bool allowDifference = false;     ///< other machines may have other scripts

@@ -6,16 +6,13 @@
 
 namespace em5::multiplayer {
 
-/// The items of a session's data cache and its ticks, 5, 10 or 20 a second. Owned by the session.
+/// The items of a session's data cache and its ticks, as many a second as the settings say. Owned by the session.
 class QSF_API DataCacheSystem {
 public:
   /// Asks the factory's listeners for the items of all entities of the main map, once. Those of a game before go.
   void startGame();
   void stopGame() { mItems.clear(); }
 
-  /// 10 at first. Another number than 5, 10 or 20 changes nothing.
-  void setUpdatesPerSecond(unsigned int updates);
-  unsigned int getUpdatesPerSecond() const { return mUpdatesPerSecond; }
   /// Number of the last update, on the host; 0 before the first.
   std::uint32_t getTick() const { return mTick; }
 
@@ -35,7 +32,6 @@ private:
   std::map<std::uint64_t, DataCacheItemFactory::Items> mItems; ///< by entity
   qsf::Time mSinceUpdate;
   std::uint32_t mTick = 0;
-  unsigned int mUpdatesPerSecond = 10;
 };
 
 }

@@ -54,6 +54,8 @@ void DataCacheComponentExistenceTrackingBase::read(qsf::game::BitStream& stream,
   bool changed = false;
   if (!stream.read(changed)) failRead("the component existence state", getEntityId());
   if (!stream.read(mExists)) failRead("if component exists", getEntityId());
+  // Each update is applied as soon as it is read: what is left of another tick belonged to one that broke off.
+  std::erase_if(mHistory, [&](const Change& change) { return change.tick != clock.getSignalCounter(); });
   if (changed) mHistory.push_back({clock.getSignalCounter(), mExists});
 }
 

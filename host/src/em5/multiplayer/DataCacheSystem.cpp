@@ -1,5 +1,6 @@
 #include "em5/multiplayer/DataCacheSystem.h"
 
+#include "em5/settings/GameSettingsGroup.h"
 #include "qsf/Qsf.h"
 #include "qsf/log/FaultCounter.h"
 #include "qsf/map/Entity.h"
@@ -22,12 +23,11 @@ void DataCacheSystem::startGame() {
       mItems.emplace(entity->getId(), std::move(items));
 }
 
-void DataCacheSystem::setUpdatesPerSecond(unsigned int updates) {
-  if (updates == 5 || updates == 10 || updates == 20) mUpdatesPerSecond = updates;
-}
-
 bool DataCacheSystem::advance(qsf::Time timePassed) {
-  const qsf::Time interval = qsf::Time::fromMilliseconds(1000 / static_cast<int>(mUpdatesPerSecond));
+  const qsf::UniqueInstance<GameSettingsGroup> settings;
+  if (!settings) return false;
+  const qsf::Time interval =
+      qsf::Time::fromMilliseconds(1000 / static_cast<int>(settings->getMultiplayUpdatesPerSecond()));
   mSinceUpdate += timePassed;
   if (mSinceUpdate < interval) return false;
   // A long frame makes one update, since there is nothing in between to tell.

@@ -20,6 +20,10 @@ void set(bool& setting, bool value, const qsf::RecordedOperation& call) {
 
 }
 
+void GameSettingsGroup::setMultiplayUpdatesPerSecond(unsigned int updates) {
+  if (updates == 5 || updates == 10 || updates == 20) mMultiplayUpdatesPerSecond = updates;
+}
+
 void GameSettingsGroup::setInputBlocked(bool blocked) { set(mInputBlocked, blocked, setInputBlockedCall); }
 
 void GameSettingsGroup::setInputCameraMoveBlocked(bool blocked) {

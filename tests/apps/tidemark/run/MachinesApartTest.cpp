@@ -73,7 +73,7 @@ TEST(MachinesApart, InstructionsThatNobodyTookAndListsThatWereCutAreTold) {
   EXPECT_EQ(apart[0].name, "trigger with the hash 77");
   EXPECT_EQ(apart[1].name, "A");
   EXPECT_EQ(apart[1].text, "2 sent in vain on machine 0, fine or not sent on machine 1");
-  EXPECT_EQ(apart[2].kind, "cut");
+  EXPECT_EQ(apart[2].kind, "hint");
   EXPECT_EQ(apart[2].text, "a list, on machine 1");
 }
 

@@ -1,5 +1,6 @@
 // `tidemark run` with several machines: in step on this computer, and over the loopback network.
 #include "apps/tidemark/ProgramFixture.h"
+#include "tests/support/Paths.h"
 
 #include <nlohmann/json.hpp>
 
@@ -72,6 +73,26 @@ TEST_F(MachinesRun, TheReportHoldsAllMachinesAndWhatCameApart) {
   EXPECT_EQ(json.at("apart")[0].at("name"), "Tell");
   EXPECT_EQ(json.at("apart")[2].at("kind"), "variable");
   EXPECT_EQ(json.at("apart")[2].at("name"), "host");
+}
+
+TEST_F(MachinesRun, ChangedPropertiesAreToldAsOftenAsIsAskedFor) {
+  writeProject("InitNewTrigger(\"Change\", true, true);\nInitConditions();\nInitEffects();\n"
+               "VariableModify(\"n\", \"+\", \"1\", \"n\");\nBuildString(\"text\", \"n\");\n"
+               "SetComponentProperty(\"103\", \"qsf::MetadataComponent\", \"Description\", \"svar(text\");\n");
+  const std::string convoy = paths::sourceDirectory() + "/examples/convoy"; // for its map's helper and master
+  const auto updates = [&](std::vector<std::string> arguments) {
+    arguments.insert(arguments.begin(), {"run", folder(), convoy, "--peers", "2", "--seconds", "1"});
+    const Outcome outcome = run(arguments);
+    int count = 0;
+    for (std::size_t at = 0; (at = outcome.output.find("Written bitcount", at)) != std::string::npos; ++at)
+      ++count;
+    return count;
+  };
+  EXPECT_EQ(updates({"--sync-rate", "5"}), 5);
+  EXPECT_EQ(updates({}), 10);
+  EXPECT_EQ(updates({"--sync-rate", "20"}), 20);
+  EXPECT_EQ(run({"run", folder(), "--peers", "2", "--sync-rate", "7"}).code, 2);
+  EXPECT_EQ(run({"run", folder(), "--join", "127.0.0.1:1", "--sync-rate", "5"}).code, 2);
 }
 
 TEST_F(MachinesRun, EqualRunsGiveEqualLogs) {
