@@ -1,5 +1,7 @@
 #include "qsf/game/BitStream.h"
 
+#include <algorithm>
+
 namespace qsf::game {
 
 namespace {

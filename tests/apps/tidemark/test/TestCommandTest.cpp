@@ -59,7 +59,6 @@ INSTANTIATE_TEST_SUITE_P(
                     FaultyLine{"$ @expect 100 qsf::MetadataComponent.Nme == 1", "it has"},
                     FaultyLine{"$ @expect 100 has qsf::Nothing", "there is no component"},
                     FaultyLine{"$ @entity 100", "the map has an entity 100 already"},
-                    FaultyLine{"$ @entity 0", "already"},
                     FaultyLine{"$ @entity 101 prefab unicorn", "there is no prefab 'em5/prefab/test/unicorn'"},
                     FaultyLine{"$ @entity 101 with qsf::Nothing", "there is no component"},
                     FaultyLine{"$ @entity 101 with qsf::MetadataComponent.Nme=x", "has no property 'Nme'"},
