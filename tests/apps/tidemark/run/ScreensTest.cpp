@@ -2,7 +2,9 @@
 // pictures for people.
 #include "tests/apps/tidemark/ProgramFixture.h"
 #include "tests/support/Browser.h"
+#include "tests/support/Paths.h"
 
+#include <array>
 #include <cstdlib>
 
 namespace tidemark {
@@ -95,12 +97,9 @@ TEST_F(Screens, AnEditorHasNone) {
   EXPECT_NE(readAll(screens() + "/index.html").find("No document was visible."), std::string::npos);
 }
 
-class ScreensInABrowser : public Screens {
+class BrowsedScreens : public Screens {
 protected:
-  ScreensInABrowser() : browser(folder() + "/profile") {
-    runDesk();
-    browser.resize(1280, 720);
-  }
+  BrowsedScreens() : browser(folder() + "/profile") { browser.resize(1280, 720); }
   void open(const std::string& file) { browser.open("file://" + file); }
   nlohmann::json place(const std::string& selector) {
     return browser.evaluate("(() => { const r = document.querySelector('" + selector +
@@ -117,6 +116,11 @@ protected:
   }
 
   Browser browser;
+};
+
+class ScreensInABrowser : public BrowsedScreens {
+protected:
+  ScreensInABrowser() { runDesk(); }
 };
 
 TEST_F(ScreensInABrowser, AnAuthorsDocumentLooksAsItsStyleSays) {
@@ -168,6 +172,57 @@ TEST_F(ScreensInABrowser, TheIndexLaysThePagesOverEachOtherAndAsksForNothingElse
                 request.starts_with("about:"))
         << request;
   keepPicture("screens");
+}
+
+/// The harbour's morning: its title at 2 s, the choice that its mission waits for at 10.6 s.
+class ScreensOfTheHarbour : public BrowsedScreens {
+protected:
+  ScreensOfTheHarbour() {
+    fs::copy(fs::path(paths::sourceDirectory()) / "examples/harbour", folder(), fs::copy_options::recursive);
+    const Outcome outcome = run({"run", folder(), "--seconds", "11", "--log-level", "error", "--screens", screens(),
+                                 "--screens-at", "2", "--screens-at", "10.6"});
+    EXPECT_EQ(outcome.code, 0) << outcome.output;
+  }
+  /// Left, top, right, bottom.
+  std::array<double, 4> bounds(const std::string& selector) {
+    const nlohmann::json at = place(selector);
+    return {at[0], at[1], at[0].get<double>() + at[2].get<double>(), at[1].get<double>() + at[3].get<double>()};
+  }
+};
+
+TEST_F(ScreensOfTheHarbour, TheTitleStandsInTheMiddle) {
+  open(page("2.00s", "basic_mapscript_gui"));
+  EXPECT_EQ(browser.evaluate("document.querySelector('#big_text').innerText"), "A morning in the harbour");
+  EXPECT_EQ(style("#big_text", "opacity"), "1");
+  EXPECT_NE(style("#big_text", "display"), "none");
+  EXPECT_EQ(style("#LetterBoxUp", "display"), "none");
+  const auto title = bounds("#big_text");
+  EXPECT_NEAR((title[0] + title[2]) / 2, 640, 2);
+  open(page("2.00s", "board"));
+  EXPECT_NE(browser.evaluate("document.body.innerText").get<std::string>().find("Harbour board"), std::string::npos);
+}
+
+TEST_F(ScreensOfTheHarbour, TheChoiceIsAskedBetweenBlackBars) {
+  open(page("10.60s", "basic_mapscript_gui"));
+  for (const char* bar : {"#LetterBoxUp", "#LetterBoxDown"}) {
+    EXPECT_EQ(style(bar, "backgroundColor"), "rgb(0, 0, 0)");
+    EXPECT_NE(style(bar, "display"), "none") << bar;
+    EXPECT_EQ(place(bar)[2], 1280);
+  }
+  EXPECT_NE(
+      browser.evaluate("document.querySelector('#subtitle_text').innerText").get<std::string>().find("There is fire"),
+      std::string::npos);
+  const auto window = bounds("#bg35");
+  for (const auto& [button, text] : {std::pair("#id1", "Send them now"), {"#id2", "Wait for the engine"}}) {
+    EXPECT_EQ(browser.evaluate("document.querySelector('" + std::string(button) + "').innerText"), text);
+    const auto at = bounds(button);
+    EXPECT_LT(window[0], at[0]);
+    EXPECT_LT(window[1], at[1]);
+    EXPECT_GT(window[2], at[2]) << button;
+    EXPECT_GT(window[3], at[3]);
+  }
+  open(screens() + "/index.html#10.60s");
+  keepPicture("harbour");
 }
 
 }
