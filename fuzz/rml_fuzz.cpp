@@ -1,5 +1,5 @@
-// Fuzzes documents: RML, style sheets and style attributes of strangers. Whatever is read is laid out, hears events, and
-// is written so that it reads as the same again.
+// Fuzzes documents: RML, style sheets and style attributes of strangers. Whatever is read is laid out, hears events,
+// and is written so that it reads as the same again.
 #include "Rocket/Core.h"
 
 #include <cstdio>
@@ -40,10 +40,10 @@ std::string takePart(std::string_view& text) {
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
   std::string_view text(reinterpret_cast<const char*>(data), size);
   const std::string sheet = takePart(text), rml = takePart(text), style = takePart(text), second = takePart(text);
-  const auto document = ElementDocument::Read(
-      "<rml><head><style><![CDATA[" + (sheet.find("]]>") == std::string::npos ? sheet : std::string()) +
-          "]]></style></head><body><div id=\"own\"/></body></rml>",
-      "fuzz.rml");
+  const auto document = ElementDocument::Read("<rml><head><style><![CDATA[" +
+                                                  (sheet.find("]]>") == std::string::npos ? sheet : std::string()) +
+                                                  "]]></style></head><body><div id=\"own\"/></body></rml>",
+                                              "fuzz.rml");
   if (!document) std::abort();
   document->SetShown(true);
   document->SetEventHandler([&](const Rocket::Core::String& name, Rocket::Core::Event& event) {

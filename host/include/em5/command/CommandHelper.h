@@ -4,7 +4,8 @@
 
 namespace em5 {
 
-/// What a player's click means and does. The message EM5_PRE_COMMAND_EXECUTE announces each execution and may forbid it.
+/// What a player's click means and does. The message EM5_PRE_COMMAND_EXECUTE announces each execution and may forbid
+/// it.
 class QSF_API CommandHelper {
 public:
   /// The context of a click with the right button; the position is the target's.

@@ -41,7 +41,7 @@ public:
     std::string account;
     unsigned int players = 1;     ///< of the game
     unsigned int localPlayer = 0; ///< the index of the one at this machine
-    int logThreshold = 2;     ///< severity from which lines are logged, 0 to 5
+    int logThreshold = 2;         ///< severity from which lines are logged, 0 to 5
   };
 
   explicit HostSession(const Options& options);
@@ -84,9 +84,9 @@ public:
   /// True from startGame to endGame, in the editor too.
   bool isGameRunning() const;
 
-  /// One frame: input, network, message-driven work, job managers, what goes to other machines, then what waited for the frame's end (destroyed
-  /// entities, a wished map change). A wished map that can't be loaded is logged at severity 4; an unknown one leaves
-  /// the game as it is, a faulty one ends it.
+  /// One frame: input, network, message-driven work, job managers, what goes to other machines, then what waited for
+  /// the frame's end (destroyed entities, a wished map change). A wished map that can't be loaded is logged at severity
+  /// 4; an unknown one leaves the game as it is, a faulty one ends it.
   void runFrame(qsf::Time tick);
 
   /// From the next frame on.

@@ -13,7 +13,8 @@ namespace {
 constexpr int PRIORITY = 50;
 
 const qsf::RecordedOperation executeCall{
-    "test::Recorder::execute", "caller, target, its position, `1` if nobody has clicked, all callers with blanks between"};
+    "test::Recorder::execute",
+    "caller, target, its position, `1` if nobody has clicked, all callers with blanks between"};
 
 std::string idOf(const qsf::Entity* entity) { return entity ? std::to_string(entity->getId()) : "null"; }
 
@@ -43,8 +44,7 @@ protected:
 class Unavailable : public Recorder {
   CAMP_RTTI()
 public:
-  explicit Unavailable(qsf::game::CommandManager* manager)
-      : Recorder(manager, qsf::StringHash("test::Unavailable")) {}
+  explicit Unavailable(qsf::game::CommandManager* manager) : Recorder(manager, qsf::StringHash("test::Unavailable")) {}
   static void declareCamp();
   bool checkAvailable() override { return false; }
 };
