@@ -64,13 +64,13 @@ public:
     mWork.add(1 + m_children.size());
     return html_tag::render_inline(container, maxWidth);
   }
-  int place_element(const litehtml::element::ptr& element, int maxWidth) override {
+  int place_element(const litehtml::element::ptr& child, int maxWidth) override {
     mWork.add(1);
-    return html_tag::place_element(element, maxWidth);
+    return html_tag::place_element(child, maxWidth);
   }
-  void add_float(const litehtml::element::ptr& element, int x, int y) override {
+  void add_float(const litehtml::element::ptr& child, int x, int y) override {
     mWork.add(m_floats_left.size() + m_floats_right.size());
-    html_tag::add_float(element, x, y);
+    html_tag::add_float(child, x, y);
   }
   int get_line_left(int y) override {
     mWork.add(1 + m_floats_left.size());
@@ -91,28 +91,28 @@ public:
   int select(const litehtml::css_element_selector& selector, bool applyPseudo) override {
     return html_tag::select(selector, applyPseudo);
   }
-  litehtml::element::ptr find_adjacent_sibling(const litehtml::element::ptr& element,
+  litehtml::element::ptr find_adjacent_sibling(const litehtml::element::ptr& child,
                                                const litehtml::css_selector& selector, bool applyPseudo,
                                                bool* isPseudo) override {
     mWork.add(1 + m_children.size());
-    return html_tag::find_adjacent_sibling(element, selector, applyPseudo, isPseudo);
+    return html_tag::find_adjacent_sibling(child, selector, applyPseudo, isPseudo);
   }
-  litehtml::element::ptr find_sibling(const litehtml::element::ptr& element, const litehtml::css_selector& selector,
+  litehtml::element::ptr find_sibling(const litehtml::element::ptr& child, const litehtml::css_selector& selector,
                                       bool applyPseudo, bool* isPseudo) override {
     mWork.add(1 + m_children.size());
-    return html_tag::find_sibling(element, selector, applyPseudo, isPseudo);
+    return html_tag::find_sibling(child, selector, applyPseudo, isPseudo);
   }
-  bool is_nth_child(const litehtml::element::ptr& element, int number, int offset, bool ofType) const override {
+  bool is_nth_child(const litehtml::element::ptr& child, int number, int offset, bool ofType) const override {
     mWork.add(1 + m_children.size());
-    return html_tag::is_nth_child(element, number, offset, ofType);
+    return html_tag::is_nth_child(child, number, offset, ofType);
   }
-  bool is_nth_last_child(const litehtml::element::ptr& element, int number, int offset, bool ofType) const override {
+  bool is_nth_last_child(const litehtml::element::ptr& child, int number, int offset, bool ofType) const override {
     mWork.add(1 + m_children.size());
-    return html_tag::is_nth_last_child(element, number, offset, ofType);
+    return html_tag::is_nth_last_child(child, number, offset, ofType);
   }
-  bool is_only_child(const litehtml::element::ptr& element, bool ofType) const override {
+  bool is_only_child(const litehtml::element::ptr& child, bool ofType) const override {
     mWork.add(1 + m_children.size());
-    return html_tag::is_only_child(element, ofType);
+    return html_tag::is_only_child(child, ofType);
   }
   void parse_styles(bool again) override {
     html_tag::parse_styles(again);
