@@ -1,5 +1,5 @@
 #pragma once
-#include "game_plugin/scenario/tick/HandlerWatch.h"
+#include "game_plugin/scenario/messages/HandlerWatch.h"
 
 #include "qsf/gui/GuiDocument.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 #include "game_plugin/gui/GuiInstance.h"
-#include "game_plugin/scenario/tick/HandlerWatch.h"
+#include "game_plugin/scenario/messages/HandlerWatch.h"
 #include "game_plugin/scenario/world/GuiDocuments.h"
 
 #include <memory>

@@ -1,4 +1,6 @@
 #pragma once
+#include "game_plugin/scenario/messages/HandlerWatch.h"
+
 #include "qsf/message/MessageProxy.h"
 
 #include <cstdint>
@@ -33,7 +35,7 @@ private:
 /// one only, what has arrived since its tick before. Every handler has rows of its own, so none takes a message from
 /// another. Owned by MapScriptManager; lives from the start of a map's scripts to the game's end, so that a script of
 /// the mode GAME_STARTUP, which starts before it, has no rows. At most one lives.
-class ScenarioMessageReciever {
+class ScenarioMessageReciever : HandlerWatch {
 public:
   /// Somebody has used equipment.
   struct EquipmentRecord {
@@ -58,7 +60,8 @@ public:
 
   /// What arrives from now on is kept for that handler, too.
   void registerHandler(const ScenarioHandler* handler);
-  void forgetHandler(const ScenarioHandler* handler);
+  /// Another handler may come to lie where one was.
+  void forgetHandler(const ScenarioHandler* handler) override;
   /// The tick of that handler begins: what was pending is what its conditions read.
   void advanceHandler(const ScenarioHandler* handler);
   /// The same for the records of "Scenario::TriggerActivator" alone.

@@ -3,10 +3,10 @@
 #include "game_plugin/scenario/Log.h"
 #include "game_plugin/scenario/hints/ExecutionPoint.h"
 #include "game_plugin/scenario/hints/Hints.h"
+#include "game_plugin/scenario/messages/HandlerWatch.h"
 #include "game_plugin/scenario/messages/ScenarioMessageReciever.h"
 #include "game_plugin/scenario/stores/JsonStore.h"
 #include "game_plugin/scenario/tick/FaultyLine.h"
-#include "game_plugin/scenario/tick/HandlerWatch.h"
 #include "game_plugin/scenario/tick/TickNumber.h"
 #include "game_plugin/scenario/world/LocalPlayer.h"
 
@@ -77,8 +77,6 @@ ScenarioHandler::ScenarioHandler(std::shared_ptr<GlobalStores> globalStores)
 
 ScenarioHandler::~ScenarioHandler() {
   HandlerWatch::tellAll(this);
-  // Another handler may come to lie where this one did.
-  if (ScenarioMessageReciever* reciever = ScenarioMessageReciever::get()) reciever->forgetHandler(this);
   if (!hints::isOn()) return;
   hints::forgetStore(&variables);
   hints::forgetStore(&stringVariables);

@@ -1,14 +1,12 @@
 #pragma once
+#include "em5/logic/ActingLogic.h"
 #include "qsf/base/StringHash.h"
-#include "qsf/base/Time.h"
-#include "qsf/job/JobProxy.h"
-#include "qsf/logic/GameLogic.h"
 
 namespace em5 {
 
 /// Lets a civilian run from fire until it is far enough from all of them; then it is calm and does nothing any more.
 /// See docs/host-game.md.
-class QSF_API FleeFromFireLogic : public qsf::GameLogic {
+class QSF_API FleeFromFireLogic : public ActingLogic {
   CAMP_RTTI()
 public:
   static constexpr qsf::StringHash GAME_LOGIC_ID{"em5::FleeFromFireLogic"};
@@ -16,12 +14,9 @@ public:
 
 protected:
   void onStartup() override;
-  void onShutdown() override { mJob.unregister(); }
+  void update(qsf::Time timePassed) override;
 
 private:
-  void update(qsf::Time timePassed);
-
-  qsf::JobProxy mJob;
   qsf::Time mTimeToLook;
 };
 

@@ -1,8 +1,7 @@
 #pragma once
+#include "em5/logic/ActingLogic.h"
 #include "qsf/base/Ids.h"
 #include "qsf/base/StringHash.h"
-#include "qsf/job/JobProxy.h"
-#include "qsf/logic/GameLogic.h"
 
 #include <cstdint>
 
@@ -13,7 +12,7 @@ class FreeplayEvent;
 /// What a gangster is up to: it waits, goes to a victim of its choice, does its deed, and begins anew, until it flees.
 /// A gangster that is injured, dead, inside or linked to something does nothing. This base does no deed. See
 /// docs/host-game.md for times and distances.
-class QSF_API GangsterBaseLogic : public qsf::GameLogic {
+class QSF_API GangsterBaseLogic : public ActingLogic {
   CAMP_RTTI()
 public:
   static constexpr qsf::StringHash GAME_LOGIC_ID{"em5::GangsterBaseLogic"};
@@ -33,16 +32,14 @@ public:
 
 protected:
   void onStartup() override;
-  void onShutdown() override;
+  void update(qsf::Time timePassed) override;
   /// Class of component that its victims have; uninitialised if it does no deeds.
   virtual qsf::StringHash getVictimComponentId() const { return {}; }
 
 private:
-  void update(qsf::Time timePassed);
   void flee(qsf::Entity& gangster);
   void planDeed(qsf::Entity& gangster);
 
-  qsf::JobProxy mJob;
   qsf::Time mTimeToDeed;
   bool mFlagged = false;
   bool mFleeing = false;

@@ -1,7 +1,6 @@
 #pragma once
+#include "em5/logic/ActingLogic.h"
 #include "qsf/base/StringHash.h"
-#include "qsf/job/JobProxy.h"
-#include "qsf/logic/GameLogic.h"
 
 namespace em5 {
 
@@ -9,7 +8,7 @@ namespace em5 {
 /// cushion on the ground (equipment of the name "jump_cushion" that nobody carries), near enough for a while. It stands
 /// on the ground there then, out of the building, and the message EM5_ACTION_JUMPEDOUTOFWINDOW_PERSON tells of it. See
 /// docs/host-game.md.
-class QSF_API PersonJumpOutOfWindowLogic : public qsf::GameLogic {
+class QSF_API PersonJumpOutOfWindowLogic : public ActingLogic {
   CAMP_RTTI()
 public:
   static constexpr qsf::StringHash GAME_LOGIC_ID{"em5::PersonJumpOutOfWindowLogic"};
@@ -17,12 +16,9 @@ public:
 
 protected:
   void onStartup() override;
-  void onShutdown() override { mJob.unregister(); }
+  void update(qsf::Time timePassed) override;
 
 private:
-  void update(qsf::Time timePassed);
-
-  qsf::JobProxy mJob;
   qsf::Time mCourage; ///< how long a cushion has been there
 };
 

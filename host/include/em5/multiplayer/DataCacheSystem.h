@@ -22,8 +22,13 @@ public:
   };
   /// True if a tick is due; at most one for each call.
   bool advance(qsf::Time timePassed);
-  /// On the host: prepares all items and writes those that have changed. What was written, by entity.
-  std::vector<Item> writeUpdate(qsf::game::BitStream& stream);
+  struct Update {
+    std::vector<Item> items;
+    std::vector<qsf::game::BitStream> streams; ///< the items side by side, as many to a stream as it may hold
+  };
+  /// On the host: prepares all items and writes those that have changed, in the order of their entities. No stream is
+  /// longer than so many bytes; an item that is, is left out with an error.
+  Update writeUpdate(std::size_t mostBytes);
   /// On a client: what has come is read, and applied at the tick that it belongs to. A stream that breaks off costs
   /// what is behind the break; items that nobody knows here are passed over.
   std::vector<Item> readUpdate(std::uint32_t tick, qsf::game::BitStream stream);

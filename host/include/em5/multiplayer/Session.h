@@ -46,8 +46,6 @@ public:
   void receive();
   /// The frame's end: data cache updates, then everything goes out.
   void finishFrame(qsf::Time timePassed);
-  /// A message as if it had come from that machine.
-  void takeMessage(std::uint8_t sender, std::uint32_t number, const qsf::game::BitStream& stream);
 
   /// Hears of each message behind its handling; empty for none.
   void setTrafficListener(TrafficListener listener) { mListener = std::move(listener); }
@@ -56,6 +54,7 @@ protected:
   void sendOperationMessage(std::uint8_t receiver, std::uint32_t number, const qsf::game::BitStream& stream);
 
 private:
+  void takeMessage(std::uint8_t sender, std::uint32_t number, const qsf::game::BitStream& stream);
   void sendDataCacheUpdate();
   void tell(const Traffic& traffic) const;
 

@@ -7,7 +7,7 @@ class Entity;
 class GameLogicComponent;
 
 /// What an entity is or wants beside its components, as a role that others ask for. Classes are found by the hash of
-/// their name in the class registry. Owned by the entity's GameLogicComponent. Logics that act over time derive,
+/// their name in the class registry. Owned by the entity's GameLogicComponent. Logics that act over time
 /// register a job proxy in onStartup and unregister it in onShutdown.
 class QSF_API GameLogic : public Object {
   CAMP_RTTI()

@@ -1,7 +1,6 @@
 #include "em5/logic/FleeFromFireLogic.h"
 
 #include "em5/action/MoveAction.h"
-#include "em5/base/Jobs.h"
 #include "em5/component/FireComponent.h"
 #include "em5/map/EntityHelper.h"
 #include "qsf/action/ActionComponent.h"
@@ -57,8 +56,7 @@ void FleeFromFireLogic::declareCamp() {
 
 void FleeFromFireLogic::onStartup() {
   mTimeToLook = qsf::Time();
-  mJob.registerAt(Jobs::SIMULATION_LOGIC,
-                  [this](const qsf::JobArguments& arguments) { update(arguments.getTimePassed()); });
+  ActingLogic::onStartup();
 }
 
 void FleeFromFireLogic::update(qsf::Time timePassed) {
@@ -71,7 +69,7 @@ void FleeFromFireLogic::update(qsf::Time timePassed) {
   const glm::vec3 position = helper.getPosition();
   const FireComponent* fire = findNearestFire(person->getMap(), position);
   if (!fire || !helper.isCivilPersonInValidState()) {
-    mJob.unregister(); // calm, or not able to run any more
+    rest(); // calm, or not able to run any more
     return;
   }
   const glm::vec3 place = findSafePlace(person->getMap(), position, EntityHelper(fire->getEntity()).getPosition());

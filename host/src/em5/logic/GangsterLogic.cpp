@@ -1,7 +1,6 @@
 #include "em5/logic/GangsterLogic.h"
 
 #include "em5/action/GangsterActions.h"
-#include "em5/base/Jobs.h"
 #include "em5/component/HealthComponent.h"
 #include "em5/component/PersonComponent.h"
 #include "em5/map/EntityHelper.h"
@@ -46,11 +45,8 @@ void GangsterBaseLogic::declareCamp() {
 
 void GangsterBaseLogic::onStartup() {
   mTimeToDeed = PAUSE;
-  mJob.registerAt(Jobs::SIMULATION_LOGIC,
-                  [this](const qsf::JobArguments& arguments) { update(arguments.getTimePassed()); });
+  ActingLogic::onStartup();
 }
-
-void GangsterBaseLogic::onShutdown() { mJob.unregister(); }
 
 void GangsterBaseLogic::escape(int reason) {
   escapeCall.record({std::to_string(reason)});

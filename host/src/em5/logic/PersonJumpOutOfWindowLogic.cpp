@@ -1,6 +1,5 @@
 #include "em5/logic/PersonJumpOutOfWindowLogic.h"
 
-#include "em5/base/Jobs.h"
 #include "em5/base/Messages.h"
 #include "em5/component/CallForRescueComponent.h"
 #include "em5/component/HealthComponent.h"
@@ -48,8 +47,7 @@ void PersonJumpOutOfWindowLogic::declareCamp() {
 
 void PersonJumpOutOfWindowLogic::onStartup() {
   mCourage = qsf::Time();
-  mJob.registerAt(Jobs::SIMULATION_LOGIC,
-                  [this](const qsf::JobArguments& arguments) { update(arguments.getTimePassed()); });
+  ActingLogic::onStartup();
 }
 
 void PersonJumpOutOfWindowLogic::update(qsf::Time timePassed) {
@@ -64,7 +62,7 @@ void PersonJumpOutOfWindowLogic::update(qsf::Time timePassed) {
   }
   mCourage += timePassed;
   if (mCourage < HESITATION) return;
-  mJob.unregister(); // once
+  rest(); // once
   land(*person, EntityHelper(*cushion).getPosition());
   // Whoever hears this may delete this logic.
   qsf::Qsf::instance()->getMessageSystem().emitMessage(

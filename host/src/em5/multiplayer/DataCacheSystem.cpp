@@ -3,6 +3,7 @@
 #include "em5/settings/GameSettingsGroup.h"
 #include "qsf/Qsf.h"
 #include "qsf/log/FaultCounter.h"
+#include "qsf/log/LogSystem.h"
 #include "qsf/map/Entity.h"
 #include "qsf/map/Map.h"
 
@@ -12,6 +13,15 @@ namespace {
 
 constexpr unsigned int TYPE_BITS = 8;
 constexpr unsigned int LENGTH_BITS = 32;
+/// What stands in front of each item: entity, type, length.
+constexpr std::size_t HEAD_BITS = 64 + TYPE_BITS + LENGTH_BITS;
+
+std::string nameItem(std::uint64_t entity, std::uint32_t type) {
+  const auto types = DataCacheItemFactory::getItemTypes();
+  const auto known = types.find(type);
+  return "the data cache item " + (known != types.end() ? known->second : std::to_string(type)) + " of entity " +
+         std::to_string(entity);
+}
 
 }
 
@@ -37,8 +47,8 @@ bool DataCacheSystem::advance(qsf::Time timePassed) {
   return true;
 }
 
-std::vector<DataCacheSystem::Item> DataCacheSystem::writeUpdate(qsf::game::BitStream& stream) {
-  std::vector<Item> written;
+DataCacheSystem::Update DataCacheSystem::writeUpdate(std::size_t mostBytes) {
+  Update update;
   for (const auto& [entity, items] : mItems) {
     for (const auto& [type, item] : items) {
       qsf::game::BitStream part;
@@ -49,16 +59,24 @@ std::vector<DataCacheSystem::Item> DataCacheSystem::writeUpdate(qsf::game::BitSt
             item->write(part);
             told = true;
           },
-          [&, entity = entity] { return "the data cache item of entity " + std::to_string(entity); });
+          [&, entity = entity, type = type] { return nameItem(entity, type); });
       if (!told) continue;
+      const std::size_t bits = HEAD_BITS + part.getNumberOfBits();
+      if (bits > mostBytes * 8) {
+        qsf::logMessage(qsf::LogSystem::ERROR, nameItem(entity, type) + " is too long to be sent");
+        continue;
+      }
+      if (update.streams.empty() || update.streams.back().getNumberOfBits() + bits > mostBytes * 8)
+        update.streams.emplace_back();
+      qsf::game::BitStream& stream = update.streams.back();
       stream.write(entity);
       stream.write(static_cast<std::uint8_t>(type), TYPE_BITS);
       stream.write(static_cast<std::uint32_t>(part.getNumberOfBits()), LENGTH_BITS);
       stream.append(part);
-      written.push_back({entity, part.getNumberOfBits()});
+      update.items.push_back({entity, part.getNumberOfBits()});
     }
   }
-  return written;
+  return update;
 }
 
 std::vector<DataCacheSystem::Item> DataCacheSystem::readUpdate(std::uint32_t tick, qsf::game::BitStream stream) {
@@ -74,11 +92,10 @@ std::vector<DataCacheSystem::Item> DataCacheSystem::readUpdate(std::uint32_t tic
     if (ofEntity == mItems.end()) continue;
     const auto item = ofEntity->second.find(type);
     if (item == ofEntity->second.end()) continue;
-    const bool fine = qsf::callGuarded([&] { item->second->read(part, clock); },
-                                       [&] { return "the data cache item of entity " + std::to_string(entity); });
+    const bool fine =
+        qsf::callGuarded([&] { item->second->read(part, clock); }, [&] { return nameItem(entity, type); });
     if (!fine) continue;
-    qsf::callGuarded([&] { item->second->apply(clock); },
-                     [&] { return "the data cache item of entity " + std::to_string(entity); });
+    qsf::callGuarded([&] { item->second->apply(clock); }, [&] { return nameItem(entity, type); });
     done.push_back({entity, bits});
   }
   return done;

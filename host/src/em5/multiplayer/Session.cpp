@@ -69,12 +69,11 @@ void SessionBase::receive() {
 }
 
 void SessionBase::sendDataCacheUpdate() {
-  qsf::game::BitStream update;
-  const std::vector<DataCacheSystem::Item> items = mDataCache.writeUpdate(update);
-  if (items.empty()) return;
-  for (const std::uint8_t other : mOthers)
-    mTransport->send(other, {Envelope::Kind::DATA_CACHE, mLocalIndex, mDataCache.getTick(), update});
-  for (const DataCacheSystem::Item& item : items)
+  const DataCacheSystem::Update update = mDataCache.writeUpdate(Envelope::MOST_BYTES);
+  for (const qsf::game::BitStream& stream : update.streams)
+    for (const std::uint8_t other : mOthers)
+      mTransport->send(other, {Envelope::Kind::DATA_CACHE, mLocalIndex, mDataCache.getTick(), stream});
+  for (const DataCacheSystem::Item& item : update.items)
     tell({Traffic::Kind::SYNCED, 0, 0, item.entity, item.bits, true});
 }
 

@@ -1,6 +1,7 @@
 #include "em5/multiplayer/DataCache.h"
 
 #include "em5/multiplayer/DataCacheSystem.h"
+#include "em5/multiplayer/Transport.h"
 #include "em5/settings/GameSettingsGroup.h"
 #include "host/em5/SessionFixture.h"
 #include "qsf/component/MetadataComponent.h"
@@ -173,16 +174,16 @@ TEST_F(DataCacheTest, WhatTheHostWritesItsClientReadsAndAppliesAtTheUpdatesTick)
   DataCacheSystem host, client;
   host.startGame();
   client.startGame();
-  qsf::game::BitStream update;
-  const auto written = host.writeUpdate(update);
-  ASSERT_EQ(written.size(), 1u);
-  EXPECT_EQ(written[0].entity, 101u);
-  EXPECT_EQ(written[0].bits, 8u);
-  EXPECT_EQ(client.readUpdate(42, update).size(), 1u);
+  const DataCacheSystem::Update update = host.writeUpdate(Envelope::MOST_BYTES);
+  ASSERT_EQ(update.items.size(), 1u);
+  ASSERT_EQ(update.streams.size(), 1u);
+  EXPECT_EQ(update.items[0].entity, 101u);
+  EXPECT_EQ(update.items[0].bits, 8u);
+  EXPECT_EQ(client.readUpdate(42, update.streams[0]).size(), 1u);
   EXPECT_EQ(factory.probes[1]->readAt, std::vector<std::uint32_t>{42});
   EXPECT_EQ(factory.probes[1]->appliedAt, std::vector<std::uint32_t>{42});
   client.stopGame();
-  EXPECT_TRUE(client.readUpdate(43, update).empty());
+  EXPECT_TRUE(client.readUpdate(43, update.streams[0]).empty());
 }
 
 TEST_F(DataCacheTest, AnItemThatIsLeftOutOrFaultyCostsTheOthersNothing) {
@@ -196,11 +197,35 @@ TEST_F(DataCacheTest, AnItemThatIsLeftOutOrFaultyCostsTheOthersNothing) {
     probe->included = probe->getEntityId() != 101;
     probe->faulty = probe->getEntityId() == 102;
   }
-  qsf::game::BitStream update;
-  const auto written = cache.writeUpdate(update);
+  const auto written = cache.writeUpdate(Envelope::MOST_BYTES).items;
   ASSERT_EQ(written.size(), 1u);
   EXPECT_EQ(written[0].entity, 103u);
-  EXPECT_TRUE(logged(4, "the data cache item of entity 102"));
+  EXPECT_TRUE(logged(4, "the data cache item Probe of entity 102"));
+}
+
+TEST_F(DataCacheTest, AnUpdateBeyondAnEnvelopeGoesInSeveralOfOneTick) {
+  ProbeFactory factory;
+  for (const std::uint64_t id : {102, 103})
+    session->getQsf().getMainMap().createEntity(id);
+  DataCacheSystem host, client;
+  host.startGame();
+  client.startGame();
+  const DataCacheSystem::Update update = host.writeUpdate(28); // an item counts 14 bytes, its head included
+  EXPECT_EQ(update.items.size(), 3u);
+  ASSERT_EQ(update.streams.size(), 2u);
+  EXPECT_EQ(update.streams[0].getNumberOfBits(), 28u * 8);
+  EXPECT_EQ(client.readUpdate(7, update.streams[0]).size(), 2u);
+  EXPECT_EQ(client.readUpdate(7, update.streams[1]).size(), 1u);
+}
+
+TEST_F(DataCacheTest, AnItemThatFitsInNoEnvelopeIsLeftOut) {
+  ProbeFactory factory;
+  DataCacheSystem host;
+  host.startGame();
+  const DataCacheSystem::Update update = host.writeUpdate(13);
+  EXPECT_TRUE(update.items.empty());
+  EXPECT_TRUE(update.streams.empty());
+  EXPECT_TRUE(logged(4, "the data cache item Probe of entity 101 is too long to be sent"));
 }
 
 TEST_F(DataCacheTest, AnUpdateIsReadUpToItsBreak) {
@@ -222,7 +247,7 @@ TEST_F(DataCacheTest, AnUpdateIsReadUpToItsBreak) {
   item(update, 101, 0xFFFFFFFF); // more than there is
   EXPECT_EQ(cache.readUpdate(1, update).size(), 1u);
   EXPECT_EQ(factory.probes[0]->appliedAt.size(), 1u);
-  EXPECT_TRUE(logged(4, "the data cache item of entity 101"));
+  EXPECT_TRUE(logged(4, "the data cache item Probe of entity 101"));
 }
 
 }

@@ -4,7 +4,8 @@ namespace script {
 
 class ScenarioHandler;
 
-/// Somebody outside the scripts who keeps handlers, such as a document whose buttons switch triggers. Registered for as
+/// Somebody outside the scripts who keeps handlers, such as a document whose buttons switch
+/// triggers, or what messages have told each of them. Registered for as
 /// long as it lives.
 class HandlerWatch {
 public:

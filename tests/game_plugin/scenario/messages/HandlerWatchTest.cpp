@@ -1,4 +1,4 @@
-#include "game_plugin/scenario/tick/HandlerWatch.h"
+#include "game_plugin/scenario/messages/HandlerWatch.h"
 
 #include "tests/game_plugin/scenario/ScriptFixture.h"
 
