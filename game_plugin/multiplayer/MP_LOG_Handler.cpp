@@ -26,12 +26,7 @@ qsf::game::BitStream writeLine(const std::string& text, std::uint8_t player) {
 
 }
 
-MP_LOG_Handler* MP_LOG_Handler::get() {
-  em5::NetworkManager* network = hasLocalPlayer() ? activeNetwork() : nullptr;
-  if (!network) return nullptr;
-  return dynamic_cast<MP_LOG_Handler*>(
-      network->getSession()->getOperationMessageHandlerManager().getHandlerById(MESSAGE, 0));
-}
+MP_LOG_Handler* MP_LOG_Handler::get() { return hasLocalPlayer() ? handlerOfSession<MP_LOG_Handler>() : nullptr; }
 
 void MP_LOG_Handler::sendLogToHost(const std::string& text, std::uint8_t player) const {
   const em5::NetworkManager* network = hasLocalPlayer() ? activeNetwork() : nullptr;

@@ -100,12 +100,7 @@ void hintAtForeignPlayer(const TriggerInstruction& instruction, std::uint32_t se
 
 }
 
-ScriptHandler* ScriptHandler::get() {
-  em5::NetworkManager* network = activeNetwork();
-  if (!network) return nullptr;
-  return dynamic_cast<ScriptHandler*>(
-      network->getSession()->getOperationMessageHandlerManager().getHandlerById(MESSAGE, 0));
-}
+ScriptHandler* ScriptHandler::get() { return handlerOfSession<ScriptHandler>(); }
 
 void ScriptHandler::sendTriggerToAllClients(std::uint32_t triggerHash, const std::vector<std::uint64_t>& callers,
                                             std::uint64_t target, std::uint8_t player) const {
